@@ -1,0 +1,9 @@
+# What every target is compiled with: its warnings, and the rules of its arithmetic.
+
+add_library(quillet_flags INTERFACE)
+target_compile_options(quillet_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wfloat-conversion -Wshadow
+  -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual -Wnull-dereference -Wimplicit-fallthrough
+  $<$<BOOL:${QUILLET_WERROR}>:-Werror>
+  # The order and the rounding of every sum are behaviour: no contraction, no fast-math.
+  -ffp-contract=off -fno-fast-math)

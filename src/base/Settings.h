@@ -1,0 +1,43 @@
+// Every value that the program keeps in its settings: root, section and name, in one place.
+#pragma once
+
+#include <string>
+
+#include "platform/SettingsHive.h"
+
+namespace quillet {
+
+struct Setting {
+  HiveRoot eRoot;
+  const char* sSection;  ///< under RegistryRoot
+  const char* sName;
+  const char* sDefault;
+};
+
+namespace settings {
+
+/// View at start: "0" for the wizard, any other text for the calculator. Created if missing.
+inline constexpr Setting kStartMode{HiveRoot::User, "Config", "StartMode", "0"};
+/// Grid step of the calculator in twips; what isn't numeric counts as 120. Created if missing.
+inline constexpr Setting kSnapToGrid{HiveRoot::User, "Config", "SnapToGrid", "120"};
+/// The default auction, in the text of an auction file.
+inline constexpr Setting kDefaultAuction{HiveRoot::User, "Config", "DefaultAuction", ""};
+/// Last folder used for auctions; the default is made from the user's documents folder.
+inline constexpr Setting kLastFolder{HiveRoot::User, "Config", "LastFolder", ""};
+/// Colours as decimal numbers, red in the low byte. Read only.
+inline constexpr Setting kSubtotalColour{HiveRoot::User, "Config", "SubtotalColour", "33023"};
+inline constexpr Setting kTotalColour{HiveRoot::User, "Config", "TotalColour", "12648384"};
+/// Parameters of the about movie, in the movie's own words.
+inline constexpr Setting kMusicId{HiveRoot::User, "Config", "MusicID", "music=0"};
+inline constexpr Setting kMusicMute{HiveRoot::User, "Config", "MusicMute", "mute=false"};
+/// Day number of the update attempt in progress; deleted when it succeeds.
+inline constexpr Setting kFtpSkipFlag{HiveRoot::User, "Config", "FTPSkipFlag", ""};
+/// Size of the interface in percent.
+inline constexpr Setting kZoom{HiveRoot::User, "Config", "Zoom", ""};
+/// The scrolling message of the about page.
+inline constexpr Setting kAbout{
+    HiveRoot::Machine, "Config", "About",
+    "Welcome to Quillet.\\nKnow what a sale will leave you before you list it."};
+
+}  // namespace settings
+}  // namespace quillet

@@ -1,0 +1,78 @@
+#include "base/basCommon.h"
+
+#include <algorithm>
+
+#include "base/conversions.h"
+#include "base/region.h"
+#include "base/text.h"
+#include "platform/Files.h"
+
+namespace quillet {
+namespace {
+
+bool IsPrintableToken(char cToken) {
+  const char cUpper = UpperCase(std::string(1, cToken)).front();
+  return cUpper >= 48 && cUpper <= 90;
+}
+
+bool IsControlCharacter(char cToken) {
+  return static_cast<unsigned char>(cToken) < 32;
+}
+
+}  // namespace
+
+std::string EditionName() {
+  const std::string sTitle = "Quillet";
+  switch (RegionCode()) {
+    case 0:
+      return sTitle + " UK";
+    case 1:
+      return sTitle + " US";
+    default:
+      return sTitle;
+  }
+}
+
+std::string RegistryRoot() {
+  return "Software\\Velmor\\" + EditionName();
+}
+
+std::string UpdateFileName(bool bNameOnly) {
+  const std::string sName = RegionCode() == 1 ? "UpdateUS_v0101.dat" : "UpdateUK_v0101.dat";
+  return bNameOnly ? sName : NativePath(TheHost().ProgramFolder() + "\\" + sName);
+}
+
+std::int32_t MaxLong(std::int32_t nLeft, std::int32_t nRight) {
+  return std::max(nLeft, nRight);
+}
+
+Single MinSingle(Single fLeft, Single fRight) {
+  return fLeft < fRight ? fLeft : fRight;
+}
+
+Answer ShowMessage(const std::string& sPrompt, int nButtons, const std::string& sTitle) {
+  return TheHost().ShowMessage(sPrompt, nButtons, sTitle);
+}
+
+void WaitMilliseconds(std::int64_t nMilliseconds) {
+  const std::int64_t nEnd = TheHost().TickCount() + nMilliseconds;
+  while (TheHost().TickCount() < nEnd) {
+    TheHost().PumpEvents();
+  }
+}
+
+std::string FormKeyName(const std::string& sName) {
+  return sName.starts_with("frm") ? sName.substr(3) : sName;
+}
+
+std::string CleanString(const std::string& sText) {
+  std::string sClean(Trim(sText));
+  std::size_t nCut = 0;
+  for (auto i = sClean.rbegin(); i != sClean.rend() && !IsPrintableToken(*i); ++i) {
+    nCut += IsControlCharacter(*i) ? 1U : 0U;
+  }
+  sClean.resize(sClean.size() - nCut);
+  return std::string(Trim(sClean));
+}
+
+}  // namespace quillet

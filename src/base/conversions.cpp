@@ -1,0 +1,314 @@
+#include "base/conversions.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "base/text.h"
+#include "platform/Host.h"
+
+namespace quillet {
+namespace {
+
+bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+
+bool TakeSign(std::string_view& sText) {
+  if (sText.empty() || (sText.front() != '+' && sText.front() != '-')) {
+    return false;
+  }
+  const bool bNegative = sText.front() == '-';
+  sText.remove_prefix(1);
+  return bNegative;
+}
+
+/// The parts of a number's text, and its value as long as it fits: digits * 10 ^ exponent.
+struct Scanned {
+  bool bNegative = false;
+  bool bWhole = true;          ///< every digit went into uDigits
+  std::uint64_t uDigits = 0;   ///< the significant digits, up to nineteen of them
+  std::int64_t nExponent = 0;  ///< the power of ten that uDigits stands for
+  std::string_view sUnsigned;  ///< the text behind the sign
+  std::size_t nSeparator = std::string_view::npos;  ///< its place in sUnsigned
+};
+
+constexpr std::int64_t kLargestExponent = 1'000'000;  // beyond every format's range
+
+void TakeDigits(std::string_view& sText, Scanned& oNumber, bool bFraction, bool& bAny) {
+  constexpr std::uint64_t kRoomForOneMore = 999'999'999'999'999'999;
+  while (!sText.empty() && IsDigit(sText.front())) {
+    bAny = true;
+    const bool bFits = oNumber.uDigits <= kRoomForOneMore;
+    if (bFits) {
+      oNumber.uDigits = oNumber.uDigits * 10 + static_cast<std::uint64_t>(sText.front() - '0');
+    }
+    oNumber.bWhole = oNumber.bWhole && bFits;
+    oNumber.nExponent += (bFits ? 0 : 1) - (bFraction ? 1 : 0);
+    sText.remove_prefix(1);
+  }
+}
+
+bool TakeExponent(std::string_view& sText, Scanned& oNumber) {
+  if (sText.empty() || LowerCase(sText.front()) != 'e') {
+    return true;
+  }
+  sText.remove_prefix(1);
+  const bool bNegative = TakeSign(sText);
+  if (sText.empty()) {
+    return false;
+  }
+  std::int64_t nExponent = 0;
+  while (!sText.empty() && IsDigit(sText.front())) {
+    nExponent = std::min(nExponent * 10 + (sText.front() - '0'), kLargestExponent);
+    sText.remove_prefix(1);
+  }
+  oNumber.nExponent += bNegative ? -nExponent : nExponent;
+  return true;
+}
+
+/// Takes a number apart; nothing if the text isn't one.
+std::optional<Scanned> Scan(std::string_view sText, std::string_view sSeparator) {
+  sText = Trim(sText);
+  Scanned oNumber;
+  oNumber.bNegative = TakeSign(sText);
+  oNumber.sUnsigned = sText;
+  bool bAny = false;
+  TakeDigits(sText, oNumber, false, bAny);
+  if (sText.starts_with(sSeparator)) {
+    oNumber.nSeparator = oNumber.sUnsigned.size() - sText.size();
+    sText.remove_prefix(sSeparator.size());
+    TakeDigits(sText, oNumber, true, bAny);
+  }
+  if (!bAny || !TakeExponent(sText, oNumber) || !sText.empty()) {
+    return std::nullopt;
+  }
+  return oNumber;
+}
+
+/// The number by the library's exact conversion: nothing on overflow, 0 on underflow.
+template <typename Float>
+std::optional<Float> ConvertExactly(const Scanned& oNumber, std::string_view sSeparator) {
+  std::string sText(oNumber.sUnsigned);
+  if (oNumber.nSeparator != std::string_view::npos) {
+    sText.replace(oNumber.nSeparator, sSeparator.size(), ".");
+  }
+  Float fValue = 0;
+  const auto oResult = std::from_chars(sText.data(), sText.data() + sText.size(), fValue);
+  if (oResult.ec == std::errc::result_out_of_range) {
+    const bool bTiny = oNumber.uDigits == 0 || oNumber.nExponent < 0;
+    return bTiny ? std::optional<Float>(Float{0}) : std::nullopt;
+  }
+  return oResult.ec == std::errc{} ? std::optional<Float>(fValue) : std::nullopt;
+}
+
+/// A short number is one exact integer times or divided by one exact power of ten, which rounds
+/// once and so gives the nearest float; anything else goes the long way.
+template <typename Float>
+std::optional<Float> Convert(std::string_view sText) {
+  constexpr bool bDouble = sizeof(Float) == sizeof(double);
+  constexpr std::uint64_t kExactInteger = std::uint64_t{1} << std::numeric_limits<Float>::digits;
+  constexpr std::int64_t kExactPower = bDouble ? 22 : 10;
+  static constexpr std::array<Float, 23> kPowers = [] {
+    std::array<Float, 23> afPowers{1};
+    for (std::size_t i = 1; i < afPowers.size(); ++i) {
+      afPowers.at(i) = afPowers.at(i - 1) * 10;
+    }
+    return afPowers;
+  }();
+
+  const std::string& sSeparator = TheHost().DecimalSeparator();
+  const std::optional<Scanned> oNumber = Scan(sText, sSeparator);
+  if (!oNumber) {
+    return std::nullopt;
+  }
+  std::optional<Float> fValue;
+  if (oNumber->bWhole && oNumber->uDigits <= kExactInteger &&
+      std::abs(oNumber->nExponent) <= kExactPower) {
+    const Float fPower = kPowers.at(static_cast<std::size_t>(std::abs(oNumber->nExponent)));
+    const auto fDigits = static_cast<Float>(oNumber->uDigits);
+    fValue = oNumber->nExponent < 0 ? fDigits / fPower : fDigits * fPower;
+  } else {
+    fValue = ConvertExactly<Float>(*oNumber, sSeparator);
+  }
+  if (fValue && oNumber->bNegative) {
+    fValue = -*fValue;
+  }
+  return fValue;
+}
+
+template <typename Integer>
+std::optional<Integer> ConvertInteger(std::string_view sText) {
+  sText = Trim(sText);
+  if (sText.starts_with('+')) {
+    sText.remove_prefix(1);
+    if (sText.starts_with('-')) {
+      return std::nullopt;
+    }
+  }
+  std::int64_t nValue = 0;
+  const auto oResult = std::from_chars(sText.data(), sText.data() + sText.size(), nValue);
+  if (oResult.ec != std::errc{} || oResult.ptr != sText.data() + sText.size() ||
+      nValue < std::numeric_limits<Integer>::min() ||
+      nValue > std::numeric_limits<Integer>::max()) {
+    return std::nullopt;
+  }
+  return static_cast<Integer>(nValue);
+}
+
+/// What a pattern of FormatNumber asks for.
+struct Pattern {
+  std::string_view sBefore;
+  std::string_view sBehind;
+  std::size_t nLeastWhole = 0;     ///< digits before the separator that always stand
+  std::size_t nLeastDecimals = 0;  ///< decimals that always stand
+  std::size_t nMostDecimals = 0;
+  bool bGrouped = false;
+};
+
+Pattern ReadPattern(std::string_view sPattern) {
+  constexpr std::size_t kMostDecimals = 12;  // up to here a float scales exactly in a double
+  Pattern oPattern;
+  const std::size_t nFirst = sPattern.find_first_of("0#");
+  std::size_t nAt = nFirst;
+  bool bDecimals = false;
+  for (; nAt < sPattern.size(); ++nAt) {
+    const char c = sPattern[nAt];
+    if (c == '.' && !bDecimals) {
+      bDecimals = true;
+    } else if (c == ',' && !bDecimals) {
+      oPattern.bGrouped = true;
+    } else if (c != '0' && c != '#') {
+      break;
+    } else if (bDecimals) {
+      oPattern.nMostDecimals = std::min(oPattern.nMostDecimals + 1, kMostDecimals);
+      oPattern.nLeastDecimals = c == '0' ? oPattern.nMostDecimals : oPattern.nLeastDecimals;
+    } else {
+      oPattern.nLeastWhole += c == '0' ? 1U : 0U;
+    }
+  }
+  oPattern.sBefore = sPattern.substr(0, nFirst);
+  oPattern.sBehind = sPattern.substr(nAt);
+  return oPattern;
+}
+
+/// The digits of |value| * 10 ^ nDecimals, rounded with a half going up. Both the product, for up
+/// to twelve decimals, and the rounding are exact.
+std::string ScaledDigits(Single fValue, std::size_t nDecimals) {
+  const double fScaled = std::abs(double{fValue}) * std::pow(10.0, static_cast<double>(nDecimals));
+  std::array<char, 64> acDigits{};
+  const auto oResult = std::to_chars(acDigits.data(), acDigits.data() + acDigits.size(),
+                                     std::round(fScaled), std::chars_format::fixed, 0);
+  return {acDigits.data(), oResult.ptr};
+}
+
+void InsertGroups(std::string& sWhole, std::string_view sGroup) {
+  for (std::size_t nAt = sWhole.size(); nAt > 3;) {
+    nAt -= 3;
+    sWhole.insert(nAt, sGroup);
+  }
+}
+
+}  // namespace
+
+std::optional<double> ToDouble(std::string_view sText) {
+  return Convert<double>(sText);
+}
+
+bool IsNumeric(std::string_view sText) {
+  return ToDouble(sText).has_value();
+}
+
+std::optional<Single> ToSingle(std::string_view sText) {
+  const std::optional<float> fValue = Convert<float>(sText);
+  return fValue ? std::optional<Single>(static_cast<double>(*fValue)) : std::nullopt;
+}
+
+std::optional<std::int32_t> ToLong(std::string_view sText) {
+  return ConvertInteger<std::int32_t>(sText);
+}
+
+std::optional<std::int16_t> ToInteger(std::string_view sText) {
+  return ConvertInteger<std::int16_t>(sText);
+}
+
+std::optional<std::uint8_t> ToByte(std::string_view sText) {
+  return ConvertInteger<std::uint8_t>(sText);
+}
+
+std::optional<bool> ToBoolean(std::string_view sText) {
+  if (EqualIgnoringCase(Trim(sText), "True")) {
+    return true;
+  }
+  if (EqualIgnoringCase(Trim(sText), "False")) {
+    return false;
+  }
+  const std::optional<double> fValue = ToDouble(sText);
+  return fValue ? std::optional<bool>(*fValue != 0) : std::nullopt;
+}
+
+std::int32_t RoundToLong(double fValue) {
+  const double fWhole = std::nearbyint(fValue);
+  if (!(fWhole >= std::numeric_limits<std::int32_t>::min() &&
+        fWhole <= std::numeric_limits<std::int32_t>::max())) {
+    throw Failure(FailureNumber::Overflow, "A number is too large to be a whole number here.");
+  }
+  return static_cast<std::int32_t>(fWhole);
+}
+
+std::string SingleText(Single fValue) {
+  if (fValue == 0) {
+    return "0";
+  }
+  std::array<char, 32> acText{};
+  const auto oResult = std::to_chars(acText.data(), acText.data() + acText.size(), double{fValue},
+                                     std::chars_format::general, 7);
+  std::string sText = UpperCase({acText.data(), oResult.ptr});
+  if (const std::size_t nPoint = sText.find('.'); nPoint != std::string::npos) {
+    sText.replace(nPoint, 1, TheHost().DecimalSeparator());
+  }
+  return sText;
+}
+
+std::string BooleanText(bool bValue) {
+  return bValue ? "True" : "False";
+}
+
+std::string FormatNumber(Single fValue, std::string_view sPattern) {
+  if (sPattern.empty()) {
+    return SingleText(fValue);
+  }
+  if (sPattern.find_first_of("0#") == std::string_view::npos) {
+    return std::string(sPattern);
+  }
+  const Pattern oPattern = ReadPattern(sPattern);
+  std::string sDigits = ScaledDigits(fValue, oPattern.nMostDecimals);
+  const bool bZero = sDigits == "0";
+  sDigits = PadLeftWith(std::move(sDigits), oPattern.nMostDecimals + 1, "0");
+
+  const std::size_t nWhole = sDigits.size() - oPattern.nMostDecimals;
+  std::string sWhole = sDigits.substr(0, nWhole);
+  std::string sDecimals = sDigits.substr(nWhole);
+  if (sWhole == "0") {
+    sWhole.clear();
+  }
+  sWhole = PadLeftWith(std::move(sWhole), oPattern.nLeastWhole, "0");
+  while (sDecimals.size() > oPattern.nLeastDecimals && sDecimals.back() == '0') {
+    sDecimals.pop_back();
+  }
+
+  const std::string& sSeparator = TheHost().DecimalSeparator();
+  if (oPattern.bGrouped) {
+    InsertGroups(sWhole, sSeparator == "," ? "." : ",");
+  }
+  std::string sText = fValue < 0 && !bZero ? "-" : "";
+  sText.append(oPattern.sBefore).append(sWhole);
+  if (!sDecimals.empty()) {
+    sText.append(sSeparator).append(sDecimals);
+  }
+  return sText.append(oPattern.sBehind);
+}
+
+}  // namespace quillet

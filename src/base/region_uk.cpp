@@ -1,0 +1,9 @@
+#include "base/region.h"
+
+namespace quillet {
+
+std::int32_t RegionCode() {
+  return 0;
+}
+
+}  // namespace quillet

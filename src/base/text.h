@@ -1,0 +1,48 @@
+// Characters: text is UTF-8 inside, and where characters are counted, a character is a UTF-16 unit.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace quillet {
+
+/// How many UTF-16 units a UTF-8 text takes. A byte that is no part of valid UTF-8 counts as one.
+[[nodiscard]] std::size_t Utf16Length(std::string_view sText);
+
+[[nodiscard]] std::u16string ToUtf16(std::string_view sText);
+[[nodiscard]] std::string FromUtf16(std::u16string_view sText);
+
+[[nodiscard]] bool IsValidUtf8(std::string_view sBytes);
+
+/// The text of a file: UTF-8 as it stands, anything else read as Windows-1252.
+[[nodiscard]] std::string DecodeText(std::string sBytes);
+
+/// A to Z in place of a to z; other characters stay.
+[[nodiscard]] std::string UpperCase(std::string sText);
+
+/// The same character without regard to the case of A to Z.
+[[nodiscard]] constexpr char LowerCase(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+}
+
+[[nodiscard]] bool EqualIgnoringCase(std::string_view sLeft, std::string_view sRight);
+
+/// Without the blanks (spaces and tabs) at both ends.
+[[nodiscard]] std::string_view Trim(std::string_view sText);
+
+/// Without the NUL characters at its end.
+[[nodiscard]] std::string TrimAtNul(std::string sText);
+
+/// Prepends `sPad` until the text has at least `nLength` characters. An empty pad adds nothing.
+[[nodiscard]] std::string PadLeftWith(std::string sText, std::size_t nLength,
+                                      std::string_view sPad);
+
+/// Appends to `sOut`, for each character of `sText`, its code as four hexadecimal digits.
+void StringToHex(std::string_view sText, std::string& sOut);
+
+/// The reverse: appends to `sOut` the character of each four digits. What isn't hexadecimal is a
+/// Failure.
+void HexToString(std::string_view sHex, std::string& sOut);
+
+}  // namespace quillet

@@ -1,0 +1,98 @@
+#include "documents/Section.h"
+
+#include "base/conversions.h"
+#include "base/failure.h"
+#include "base/text.h"
+
+namespace quillet {
+namespace {
+
+constexpr char kSeparator = '|';
+
+/// What stands between the first marker of its kind in the text and the next.
+std::string_view Between(std::string_view sData, std::string_view sMarker) {
+  const std::size_t nFirst = sData.find(sMarker);
+  const std::size_t nNext =
+      nFirst == std::string_view::npos ? nFirst : sData.find(sMarker, nFirst + 1);
+  if (nNext == std::string_view::npos) {
+    throw Failure(FailureNumber::SectionMissing, "Failure loading section " + std::string(sMarker));
+  }
+  const std::size_t nStart = nFirst + sMarker.size();
+  return sData.substr(nStart, nNext - nStart);
+}
+
+}  // namespace
+
+SectionWriter::SectionWriter(std::string& sData, std::string_view sMarker)
+    : m_sData(sData), m_sMarker(sMarker) {
+  m_sData += m_sMarker;
+}
+
+SectionWriter& SectionWriter::Add(Single fValue) {
+  Separate();
+  m_sData += SingleText(fValue);
+  return *this;
+}
+
+SectionWriter& SectionWriter::Add(std::int32_t nValue) {
+  return AddPadded(nValue, 1);
+}
+
+SectionWriter& SectionWriter::Add(bool bValue) {
+  Separate();
+  m_sData += BooleanText(bValue);
+  return *this;
+}
+
+SectionWriter& SectionWriter::AddPadded(std::int32_t nValue, std::size_t nDigits) {
+  Separate();
+  m_sData += PadLeftWith(std::to_string(nValue), nDigits, "0");
+  return *this;
+}
+
+void SectionWriter::Close() {
+  m_sData += m_sMarker;
+}
+
+void SectionWriter::Separate() {
+  if (!m_bFirst) {
+    m_sData += kSeparator;
+  }
+  m_bFirst = false;
+}
+
+SectionReader::SectionReader(std::string_view sData, std::string_view sMarker) {
+  const std::string_view sValues = Between(sData, sMarker);
+  // A section too long to split leaves every field as it was.
+  IgnoreFailure([&] { m_oValues.Tokenise(sValues, std::string_view(&kSeparator, 1)); });
+}
+
+template <typename Field, typename Converter>
+void SectionReader::ReadAs(std::int32_t nPlace, Field& oField, Converter&& fnConvert) const {
+  if (nPlace < m_oValues.Count()) {
+    const auto oValue = fnConvert(m_oValues.Element(nPlace));
+    oField = oValue ? static_cast<Field>(*oValue) : oField;
+  }
+}
+
+void SectionReader::Read(std::int32_t nPlace, Single& fField) const {
+  ReadAs(nPlace, fField, ToSingle);
+}
+
+void SectionReader::Read(std::int32_t nPlace, bool& bField) const {
+  ReadAs(nPlace, bField, ToBoolean);
+}
+
+void SectionReader::ReadLong(std::int32_t nPlace, std::int32_t& nField) const {
+  ReadAs(nPlace, nField, ToLong);
+}
+
+void SectionReader::ReadInteger(std::int32_t nPlace, std::int32_t& nField) const {
+  ReadAs(nPlace, nField, ToInteger);
+}
+
+void SectionReader::ReadByte(std::int32_t nPlace, std::int32_t& nField) const {
+  ReadAs(nPlace, nField, ToByte);
+}
+
+}  // namespace quillet

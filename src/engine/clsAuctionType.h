@@ -1,0 +1,101 @@
+// The kind of listing, and the three fees that eBay charges for the listing itself.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "base/Single.h"
+#include "engine/clsOutlay.h"
+#include "prices/shopDuration.h"
+
+namespace quillet {
+
+// The values of these codes stand in auction files. Fields hold them as numbers, since a file may
+// hold others too; a code outside the list takes no part in any fee.
+
+enum eAuctionType : std::int32_t {
+  kAuctionStandard = 0,
+  kAuctionMotor = 1,
+  kAuctionRealEstate = 2,
+  kAuctionBusiness = 3,  ///< business and industrial
+};
+
+enum eMotorType : std::int32_t {
+  kMotorPassenger = 0,
+  kMotorMotorcycle = 1,
+  kMotorPowersports = 2,
+  kMotorPocketBikes = 3,
+  kMotorOther = 4,
+  kMotorParts = 5,
+};
+
+enum eRealEstateType : std::int32_t { kRealEstateTimeshare = 0, kRealEstateOther = 1 };
+
+enum eRealEstateSaleFormat : std::int32_t {
+  kSaleAuction10 = 0,
+  kSaleAuction30 = 1,
+  kSaleAdvert30 = 2,
+  kSaleAdvert90 = 3,
+};
+
+class clsAuctionType {
+ public:
+  clsAuctionType() { Serialize(m_sDefaultState, true); }
+
+  // Fees are in the auction's currency and not rounded to pennies. A price that the schedule lacks
+  // leaves its part of a fee as it was; a tier table that it lacks is a Failure.
+
+  /// DoCalc with the outlay of the last DoCalcListingFee; without one it is a Failure.
+  [[nodiscard]] Single DoCalcAuto();
+  /// Reserve, listing and final value fee together.
+  [[nodiscard]] Single DoCalc(const clsOutlay& oOutlay);
+  /// The insertion fee. Keeps `oOutlay` for DoCalcAuto; it must live as long as this object.
+  [[nodiscard]] Single DoCalcListingFee(const clsOutlay& oOutlay);
+  /// The reserve fee: it arises only at quantity 0, for every kind of listing.
+  [[nodiscard]] Single DoCalcReserveFee(const clsOutlay& oOutlay) const;
+  [[nodiscard]] Single DoCalcFinalValueFee(const clsOutlay& oOutlay) const;
+
+  /// Appends the section "[TYPE]" to `sData`, or reads it from there (docs/auction-file.md).
+  void Serialize(std::string& sData, bool bSave);
+
+  /// Back to the fresh state, but for m_bDirty.
+  void Clear() { Serialize(m_sDefaultState, false); }
+
+  // The United States rules; the routines above hand on to them in that region.
+  [[nodiscard]] Single DoCalcListingFee_US(const clsOutlay& oOutlay) const;
+  [[nodiscard]] Single DoCalcReserveFee_US(const clsOutlay& oOutlay) const;
+  [[nodiscard]] Single DoCalcFinalValueFee_US(const clsOutlay& oOutlay) const;
+
+  /// True for the listing of a vehicle; for vehicle parts the answer is `bAllowParts`.
+  [[nodiscard]] bool IsVehicle(bool bAllowParts) const;
+
+  std::int32_t m_eAuctionType = kAuctionStandard;
+  bool m_bBuyItNowOnly = false;  ///< fixed-price listing
+  bool m_bShopInventory = false;
+  std::int32_t m_eShopDuration = kShop30Days;
+  std::int32_t m_eMotorType = kMotorPassenger;
+  std::int32_t m_eRealEstateType = kRealEstateTimeshare;
+  std::int32_t m_eRealEstateSaleFormat = kSaleAuction10;
+  bool m_bRealEstateBinding = false;
+  bool m_bDirty = false;  ///< changed since last saved
+
+ private:
+  [[nodiscard]] Single DoCalcListingFee_UK(const clsOutlay& oOutlay) const;
+  [[nodiscard]] Single DoCalcReserveFee_UK(const clsOutlay& oOutlay) const;
+  [[nodiscard]] Single DoCalcFinalValueFee_UK(const clsOutlay& oOutlay) const;
+
+  // What both regions' rules share.
+  [[nodiscard]] Single OpeningFee(const clsOutlay& oOutlay) const;
+  [[nodiscard]] Single ProgressiveFinalValueFee(const clsOutlay& oOutlay) const;
+  [[nodiscard]] Single PerUnitIfFixedPrice(Single fFee, const clsOutlay& oOutlay) const;
+  [[nodiscard]] Single ApplyShopInventory(Single fFee) const;
+
+  const clsOutlay* m_oLastOutlay = nullptr;
+  std::string m_sDefaultState;
+};
+
+/// The amount under a key without a suffix; 0 if the schedule lacks it.
+[[nodiscard]] Single PriceOrZero(std::string_view sKey);
+
+}  // namespace quillet

@@ -1,0 +1,145 @@
+// The United States rules of clsAuctionType: vehicles pay a transaction fee, real estate is priced
+// by kind and sale format, business listings exist, and percentage reserve fees are capped.
+#include <array>
+
+#include "base/basCommon.h"
+#include "engine/clsAuctionType.h"
+#include "prices/clsPrices.h"
+
+namespace quillet {
+namespace {
+
+struct VehicleKeys {
+  const char* sListing;
+  const char* sTransaction;
+  const char* sReserve;
+};
+
+/// By eMotorType, parts excepted.
+constexpr std::array<VehicleKeys, 5> kVehicleKeys = {{
+    {"AuctionTypeMotorPassenger", "TransactionFeeMotorPassenger", "ReserveMotorPassenger"},
+    {"AuctionTypeMotorMotorcycle", "TransactionFeeMotorMotorcycle", "ReserveMotorMotorbike"},
+    {"AuctionTypeMotorPowersports", "TransactionFeeMotorPowersports", "ReserveMotorPowersports"},
+    {"AuctionTypeMotorPocketBikes", "TransactionFeeMotorPocketBikes", "ReserveMotorPocketBikes"},
+    {"AuctionTypeMotorOther", "TransactionFeeMotorOther", "ReserveMotorOther"},
+}};
+
+/// The keys of a vehicle, or none for parts and unknown codes.
+const VehicleKeys* KeysOfVehicle(const clsAuctionType& oType) {
+  return oType.IsVehicle(false) ? &kVehicleKeys.at(static_cast<std::size_t>(oType.m_eMotorType))
+                                : nullptr;
+}
+
+/// A code outside the lists adds nothing to the key.
+PriceKey RealEstateFeeKey(std::int32_t eRealEstateType, std::int32_t eSaleFormat) {
+  constexpr std::array<const char*, 2> kTypes = {"Timeshare", "Other"};
+  constexpr std::array<const char*, 4> kFormats = {"Auction10", "Auction30", "Ad30", "Ad90"};
+  PriceKey oKey = "AuctionTypeRealEstate";
+  const auto fnAppend = [&oKey](const auto& asNames, std::int32_t nCode) {
+    if (nCode >= 0 && static_cast<std::size_t>(nCode) < asNames.size()) {
+      oKey.Append(asNames.at(static_cast<std::size_t>(nCode)));
+    }
+  };
+  fnAppend(kTypes, eRealEstateType);
+  fnAppend(kFormats, eSaleFormat);
+  return oKey;
+}
+
+/// Tiers 1 and 2 are flat, tier 3 is a percentage up to a cap, which is 0 when it is missing.
+Single CappedTierFee(const char* sTierKey, const char* sCapKey, Single fReservePrice) {
+  clsPriceRange oTier;
+  Prices().HitTestRanges(sTierKey, fReservePrice, oTier, kShopNone);
+  switch (oTier.m_nIndex) {
+    case 1:
+    case 2:
+      return oTier.m_fValue;
+    case 3: {
+      const Single fFee = (oTier.m_fValue / 100) * fReservePrice;
+      return MinSingle(fFee, PriceOrZero(sCapKey));
+    }
+    default:
+      return 0;
+  }
+}
+
+}  // namespace
+
+Single clsAuctionType::DoCalcListingFee_US(const clsOutlay& oOutlay) const {
+  Single fFee;
+  switch (m_eAuctionType) {
+    case kAuctionStandard:
+      fFee = OpeningFee(oOutlay);
+      break;
+    case kAuctionMotor:
+      if (const VehicleKeys* const pKeys = KeysOfVehicle(*this)) {
+        fFee = PriceOrZero(pKeys->sListing) + PriceOrZero(pKeys->sTransaction);
+      } else if (m_eMotorType == kMotorParts) {
+        fFee = OpeningFee(oOutlay);
+      }
+      break;
+    case kAuctionRealEstate: {
+      const PriceKey oKey = RealEstateFeeKey(m_eRealEstateType, m_eRealEstateSaleFormat);
+      fFee = PerUnitIfFixedPrice(PriceOrZero(oKey.Text()), oOutlay);
+      break;
+    }
+    case kAuctionBusiness:
+      fFee = PriceOrZero("AuctionTypeBusiness");
+      break;
+    default:
+      break;
+  }
+  return ApplyShopInventory(fFee);
+}
+
+Single clsAuctionType::DoCalcReserveFee_US(const clsOutlay& oOutlay) const {
+  // The fee arises only when the quantity is 0, and never in a shop. That is how it is meant to be.
+  if (oOutlay.m_lQuantity != 0 || m_bShopInventory) {
+    return 0;
+  }
+  switch (m_eAuctionType) {
+    case kAuctionStandard:
+      return CappedTierFee("Reserve", "ReserveMax", oOutlay.m_fReservePrice);
+    case kAuctionMotor:
+      if (const VehicleKeys* const pKeys = KeysOfVehicle(*this)) {
+        return PriceOrZero(pKeys->sReserve);  // due for any reserve price, 0 included
+      }
+      return m_eMotorType == kMotorParts
+                 ? CappedTierFee("Reserve", "ReserveMax", oOutlay.m_fReservePrice)
+                 : Single(0);
+    case kAuctionRealEstate:
+      return oOutlay.m_fReservePrice > 0
+                 ? CappedTierFee("ReserveRealEstate", "ReserveRealEstateMax",
+                                 oOutlay.m_fReservePrice)
+                 : Single(0);
+    case kAuctionBusiness:
+      return PriceOrZero("ReserveBusiness");  // due for any reserve price, 0 included
+    default:
+      return 0;
+  }
+}
+
+Single clsAuctionType::DoCalcFinalValueFee_US(const clsOutlay& oOutlay) const {
+  switch (m_eAuctionType) {
+    case kAuctionStandard:
+      return ProgressiveFinalValueFee(oOutlay);
+    case kAuctionRealEstate: {
+      const bool bAdvert =
+          m_eRealEstateSaleFormat == kSaleAdvert30 || m_eRealEstateSaleFormat == kSaleAdvert90;
+      if (bAdvert || !m_bRealEstateBinding) {
+        return 0;
+      }
+      return m_eRealEstateType == kRealEstateTimeshare ? PriceOrZero("FinalRealEstateTimeshare")
+             : m_eRealEstateType == kRealEstateOther   ? PriceOrZero("FinalRealEstateOther")
+                                                       : Single(0);
+    }
+    case kAuctionBusiness: {
+      const Single fFee = (PriceOrZero("FinalBusiness") / 100) * oOutlay.m_fEstimatedEndPrice;
+      return MinSingle(fFee, PriceOrZero("FinalBusinessMax"));
+    }
+    default:
+      // No motor listing pays one, parts included: a vehicle's is in its transaction fee.
+      return 0;
+  }
+}
+
+}  // namespace quillet

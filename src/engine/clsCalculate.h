@@ -1,0 +1,63 @@
+// One auction: its five models, and the totals that they add up to.
+#pragma once
+
+#include <string>
+
+#include "base/Single.h"
+#include "engine/clsAuctionType.h"
+#include "engine/clsOutlay.h"
+#include "engine/clsPayPal.h"
+#include "engine/clsPostage.h"
+#include "engine/clsSellingFeatures.h"
+
+namespace quillet {
+
+class clsCalculate {
+ public:
+  clsCalculate() = default;
+  explicit clsCalculate(std::string sName) : m_sName(std::move(sName)) {}
+  clsCalculate(const clsCalculate&) = delete;  // the models keep references to one another
+  clsCalculate& operator=(const clsCalculate&) = delete;
+
+  void SetDirty(bool bDirty);
+  /// True if any model has changed since last saved.
+  [[nodiscard]] bool IsDirty() const;
+
+  /// Works out all totals. A Failure of a look-up passes through, and leaves the totals that come
+  /// behind it as they were.
+  void DoCalc();
+
+  /// The whole text of the auction (docs/auction-file.md): appended to `sData`, or read from there.
+  /// A section that is missing ends the reading and is shown in a message box; the caller sees a
+  /// normal return.
+  void Serialize(std::string& sData, bool bSave);
+
+  /// Takes over another auction's inputs, by way of its text: not its name, nor its totals.
+  void Copy(clsCalculate& oSourceAuction);
+
+  /// All five models back to their fresh state. The totals stay until the next DoCalc.
+  void Clear();
+
+  std::string m_sName;
+  Single m_fProfit;         ///< income less all costs
+  Single m_fSellCost;       ///< outlay and all selling fees
+  Single m_fPostageCost;    ///< what the postage comes to
+  Single m_fPostageProfit;  ///< profit on postage
+  Single m_fFinalValueFee;  ///< final value fee shown
+  Single m_fListingCost;    ///< listing fee
+  Single m_fReserveCost;    ///< reserve fee
+  Single m_fPayPayCost;     ///< PayPal fee
+  clsAuctionType m_oAuctionType;
+  clsOutlay m_oOutlay;
+  clsPayPal m_oPayPal;
+  clsSellingFeatures m_oSellingFeatures;
+  clsPostage m_oPostage;
+};
+
+/// The auction on screen; made on first use and never replaced.
+[[nodiscard]] clsCalculate& WorkingAuction();
+
+/// The template for new auctions; made on first use and never replaced.
+[[nodiscard]] clsCalculate& DefaultAuction();
+
+}  // namespace quillet

@@ -1,0 +1,37 @@
+// What the item cost, the prices of the listing, and how many there are.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "base/Single.h"
+
+namespace quillet {
+
+class clsOutlay {
+ public:
+  clsOutlay() { Serialize(m_sDefaultState, true); }
+
+  /// The total outlay: cost times quantity, and the local tax on it if m_bAddTax. A schedule
+  /// without "LocalTax" means no tax.
+  [[nodiscard]] Single DoCalc() const;
+
+  /// Appends the section "[OUTLAY]" to `sData`, or reads it from there (docs/auction-file.md).
+  void Serialize(std::string& sData, bool bSave);
+
+  /// Back to the fresh state, but for m_bDirty.
+  void Clear() { Serialize(m_sDefaultState, false); }
+
+  Single m_fOutlay;             ///< cost of one item
+  Single m_fStartingPrice;      ///< of the listing
+  Single m_fReservePrice;       ///< of the listing; 0 for none
+  Single m_fEstimatedEndPrice;  ///< hoped-for sale price of one item
+  std::int32_t m_lQuantity = 0;
+  bool m_bAddTax = false;  ///< local tax comes on top of the outlay
+  bool m_bDirty = false;   ///< changed since last saved
+
+ private:
+  std::string m_sDefaultState;
+};
+
+}  // namespace quillet

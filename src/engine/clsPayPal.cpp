@@ -1,0 +1,130 @@
+#include "engine/clsPayPal.h"
+
+#include <cmath>
+#include <limits>
+
+#include "base/conversions.h"
+#include "base/failure.h"
+#include "prices/clsPrices.h"
+#include "prices/money.h"
+
+namespace quillet {
+namespace {
+
+const char* RateName(std::int32_t eAccountType) {
+  switch (eAccountType) {
+    case kAccountPersonal:
+      return "PersonalRate";
+    case kAccountPremier:
+    case kAccountBusiness:
+      return "BusinessRate";
+    default:
+      return "";
+  }
+}
+
+enum eCurrency : std::int32_t {
+  kUSDollars = 0,
+  kCanadianDollars = 1,
+  kEuros = 2,
+  kPounds = 3,
+  kYen = 4,
+};
+
+const char* CurrencyName(std::int32_t eCurrency) {
+  switch (eCurrency) {
+    case kUSDollars:
+      return "USDollars";
+    case kCanadianDollars:
+      return "CanadianDollars";
+    case kEuros:
+      return "Euros";
+    case kPounds:
+      return "Pounds";
+    case kYen:
+      return "Yen";
+    default:
+      return "";
+  }
+}
+
+/// The text's amount in whole smallest units; an exact half goes down.
+Single RoundFee(const std::string& sFee) {
+  const double fFee = ToDouble(sFee).value_or(0);
+  Single fUnits = fFee * CurrencyUnitsPerMajor();
+  const Single fWhole = std::trunc(fUnits);
+  const Single fFraction = fUnits - fWhole;
+  fUnits = fFraction > 0.5 ? Single(fWhole + 1) : fWhole;
+  return fUnits / CurrencyUnitsPerMajor();
+}
+
+}  // namespace
+
+Single clsPayPal::DoCalc(Single fAmount, const clsOutlay* oOutlay) {
+  m_fLastPrice = fAmount;
+  m_oLastOutlay = oOutlay;
+  if (m_nBusinessBand == 0 || !m_bEnabled || fAmount <= 0) {
+    return 0;
+  }
+  // The schedule keeps its rates under this one currency in every region.
+  PriceKey oPercentKey = RateName(m_eAccountType);
+  oPercentKey.Append(CurrencyName(kPounds));
+  PriceKey oFixedKey = oPercentKey;
+  oPercentKey.Append("%");
+  oFixedKey.Append("Fixed");
+  Single fPercent;
+  Single fFixed;
+  if (m_eAccountType == kAccountPersonal) {
+    Prices().GetPrice(oPercentKey, fPercent, kShopNone);
+    Prices().GetPrice(oFixedKey, fFixed, kShopNone);
+  } else {
+    fPercent = BandRate(oPercentKey);
+    fFixed = BandRate(oFixedKey);
+  }
+  const Single fFixedTotal = ApplyIndividually(fFixed);
+  const Single fFee = fPercent / 100 * fAmount + fFixedTotal;
+  // The text's seven digits strip the noise of the float before its fraction is judged.
+  return RoundFee(SingleText(fFee));
+}
+
+Single clsPayPal::DoCalcAuto() {
+  return DoCalc(m_fLastPrice, m_oLastOutlay);
+}
+
+std::string clsPayPal::GetBusinessRateBandAttribute(std::int32_t nAttribute,
+                                                    std::int32_t& nBand) const {
+  if (nBand == 0) {
+    nBand = m_nBusinessBand;
+  }
+  if (nBand < std::numeric_limits<std::int16_t>::min() ||
+      nBand > std::numeric_limits<std::int16_t>::max()) {
+    throw Failure(FailureNumber::Overflow, "There is no such merchant rate band.");
+  }
+  PriceKey oKey = "BusinessRateBand";
+  oKey.Append(nBand).Append(nAttribute == 0 ? "Name" : "Value");
+  std::string_view sData;
+  Prices().GetData(oKey, sData);
+  return std::string(sData);
+}
+
+/// The rate of the chosen band. It is the band's own value that selects the tier, not the amount.
+Single clsPayPal::BandRate(const PriceKey& oKey) const {
+  std::int32_t nBand = 0;
+  const std::string sValue = GetBusinessRateBandAttribute(1, nBand);
+  const auto fValue = ToSingle(sValue);
+  if (!fValue) {
+    throw Failure(FailureNumber::TypeMismatch,
+                  "The fee schedule has no value for PayPal's merchant rate band " +
+                      std::to_string(nBand) + ".");
+  }
+  clsPriceRange oTier;
+  return Prices().HitTestRanges(oKey, *fValue, oTier, kShopNone) ? oTier.m_fValue : Single(0);
+}
+
+Single clsPayPal::ApplyIndividually(Single fAmount) const {
+  const bool bEach =
+      m_oLastOutlay != nullptr && m_oLastOutlay->m_lQuantity >= 2 && m_bPayIndividually;
+  return bEach ? Single(fAmount * m_oLastOutlay->m_lQuantity) : fAmount;
+}
+
+}  // namespace quillet

@@ -1,0 +1,60 @@
+// What PayPal takes from the money that the buyer pays.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "base/Single.h"
+#include "engine/clsOutlay.h"
+#include "prices/PriceKey.h"
+
+namespace quillet {
+
+enum eAccountType : std::int32_t {
+  kAccountPersonal = 0,
+  kAccountPremier = 1,
+  kAccountBusiness = 2,
+};
+
+class clsPayPal {
+ public:
+  clsPayPal() { Serialize(m_sDefaultState, true); }
+
+  /// The fee on an amount received: a percentage and a fixed charge, rounded to the smallest unit
+  /// of the currency with an exact half going down. Keeps what it is given for DoCalcAuto; the
+  /// outlay may be null and must otherwise live as long as this object. A premier or business
+  /// account whose band has no value, or whose tier tables are missing, is a Failure.
+  [[nodiscard]] Single DoCalc(Single fAmount, const clsOutlay* oOutlay);
+  /// DoCalc with what the latest one was given.
+  [[nodiscard]] Single DoCalcAuto();
+
+  /// True for premier and business accounts.
+  [[nodiscard]] bool CanHaveMerchantRate() const { return m_eAccountType > kAccountPersonal; }
+
+  /// The name (`nAttribute` 0) or value (any other) of a merchant-rate band; empty if the schedule
+  /// lacks it. A band of 0 stands for m_nBusinessBand, and is replaced by it.
+  [[nodiscard]] std::string GetBusinessRateBandAttribute(std::int32_t nAttribute,
+                                                         std::int32_t& nBand) const;
+
+  /// Appends the section "[PAYPAL]" to `sData`, or reads it from there (docs/auction-file.md).
+  void Serialize(std::string& sData, bool bSave);
+
+  /// Back to the fresh state, but for m_bDirty and what DoCalc keeps.
+  void Clear() { Serialize(m_sDefaultState, false); }
+
+  bool m_bEnabled = false;  ///< the seller takes PayPal
+  std::int32_t m_eAccountType = kAccountPersonal;
+  std::int32_t m_nBusinessBand = 1;          ///< from 1; 0 makes every account free of charge
+  bool m_bDirty = false;                     ///< changed since last saved
+  bool m_bPayIndividually = false;           ///< a payment, and a fixed charge, for each unit sold
+  const clsOutlay* m_oLastOutlay = nullptr;  ///< of the latest DoCalc; not owned
+
+ private:
+  [[nodiscard]] Single BandRate(const PriceKey& oKey) const;
+  [[nodiscard]] Single ApplyIndividually(Single fAmount) const;
+
+  Single m_fLastPrice;
+  std::string m_sDefaultState;
+};
+
+}  // namespace quillet

@@ -1,0 +1,193 @@
+#include "engine/clsSellingFeatures.h"
+
+#include <array>
+
+#include "base/failure.h"
+#include "base/region.h"
+#include "prices/clsPrices.h"
+
+namespace quillet {
+namespace {
+
+struct FeaturePrice {
+  const char* sName;
+  Single clsSellingFeatures::*fPrice;
+};
+
+using F = clsSellingFeatures;
+
+/// Every price that the schedule is asked for, by the name behind the key's prefix.
+constexpr std::array<FeaturePrice, 22> kFeaturePrices = {{
+    {"HomePage", &F::m_fHomePage},
+    {"HomePageMulti", &F::m_fHomePageMulti},
+    {"Plus", &F::m_fPlus},
+    {"Highlight", &F::m_fHighlight},
+    {"ItemSubtitle", &F::m_fItemSubtitle},
+    {"Bold", &F::m_fBold},
+    {"Gallery", &F::m_fGallery},
+    {"FeaturedGallery", &F::m_fFeaturedGallery},
+    {"BuyItNow", &F::m_fBuyItNow},
+    {"ScheduledListings", &F::m_fScheduledListings},
+    {"ListIn2Categories", &F::m_fListIn2Categories},
+    {"ListingDesigner", &F::m_fListingDesigner},
+    {"SlideShow", &F::m_fSlideShow},
+    {"SupersizePictures", &F::m_fSupersizePictures},
+    {"ExtraImage", &F::m_fExtraImage},
+    {"FeaturedInSearch", &F::m_fFeaturedInSearch},
+    {"10DayDuration", &F::m_f10DayDuration},
+    {"GiftServices", &F::m_fGiftServices},
+    {"PreviewPicture", &F::m_fPreviewPicture},
+    {"Border", &F::m_fBorder},
+    {"ListingItem", &F::m_fListingItem},
+    {"CarAd", &F::m_fCarAd},
+}};
+
+struct FlatFeature {
+  std::int32_t lFeature;
+  Single clsSellingFeatures::*fPrice;
+};
+
+/// The features behind Feature Plus that cost their flat price, in the order of the sum. Buy It Now
+/// has a price of its own and no field here.
+constexpr std::array<FlatFeature, 16> kFlatFeatures = {{
+    {kFeatureHighlight, &F::m_fHighlight},
+    {kFeatureItemSubtitle, &F::m_fItemSubtitle},
+    {kFeatureBold, &F::m_fBold},
+    {kFeatureGallery, &F::m_fGallery},
+    {kFeatureFeaturedGallery, &F::m_fFeaturedGallery},
+    {kFeatureBuyItNow, nullptr},
+    {kFeatureSlideShow, &F::m_fSlideShow},
+    {kFeatureSupersizePictures, &F::m_fSupersizePictures},
+    {kFeatureListingDesigner, &F::m_fListingDesigner},
+    {kFeatureFeaturedInSearch, &F::m_fFeaturedInSearch},
+    {kFeature10DayDuration, &F::m_f10DayDuration},
+    {kFeatureGiftServices, &F::m_fGiftServices},
+    {kFeaturePreviewPicture, &F::m_fPreviewPicture},
+    {kFeatureBorder, &F::m_fBorder},
+    {kFeatureListingItem, &F::m_fListingItem},
+    {kFeatureCarAd, &F::m_fCarAd},
+}};
+
+}  // namespace
+
+void clsSellingFeatures::RemoveFeature(std::int32_t lFeature) {
+  if (HasFeature(lFeature)) {
+    m_lFeatures ^= lFeature;
+  }
+}
+
+void clsSellingFeatures::SetFeature(std::int32_t lFeature, bool bOn) {
+  if (bOn) {
+    AddFeature(lFeature);
+  } else {
+    RemoveFeature(lFeature);
+  }
+}
+
+bool clsSellingFeatures::HasFeature(std::int32_t lFeature) const {
+  return (m_lFeatures & lFeature) == lFeature;
+}
+
+Single clsSellingFeatures::DoCalc(const clsAuctionType* oAuctionType, const clsOutlay* oOutlay) {
+  m_oAuctionType = oAuctionType != nullptr ? oAuctionType : m_oAuctionType;
+  m_oLastOutlay = oOutlay != nullptr ? oOutlay : m_oLastOutlay;
+  RefreshPrices();
+
+  Single fSum;
+  if (HasFeature(kFeaturePlus)) {
+    fSum = m_fPlus;
+  }
+  for (const FlatFeature& oFeature : kFlatFeatures) {
+    if (HasFeature(oFeature.lFeature)) {
+      fSum = fSum + (oFeature.fPrice != nullptr ? this->*oFeature.fPrice : GetBuyItNowFee());
+    }
+  }
+  if (HasFeature(kFeaturePicturePack)) {
+    fSum = fSum + GetPicturePackFee();
+  } else {
+    fSum = fSum + m_fExtraImage * m_lExtraImageCount;  // no feature bit guards the charge
+  }
+  if (HasFeature(kFeatureListIn2Categories)) {
+    fSum = fSum * m_fListIn2Categories;
+  }
+  // Behind the factor, so that these two are never doubled.
+  if (HasFeature(kFeatureHomePage)) {
+    fSum = fSum + GetHomePageFee();
+  }
+  if (HasFeature(kFeatureScheduledListing)) {
+    fSum = fSum + m_fScheduledListings;
+  }
+  return fSum;
+}
+
+const clsAuctionType& clsSellingFeatures::AuctionType() const {
+  if (m_oAuctionType == nullptr) {
+    throw Failure(FailureNumber::ObjectNotSet, "The kind of listing isn't known yet.");
+  }
+  return *m_oAuctionType;
+}
+
+PriceKey clsSellingFeatures::GetPriceKey(std::string_view sName) const {
+  PriceKey oKey = "Feature";
+  if (RegionCode() != 0) {
+    if (AuctionType().m_eAuctionType == kAuctionMotor) {
+      oKey.Append("Motor");
+      switch (AuctionType().m_eMotorType) {
+        case kMotorPocketBikes:
+          oKey.Append("PoketBikes");  // the schedule's spelling
+          break;
+        case kMotorParts:
+          oKey.Append("Parts");
+          break;
+        default:
+          break;
+      }
+    } else if (AuctionType().m_eAuctionType == kAuctionRealEstate) {
+      oKey.Append("RealEstate");
+    }
+  }
+  return oKey.Append(sName);
+}
+
+/// A price that the schedule lacks stays what it was, be it that of another kind of listing.
+void clsSellingFeatures::RefreshPrices() {
+  const std::int32_t nShop = AuctionType().m_eShopDuration;
+  PriceKey oKey = GetPriceKey("");
+  const std::size_t nPrefixLength = oKey.Text().size();
+  for (const FeaturePrice& oPrice : kFeaturePrices) {
+    Prices().GetPrice(oKey.Append(oPrice.sName), this->*oPrice.fPrice, nShop);
+    oKey.Truncate(nPrefixLength);
+  }
+}
+
+/// By the hoped-for price in the United States. The tiers never carry a shop's duration, unlike the
+/// flat price.
+Single clsSellingFeatures::GetBuyItNowFee() const {
+  if (RegionCode() != 1 || m_oLastOutlay == nullptr) {
+    return m_fBuyItNow;
+  }
+  clsPriceRange oTier;
+  const bool bHit = Prices().HitTestRanges(GetPriceKey("BuyItNow"),
+                                           m_oLastOutlay->m_fEstimatedEndPrice, oTier, kShopNone);
+  return bHit ? oTier.m_fValue : m_fBuyItNow;
+}
+
+Single clsSellingFeatures::GetHomePageFee() const {
+  if (RegionCode() != 1) {
+    return m_fHomePage;
+  }
+  if (m_oLastOutlay == nullptr) {
+    throw Failure(FailureNumber::ObjectNotSet, "The quantity isn't known yet.");
+  }
+  return m_oLastOutlay->m_lQuantity > 1 ? m_fHomePageMulti : m_fHomePage;
+}
+
+/// By the number of pictures; 0 when no tier holds it.
+Single clsSellingFeatures::GetPicturePackFee() const {
+  clsPriceRange oTier;
+  const bool bHit = Prices().HitTestRanges(GetPriceKey("PicturePack"), m_lExtraImageCount, oTier,
+                                           AuctionType().m_eShopDuration);
+  return bHit ? oTier.m_fValue : Single(0);
+}
+
+}  // namespace quillet

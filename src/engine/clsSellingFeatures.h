@@ -1,0 +1,102 @@
+// The paid extras of a listing, and the one fee that they add up to.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "base/Single.h"
+#include "engine/clsAuctionType.h"
+#include "engine/clsOutlay.h"
+#include "prices/PriceKey.h"
+
+namespace quillet {
+
+/// One bit a feature. The values stand in auction files and never change.
+enum eFeature : std::int32_t {
+  kFeatureHomePage = 0x1,
+  kFeaturePlus = 0x2,
+  kFeatureHighlight = 0x4,
+  kFeatureItemSubtitle = 0x8,
+  kFeatureBold = 0x10,
+  kFeatureGallery = 0x20,
+  kFeatureFeaturedGallery = 0x40,
+  kFeatureBuyItNow = 0x80,
+  kFeatureScheduledListing = 0x100,
+  kFeatureListIn2Categories = 0x200,
+  kFeatureSlideShow = 0x400,
+  kFeatureSupersizePictures = 0x800,
+  kFeaturePicturePack = 0x1000,
+  kFeatureListingDesigner = 0x2000,
+  kFeatureFeaturedInSearch = 0x4000,
+  kFeature10DayDuration = 0x8000,
+  kFeatureGiftServices = 0x10000,
+  kFeaturePreviewPicture = 0x20000,
+  kFeatureBorder = 0x40000,
+  kFeatureListingItem = 0x80000,
+  kFeatureCarAd = 0x100000,
+};
+
+class clsSellingFeatures {
+ public:
+  clsSellingFeatures() { Serialize(m_sDefaultState, true); }
+
+  void AddFeature(std::int32_t lFeature) { m_lFeatures |= lFeature; }
+  /// Takes the bits out if all of them are set; otherwise nothing changes at all.
+  void RemoveFeature(std::int32_t lFeature);
+  void SetFeature(std::int32_t lFeature, bool bOn);
+  /// True when every bit is set, so also for 0.
+  [[nodiscard]] bool HasFeature(std::int32_t lFeature) const;
+
+  /// The fee of all chosen features, one for the whole auction, not rounded to pennies. Keeps what
+  /// it is given, which must live as long as this object; a null keeps the one given before. Also
+  /// refreshes the prices below. A feature without a price in the schedule keeps the price that it
+  /// had. Without any auction type it is a Failure, and so is a tier table that is missing.
+  [[nodiscard]] Single DoCalc(const clsAuctionType* oAuctionType, const clsOutlay* oOutlay);
+
+  /// Appends the section "[FEATURES]" to `sData`, or reads it from there (docs/auction-file.md).
+  void Serialize(std::string& sData, bool bSave);
+
+  /// No features and no pictures; the prices, m_bDirty and what DoCalc keeps stay.
+  void Clear() { Serialize(m_sDefaultState, false); }
+
+  // Prices as of the latest DoCalc; below 0 where a feature isn't on offer.
+  Single m_fHomePage;
+  Single m_fHomePageMulti;
+  Single m_fPlus;
+  Single m_fHighlight;
+  Single m_fItemSubtitle;
+  Single m_fBold;
+  Single m_fGallery;
+  Single m_fFeaturedGallery;
+  Single m_fBuyItNow;  ///< the flat amount
+  Single m_fScheduledListings;
+  Single m_fListIn2Categories;  ///< a factor
+  Single m_fListingDesigner;
+  Single m_fSlideShow;
+  Single m_fSupersizePictures;
+  Single m_fExtraImage;  ///< for one image
+  std::int32_t m_lExtraImageCount = 0;
+  Single m_fFeaturedInSearch;
+  Single m_f10DayDuration;
+  Single m_fGiftServices;
+  Single m_fPreviewPicture;
+  Single m_fBorder;
+  Single m_fListingItem;
+  Single m_fCarAd;
+  bool m_bDirty = false;  ///< changed since last saved
+
+ private:
+  [[nodiscard]] const clsAuctionType& AuctionType() const;
+  [[nodiscard]] PriceKey GetPriceKey(std::string_view sName) const;
+  void RefreshPrices();
+  [[nodiscard]] Single GetBuyItNowFee() const;
+  [[nodiscard]] Single GetHomePageFee() const;
+  [[nodiscard]] Single GetPicturePackFee() const;
+
+  std::int32_t m_lFeatures = 0;  ///< a mask of eFeature
+  std::string m_sDefaultState;
+  const clsAuctionType* m_oAuctionType = nullptr;
+  const clsOutlay* m_oLastOutlay = nullptr;
+};
+
+}  // namespace quillet

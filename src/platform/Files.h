@@ -1,0 +1,30 @@
+// Whole files, read and replaced. Failures come back with the platform's own description.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+namespace quillet {
+
+/// Writes the separators of a path the way this platform does: "\" in the program's constants.
+[[nodiscard]] std::string NativePath(std::string sPath);
+
+/// True if a file or folder of that name exists.
+[[nodiscard]] bool FileExists(const std::string& sPath);
+
+/// Reads a whole file into `sContent`. A folder is an error, and so is a file of more than
+/// `nLimit` bytes (file_too_large); `sContent` is then left alone.
+[[nodiscard]] std::error_code ReadWholeFile(const std::string& sPath, std::size_t nLimit,
+                                            std::string& sContent);
+
+/// Puts `sContent` in the place of the file, whole or not at all: after a failure the old file
+/// stands as it was and no temporary file stays.
+[[nodiscard]] std::error_code ReplaceFile(const std::string& sPath, std::string_view sContent);
+
+/// Appends to a file that others may read meanwhile; an empty or new file gets the header first.
+[[nodiscard]] std::error_code AppendToFile(const std::string& sPath, std::string_view sContent,
+                                           std::string_view sHeaderIfEmpty);
+
+}  // namespace quillet

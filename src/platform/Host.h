@@ -1,0 +1,71 @@
+// What the program asks of the desktop, or terminal, that it runs on.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace quillet {
+
+/// The buttons and icon of a message box, by the platform's numbers.
+enum MessageButtons : int {
+  kMessagePlain = 0,
+  kMessageCritical = 16,
+  kMessageQuestion = 35,  ///< question icon; Yes, No and Cancel
+  kMessageWarning = 48,
+  kMessageInformation = 64,
+};
+
+/// What the user answered to a message box, by the platform's numbers.
+enum class Answer : int { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
+
+/// What an open or save dialog starts with.
+struct FileDialog {
+  bool bSave = false;
+  std::string sTypeName;  ///< such as "Quillet US files"
+  std::string sPattern;   ///< such as "*.qlt"
+  std::string sInitDir;   ///< native path; may not exist
+  std::string sFileName;  ///< proposed name, without folder; may be empty
+};
+
+/// One implementation lives as long as the process. All text is UTF-8.
+class Host {
+ public:
+  virtual ~Host() = default;
+
+  /// Shows a message box and waits for its answer.
+  virtual Answer ShowMessage(const std::string& sPrompt, int nButtons,
+                             const std::string& sTitle) = 0;
+
+  /// Lets the user choose a file: its full native path, or nothing when the dialog was cancelled.
+  virtual std::optional<std::string> ChooseFile(const FileDialog& oDialog) = 0;
+
+  /// Handles what waits in the interface's queue, and gives the processor away for a moment.
+  virtual void PumpEvents() = 0;
+
+  /// Milliseconds since some fixed moment; never goes back.
+  [[nodiscard]] virtual std::int64_t TickCount() const = 0;
+
+  /// The words behind the program's name, joined by blanks.
+  [[nodiscard]] virtual std::string CommandLine() const = 0;
+
+  /// Native path of the folder that holds the program's own files, without a closing separator.
+  [[nodiscard]] virtual std::string ProgramFolder() const = 0;
+
+  /// Native path of the user's documents, without a closing separator.
+  [[nodiscard]] virtual std::string DocumentsFolder() const = 0;
+
+  /// Opens a web address or file with the program that the user's system has for it.
+  virtual void OpenLink(const std::string& sTarget) = 0;
+
+  /// The user's decimal separator: one character, "." or "," nearly everywhere.
+  [[nodiscard]] virtual const std::string& DecimalSeparator() const = 0;
+};
+
+/// The host that SetHost has set last. There must be one before anything else is asked.
+[[nodiscard]] Host& TheHost();
+
+/// Makes `oHost` the host. It isn't owned and must outlive its use.
+void SetHost(Host& oHost);
+
+}  // namespace quillet

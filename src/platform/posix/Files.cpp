@@ -1,0 +1,162 @@
+#include "platform/Files.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdlib>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace quillet {
+namespace {
+
+std::error_code LastError() {
+  return {errno, std::generic_category()};
+}
+
+/// An open file, closed when it goes out of scope.
+class Descriptor {
+ public:
+  explicit Descriptor(int nHandle) : m_nHandle(nHandle) {}
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  ~Descriptor() { (void)Close(); }
+
+  [[nodiscard]] bool IsOpen() const { return m_nHandle >= 0; }
+  [[nodiscard]] int Handle() const { return m_nHandle; }
+
+  /// Some file systems report a full disk only here.
+  std::error_code Close() {
+    if (m_nHandle < 0) {
+      return {};
+    }
+    const int nHandle = m_nHandle;
+    m_nHandle = -1;
+    return ::close(nHandle) == 0 ? std::error_code{} : LastError();
+  }
+
+ private:
+  int m_nHandle;
+};
+
+std::error_code WriteAll(int nHandle, std::string_view sContent) {
+  while (!sContent.empty()) {
+    const ssize_t nWritten = ::write(nHandle, sContent.data(), sContent.size());
+    if (nWritten < 0 && errno == EINTR) {
+      continue;
+    }
+    if (nWritten < 0) {
+      return LastError();
+    }
+    sContent.remove_prefix(static_cast<std::size_t>(nWritten));
+  }
+  return {};
+}
+
+std::error_code WriteNewFile(const std::string& sPath, std::string_view sContent, mode_t nMode) {
+  Descriptor oFile(::open(sPath.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, nMode));
+  if (!oFile.IsOpen()) {
+    return LastError();
+  }
+  if (std::error_code oError = WriteAll(oFile.Handle(), sContent)) {
+    return oError;
+  }
+  if (::fsync(oFile.Handle()) != 0) {
+    return LastError();
+  }
+  return oFile.Close();
+}
+
+/// The file that a chain of symbolic links ends in, so that replacing a link keeps the link.
+std::string ResolveLinks(const std::string& sPath) {
+  char* const pResolved = ::realpath(sPath.c_str(), nullptr);
+  if (pResolved == nullptr) {
+    return sPath;
+  }
+  std::string sResolved(pResolved);
+  ::free(pResolved);
+  return sResolved;
+}
+
+}  // namespace
+
+std::string NativePath(std::string sPath) {
+  std::replace(sPath.begin(), sPath.end(), '\\', '/');
+  return sPath;
+}
+
+bool FileExists(const std::string& sPath) {
+  return ::access(sPath.c_str(), F_OK) == 0;
+}
+
+std::error_code ReadWholeFile(const std::string& sPath, std::size_t nLimit, std::string& sContent) {
+  const Descriptor oFile(::open(sPath.c_str(), O_RDONLY | O_CLOEXEC));
+  if (!oFile.IsOpen()) {
+    return LastError();
+  }
+  std::string sRead;
+  std::array<char, 65536> acBlock{};
+  while (true) {
+    const ssize_t nRead = ::read(oFile.Handle(), acBlock.data(), acBlock.size());
+    if (nRead < 0 && errno == EINTR) {
+      continue;
+    }
+    if (nRead < 0) {
+      return LastError();
+    }
+    if (nRead == 0) {
+      break;
+    }
+    sRead.append(acBlock.data(), static_cast<std::size_t>(nRead));
+    if (sRead.size() > nLimit) {
+      return std::make_error_code(std::errc::file_too_large);
+    }
+  }
+  sContent = std::move(sRead);
+  return {};
+}
+
+std::error_code ReplaceFile(const std::string& sPath, std::string_view sContent) {
+  const std::string sTarget = ResolveLinks(sPath);
+  struct stat oStatus {};
+  const bool bExists = ::stat(sTarget.c_str(), &oStatus) == 0;
+  if (bExists && !S_ISREG(oStatus.st_mode)) {
+    // A device or pipe can't be replaced, only written to; opening a folder so fails as it should.
+    Descriptor oFile(::open(sTarget.c_str(), O_WRONLY | O_CLOEXEC));
+    if (!oFile.IsOpen()) {
+      return LastError();
+    }
+    const std::error_code oError = WriteAll(oFile.Handle(), sContent);
+    return oError ? oError : oFile.Close();
+  }
+  if (bExists && ::access(sTarget.c_str(), W_OK) != 0) {
+    return LastError();
+  }
+  const std::string sTemporary = sTarget + "." + std::to_string(::getpid()) + ".tmp";
+  const mode_t nMode = bExists ? oStatus.st_mode & 07777U : 0666U;
+  std::error_code oError = WriteNewFile(sTemporary, sContent, nMode);
+  if (!oError && ::rename(sTemporary.c_str(), sTarget.c_str()) != 0) {
+    oError = LastError();
+  }
+  if (oError) {
+    ::unlink(sTemporary.c_str());
+  }
+  return oError;
+}
+
+std::error_code AppendToFile(const std::string& sPath, std::string_view sContent,
+                             std::string_view sHeaderIfEmpty) {
+  Descriptor oFile(::open(sPath.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0666));
+  struct stat oStatus {};
+  if (!oFile.IsOpen() || ::fstat(oFile.Handle(), &oStatus) != 0) {
+    return LastError();
+  }
+  std::string sText(oStatus.st_size == 0 ? sHeaderIfEmpty : std::string_view{});
+  sText += sContent;
+  const std::error_code oError = WriteAll(oFile.Handle(), sText);
+  return oError ? oError : oFile.Close();
+}
+
+}  // namespace quillet

@@ -1,0 +1,65 @@
+// The table of fee amounts, thresholds and rates, read from the update file (docs/update-file.md).
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "base/Single.h"
+#include "prices/PriceKey.h"
+#include "prices/PriceTable.h"
+#include "prices/clsPriceRange.h"
+#include "prices/shopDuration.h"
+
+namespace quillet {
+
+/// Keys are compared without regard to case. Where a code `eShop` is passed, its suffix is joined
+/// onto the key. Values are text, converted anew at each look-up by the user's decimal separator.
+class clsPrices {
+ public:
+  /// Reads the region's update file, in five attempts. If it can't be read, or holds a key twice,
+  /// says so in a message box and closes the application; the table is left as far as it got.
+  void LoadUpdateFile();
+
+  /// Reads a given file in one attempt; a Failure names the file and says what is wrong with it.
+  void LoadFile(const std::string& sPath);
+
+  /// Takes entries from the text of an update file, on top of what the table holds. A key that is
+  /// there already is a Failure, and ends the reading.
+  void LoadText(std::string_view sText);
+
+  /// True and the text under a key as it stands; False and an empty text if there is none.
+  bool GetData(const PriceKey& oName, std::string_view& sData) const;
+
+  /// True and the value; False, and `fValue` left alone, if the key is missing or no number.
+  bool GetPrice(const PriceKey& oName, Single& fValue, std::int32_t nShop) const;
+
+  /// Fills `oRange` with one tier, from 1. False, and `oRange` left alone, if there is no tier
+  /// table; False, and 0 in their place, if the tier lacks numbers. A count of tiers that isn't a
+  /// 16-bit integer is a Failure.
+  bool GetRange(const PriceKey& oName, std::int16_t nRangeNumber, clsPriceRange& oRange,
+                std::int32_t nShop) const;
+
+  /// Fills `oRange` with the first tier that holds a value, both its ends included. If none does:
+  /// False, m_nIndex 0, and the rest of the last tier tried. A tier table that is missing, or whose
+  /// count isn't a 16-bit integer, is a Failure.
+  bool HitTestRanges(const PriceKey& oName, Single fHitTestValue, clsPriceRange& oRange,
+                     std::int32_t nShop) const;
+
+  [[nodiscard]] const PriceTable& Table() const { return m_oTable; }
+
+ private:
+  [[nodiscard]] std::int16_t TierCount(PriceKey oName) const;
+  bool ReadTier(PriceKey& oName, std::int16_t nTier, clsPriceRange& oRange) const;
+
+  PriceTable m_oTable;
+};
+
+/// The program's table, made and loaded from the update file on first use.
+[[nodiscard]] clsPrices& Prices();
+
+/// Makes `oPrices` the program's table: for tools and tests that choose the file themselves.
+void UsePrices(std::unique_ptr<clsPrices> oPrices);
+
+}  // namespace quillet

@@ -1,0 +1,48 @@
+// Fee schedules for tests, and how a Single prints.
+#pragma once
+
+#include <memory>
+#include <ostream>
+#include <string>
+
+#include "base/Single.h"
+#include "base/conversions.h"
+#include "base/region.h"
+#include "prices/clsPrices.h"
+
+namespace quillet {
+
+inline void PrintTo(const Single& fValue, std::ostream* pOut) {
+  *pOut << std::hexfloat << double{fValue} << std::defaultfloat << " (" << double{fValue} << ")";
+}
+
+/// Makes the lines of `sText` the program's fee schedule.
+inline void UseSchedule(const std::string& sText) {
+  auto oPrices = std::make_unique<clsPrices>();
+  oPrices->LoadText(sText);
+  UsePrices(std::move(oPrices));
+}
+
+/// Makes the shipped schedule of this region the program's.
+inline void UseShippedSchedule() {
+  auto oPrices = std::make_unique<clsPrices>();
+  oPrices->LoadFile(std::string(QUILLET_SOURCE_DIR) +
+                    (RegionCode() == 1 ? "/data/UpdateUS_v0101.dat" : "/data/UpdateUK_v0101.dat"));
+  UsePrices(std::move(oPrices));
+}
+
+/// The lines of a tier table; an end of -1 is no upper limit.
+inline std::string Tiers(const std::string& sName,
+                         std::initializer_list<std::array<const char*, 3>> aoTiers) {
+  std::string sLines = sName + "Ranges," + std::to_string(aoTiers.size()) + "\n";
+  int nTier = 0;
+  for (const auto& [sStart, sEnd, sValue] : aoTiers) {
+    const std::string sNumber = std::to_string(++nTier);
+    sLines += sName + "RangeStart" + sNumber + "," + sStart + "\n";
+    sLines += sName + "RangeEnd" + sNumber + "," + sEnd + "\n";
+    sLines += sName + "RangeValue" + sNumber + "," + sValue + "\n";
+  }
+  return sLines;
+}
+
+}  // namespace quillet

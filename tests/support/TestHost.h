@@ -1,0 +1,94 @@
+// A host that answers prompts from a list and records what was shown.
+#pragma once
+
+#include <deque>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "platform/Host.h"
+
+namespace quillet {
+
+struct ShownMessage {
+  std::string sPrompt;
+  int nButtons = 0;
+  std::string sTitle;
+  bool operator==(const ShownMessage&) const = default;
+};
+
+class TestHost : public Host {
+ public:
+  Answer ShowMessage(const std::string& sPrompt, int nButtons, const std::string& sTitle) override {
+    aoShown.push_back({sPrompt, nButtons, sTitle});
+    if (aeAnswers.empty()) {
+      return nButtons == kMessageQuestion ? Answer::Cancel : Answer::Ok;
+    }
+    const Answer eAnswer = aeAnswers.front();
+    aeAnswers.pop_front();
+    return eAnswer;
+  }
+  std::optional<std::string> ChooseFile(const FileDialog& oDialog) override {
+    aoDialogs.push_back(oDialog);
+    if (asChoices.empty()) {
+      return std::nullopt;
+    }
+    const std::optional<std::string> sChoice = asChoices.front();
+    asChoices.pop_front();
+    return sChoice;
+  }
+  void PumpEvents() override {
+    ++nTicks;
+    ++nPumped;
+  }
+  std::int64_t TickCount() const override { return nTicks; }
+  std::string CommandLine() const override { return sCommandLine; }
+  std::string ProgramFolder() const override { return sProgramFolder; }
+  std::string DocumentsFolder() const override { return sDocumentsFolder; }
+  void OpenLink(const std::string& sTarget) override { asLinks.push_back(sTarget); }
+  const std::string& DecimalSeparator() const override { return sDecimalSeparator; }
+
+  std::deque<Answer> aeAnswers;                      ///< to the message boxes to come
+  std::deque<std::optional<std::string>> asChoices;  ///< of the file dialogs to come
+  std::vector<ShownMessage> aoShown;
+  std::vector<FileDialog> aoDialogs;
+  std::vector<std::string> asLinks;
+  std::int64_t nTicks = 0;  ///< a millisecond passes at each pumping
+  int nPumped = 0;
+  std::string sCommandLine;
+  std::string sProgramFolder = ".";
+  std::string sDocumentsFolder = ".";
+  std::string sDecimalSeparator = ".";
+};
+
+/// A TestHost that is the host for as long as it lives.
+class ScopedHost : public TestHost {
+ public:
+  ScopedHost() : m_oBefore(TheHost()) { SetHost(*this); }
+  ScopedHost(const ScopedHost&) = delete;
+  ScopedHost& operator=(const ScopedHost&) = delete;
+  ~ScopedHost() override { SetHost(m_oBefore); }
+
+ private:
+  Host& m_oBefore;
+};
+
+/// A folder of its own, gone at the end.
+class TemporaryFolder {
+ public:
+  TemporaryFolder() {
+    std::string sTemplate = (std::filesystem::temp_directory_path() / "quillet-XXXXXX").string();
+    sPath = ::mkdtemp(sTemplate.data());
+  }
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+  ~TemporaryFolder() {
+    std::error_code oIgnored;
+    std::filesystem::remove_all(sPath, oIgnored);
+  }
+  std::string operator/(const std::string& sName) const { return sPath + "/" + sName; }
+
+  std::string sPath;
+};
+
+}  // namespace quillet
