@@ -1,0 +1,10 @@
+# Floors 1, 5 and 6 where they need the toolkit.
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets)
+
+add_library(quillet_desktop STATIC
+  platform/qt/Theme.cpp
+  sections/Control.cpp
+  sections/Controls.cpp
+  )
+set_target_properties(quillet_desktop PROPERTIES AUTOMOC ON AUTORCC ON)
+target_link_libraries(quillet_desktop PUBLIC quillet_core Qt6::Core Qt6::Gui Qt6::Widgets)

@@ -1,0 +1,47 @@
+// The main of the widget tests: an offscreen screen, a fixed locale, settings in memory, and a
+// warning of the toolkit fails the test that it comes from.
+#include <QApplication>
+#include <QLocale>
+
+#include <gtest/gtest.h>
+
+#include "base/clsRegistryAccess.h"
+#include "platform/qt/Theme.h"
+#include "support/MemoryHive.h"
+#include "support/Prices.h"
+#include "support/TestHost.h"
+
+namespace {
+
+void FailOnWarning(QtMsgType eType, const QMessageLogContext& /*oContext*/, const QString& sText) {
+  if (eType >= QtWarningMsg && eType != QtInfoMsg) {
+    ADD_FAILURE() << "The toolkit warns: " << sText.toStdString();
+  }
+}
+
+/// Each test starts with empty settings and the shipped schedule.
+class FreshStart : public ::testing::EmptyTestEventListener {
+  void OnTestStart(const ::testing::TestInfo& /*oTest*/) override {
+    quillet::SetZoom(1.0);
+    m_oHive.Clear();
+    quillet::SetRegistryHive(m_oHive);
+    quillet::UseShippedSchedule();
+  }
+
+  quillet::MemoryHive m_oHive;
+};
+
+}  // namespace
+
+int main(int nArguments, char** asArguments) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QLocale::setDefault(QLocale::c());
+  QApplication oApplication(nArguments, asArguments);
+  ::testing::InitGoogleTest(&nArguments, asArguments);
+  ::testing::UnitTest::GetInstance()->listeners().Append(new FreshStart);
+  quillet::TestHost oHost;
+  quillet::SetHost(oHost);
+  qInstallMessageHandler(FailOnWarning);
+  quillet::InstallTheme();
+  return RUN_ALL_TESTS();
+}
