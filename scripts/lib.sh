@@ -1,0 +1,54 @@
+# Shared by the scripts at the root; they source it from the top of the tree.
+
+say() { printf '%s\n' "$*"; }
+
+# step NAME COMMAND...: runs a command with its output kept aside; a failure names the step, shows
+# the end of the output and ends the script.
+step() {
+  local name=$1 log
+  shift
+  log=$(mktemp)
+  if ! "$@" >"$log" 2>&1; then
+    tail -n 40 "$log" >&2
+    say "Failed: $name. (The whole output is in $log.)" >&2
+    exit 1
+  fi
+  rm -f "$log"
+}
+
+as_root() {
+  if [ "$(id -u)" = 0 ]; then "$@"; else sudo "$@"; fi
+}
+
+apt_install() {
+  as_root env DEBIAN_FRONTEND=noninteractive apt-get update &&
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "$@"
+}
+
+# need_packages GROUP...: installs the packages of these groups that are missing.
+need_packages() {
+  local wanted missing
+  wanted=$(for group in "$@"; do
+    sed -n "s/^$group  *\([^ #]*\).*/\1/p" packaging/debian-packages.txt
+  done)
+  missing=$(comm -23 <(sort -u <<<"$wanted") \
+    <(dpkg-query -W -f '${Package} ${db:Status-Status}\n' 2>/dev/null |
+      sed -n 's/ installed$//p' | sort -u))
+  [ -z "$missing" ] && return
+  say "Installing:" $missing
+  # shellcheck disable=SC2086
+  step "installing packages" apt_install $missing
+}
+
+# build PRESET [TARGET...]: configures once and builds what has changed.
+build() {
+  local preset=$1 folder=build/$1
+  shift
+  if [ ! -f "$folder/build.ninja" ]; then
+    say "Configuring ($preset)"
+    step "configuring $preset" cmake --preset "$preset" ${WERROR:+-DQUILLET_WERROR=ON}
+  fi
+  ninja -C "$folder" -n "$@" 2>/dev/null | grep -q 'no work to do' && return
+  say "Building ($preset)"
+  step "building $preset" ninja -C "$folder" "$@"
+}
