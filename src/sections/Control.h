@@ -55,10 +55,6 @@ class Control {
   [[nodiscard]] virtual QString Caption() const { return {}; }
   virtual void SetCaption(const QString& /*sCaption*/) {}
 
-  /// Of a box, 0 or 1; of an option, 0 or 1. Writing another value raises the control's click.
-  [[nodiscard]] virtual int Value() const { return 0; }
-  virtual void SetValue(int /*nValue*/) {}
-
   /// The control, a Frame or a panel, that this one stands in; null for a window.
   [[nodiscard]] Control* Container() const;
 
@@ -80,6 +76,17 @@ class Control {
   int m_nHeight = 0;
   bool m_bVisible = true;
   std::uint32_t m_nForeColor = kColourWindow;
+};
+
+/// A control that is chosen or not: a CheckBox or an OptionButton.
+class Choice : public Control {
+ public:
+  /// 0 or 1. Writing another value raises the control's click.
+  [[nodiscard]] virtual int Value() const = 0;
+  virtual void SetValue(int nValue) = 0;
+
+ protected:
+  using Control::Control;
 };
 
 /// Rescale of every control below a widget.

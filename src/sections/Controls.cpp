@@ -93,7 +93,7 @@ void Label::Rescale() {
   setFont(ThemeFont(m_fPoints, m_eWeight));
 }
 
-CheckBox::CheckBox(QWidget* pParent) : QCheckBox(pParent), Control(static_cast<QWidget&>(*this)) {}
+CheckBox::CheckBox(QWidget* pParent) : QCheckBox(pParent), Choice(static_cast<QWidget&>(*this)) {}
 
 QSize CheckBox::sizeHint() const {
   return CaptionSize(*this);
@@ -117,7 +117,7 @@ void CheckBox::paintEvent(QPaintEvent* /*pEvent*/) {
 }
 
 OptionButton::OptionButton(QWidget* pParent)
-    : QRadioButton(pParent), Control(static_cast<QWidget&>(*this)) {
+    : QRadioButton(pParent), Choice(static_cast<QWidget&>(*this)) {
   setAutoExclusive(false);
   // Before any other listener, so that a click finds one option chosen at the most.
   connect(this, &QAbstractButton::toggled, this, &OptionButton::PutOutOthers);

@@ -28,7 +28,7 @@ class Label : public QLabel, public Control {
 };
 
 /// Raises toggled() as its click, whether the mouse, the keyboard or the code changed it.
-class CheckBox : public QCheckBox, public Control {
+class CheckBox : public QCheckBox, public Choice {
  public:
   explicit CheckBox(QWidget* pParent);
   [[nodiscard]] const char* TypeName() const override { return "CheckBox"; }
@@ -45,7 +45,7 @@ class CheckBox : public QCheckBox, public Control {
 
 /// One of the options of its container. Unlike the toolkit's it can be unset by code, so that none
 /// is chosen. Raises toggled() as its click; an option that another one puts out raises nothing.
-class OptionButton : public QRadioButton, public Control {
+class OptionButton : public QRadioButton, public Choice {
  public:
   explicit OptionButton(QWidget* pParent);
   [[nodiscard]] const char* TypeName() const override { return "OptionButton"; }
