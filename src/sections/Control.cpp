@@ -20,6 +20,7 @@ void Control::Place(int nLeft, int nTop, int nWidth, int nHeight) {
   const QPoint oTopLeft(Pixels(nLeft), Pixels(nTop));
   m_oWidget->setGeometry(
       {oTopLeft, QPoint(Pixels(nLeft + nWidth) - 1, Pixels(nTop + nHeight) - 1)});
+  Placed();
 }
 
 void Control::SetVisible(bool bVisible) {

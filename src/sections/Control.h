@@ -66,6 +66,9 @@ class Control {
  protected:
   explicit Control(QWidget& oWidget) : m_oWidget(&oWidget) {}
 
+  /// Called at the end of Place, for what follows the control's size.
+  virtual void Placed() {}
+
  private:
   QWidget* m_oWidget;
   std::string m_sName;

@@ -1,0 +1,389 @@
+#include "sections/SectionPanel.h"
+
+#include <QPainter>
+#include <algorithm>
+
+#include "base/failure.h"
+#include "platform/Host.h"
+#include "platform/qt/Theme.h"
+#include "sections/VisibleList.h"
+#include "sections/controlHelpers.h"
+
+namespace quillet {
+namespace {
+
+constexpr double kTitlePoints = 6.75;
+constexpr int kTitleHeight = 255;  // twips, the header's
+
+Control* MakeNumericBox(ControlKind eKind, QWidget* pParent) {
+  auto* const pBox = new ctlNumericText(pParent);
+  pBox->SetDecimalSeperator(TheHost().DecimalSeparator());
+  pBox->SetShowMoney(eKind == ControlKind::kMoney);
+  pBox->SetDecimalPlaces(eKind == ControlKind::kMoney ? 2 : eKind == ControlKind::kWeight ? 3 : 0);
+  return pBox;
+}
+
+/// What holds the controls of a Frame is the Frame; the parent owns what is made.
+Control* MakeOfKind(const ControlDesign& oControl, QWidget* pParent) {
+  switch (oControl.eKind) {
+    case ControlKind::kLabel:
+      return new Label(pParent);
+    case ControlKind::kCheckBox:
+      return new CheckBox(pParent);
+    case ControlKind::kOption:
+      return new OptionButton(pParent);
+    case ControlKind::kNumber:
+    case ControlKind::kMoney:
+    case ControlKind::kWeight:
+      return MakeNumericBox(oControl.eKind, pParent);
+    case ControlKind::kFrame:
+      return new Frame(pParent);
+    case ControlKind::kHeader:
+      return new Image(pParent);
+    case ControlKind::kSubControl:
+      return oControl.fnMake(pParent);
+  }
+  return nullptr;
+}
+
+bool Contains(const std::string& sText, const std::string& sPart) {
+  return sText.find(sPart) != std::string::npos;
+}
+
+bool IsContainerOfBox(const Control& oControl, const Control& oBox) {
+  return std::string_view(oControl.Container()->TypeName()) == oBox.Container()->TypeName();
+}
+
+}  // namespace
+
+SectionPanel::SectionPanel(const PanelDesign& oDesign, QWidget* pParent)
+    : QWidget(pParent), Control(static_cast<QWidget&>(*this)), m_oDesign(oDesign) {
+  for (const ControlDesign& oControl : oDesign.aoControls) {
+    MakeControl(oControl);
+  }
+  NameInputs();
+  Place(0, 0, oDesign.nWidth, oDesign.nHeight);
+  if (Image* const pHeader = Header()) {
+    setFocusPolicy(Qt::ClickFocus);
+    pHeader->SetVisible(false);
+    pHeader->raise();
+  }
+}
+
+void SectionPanel::MakeControl(const ControlDesign& oControl) {
+  Control* const pFrame = oControl.sContainer != nullptr ? Find(oControl.sContainer) : nullptr;
+  Control* const pControl = MakeOfKind(oControl, pFrame != nullptr ? &pFrame->Widget() : this);
+  pControl->SetName(oControl.sName);
+  pControl->SetTag(oControl.sTag);
+  pControl->SetCaption(QString::fromUtf8(oControl.sCaption));
+  pControl->Place(oControl.nLeft, oControl.nTop, oControl.nWidth, oControl.nHeight);
+  m_aoControls.push_back(pControl);
+  Listen(*pControl);
+}
+
+/// Every event ends here: a failure of a routine that it starts has no one left to tell.
+void SectionPanel::Listen(Control& oControl) {
+  const auto fnClicked = [this, &oControl] { IgnoreFailure([&] { InputClicked(oControl); }); };
+  if (IsShowCheck(oControl)) {
+    connect(&dynamic_cast<CheckBox&>(oControl), &QAbstractButton::toggled, this,
+            &SectionPanel::SaveShowChecks);
+  } else if (auto* const pButton = dynamic_cast<QAbstractButton*>(&oControl)) {
+    connect(pButton, &QAbstractButton::toggled, this, fnClicked);
+  } else if (auto* const pBox = dynamic_cast<ctlNumericText*>(&oControl)) {
+    connect(pBox, &ctlNumericText::Changed, this, fnClicked);
+  } else if (auto* const pPanel = dynamic_cast<SectionPanel*>(&oControl)) {
+    connect(pPanel, &SectionPanel::Changed, this, fnClicked);
+  } else if (auto* const pHeader = dynamic_cast<Image*>(&oControl)) {
+    connect(pHeader, &Image::MouseDown, this, [this, pHeader](float fX, float fY) {
+      pHeader->SetTag("1");
+      m_fDragX = fX;
+      m_fDragY = fY;
+    });
+    connect(pHeader, &Image::MouseMove, this, [this, pHeader](float fX, float fY) {
+      if (pHeader->Tag() == "1") {
+        emit Moved(fX - m_fDragX, fY - m_fDragY);
+      }
+    });
+    connect(pHeader, &Image::MouseUp, this, [this, pHeader](float fX, float fY) {
+      if (pHeader->Tag() == "1") {
+        emit Moved(fX - m_fDragX, fY - m_fDragY);
+        pHeader->SetTag("0");
+      }
+    });
+  }
+}
+
+/// Numeric boxes and Show boxes have no words of their own: they are called after their row.
+void SectionPanel::NameInputs() {
+  for (Control* const pControl : m_aoControls) {
+    if (IsShowCheck(*pControl)) {
+      const Control* const pRow = FindRowControl(*pControl);
+      pControl->Widget().setAccessibleName(
+          pRow != nullptr ? tr("Show %1").arg(pRow->Caption().remove('&')) : tr("Show"));
+    } else if (dynamic_cast<ctlNumericText*>(pControl) != nullptr) {
+      const auto pRow = std::find_if(m_aoControls.begin(), m_aoControls.end(), [&](Control* p) {
+        return p->Top() == pControl->Top() && !p->Caption().isEmpty() && !IsShowCheck(*p) &&
+               p->Container() == pControl->Container();
+      });
+      if (pRow != m_aoControls.end()) {
+        pControl->Widget().setAccessibleName((*pRow)->Caption().remove('&'));
+      }
+    }
+  }
+}
+
+void SectionPanel::SetShowConfig(bool bShowConfig) {
+  m_bShowConfig = bShowConfig;
+  for (Control* const pControl : m_aoControls) {
+    if (auto* const pPanel = dynamic_cast<SectionPanel*>(pControl)) {
+      pPanel->SetShowConfig(bShowConfig);
+    }
+  }
+  UpdateSectionLayout();
+}
+
+void SectionPanel::GotFocus() {
+  if (m_bShowConfig) {
+    Header()->SetVisible(true);
+  }
+}
+
+void SectionPanel::LostFocus() {
+  Header()->SetVisible(false);
+}
+
+Control* SectionPanel::Find(std::string_view sName) const {
+  const auto pFound = std::find_if(m_aoControls.begin(), m_aoControls.end(),
+                                   [&](const Control* p) { return p->Name() == sName; });
+  return pFound == m_aoControls.end() ? nullptr : *pFound;
+}
+
+QList<QWidget*> SectionPanel::InputsInReadingOrder() const {
+  std::vector<Control*> aoSorted = m_aoControls;
+  std::stable_sort(aoSorted.begin(), aoSorted.end(), [](const Control* a, const Control* b) {
+    return a->Top() != b->Top() ? a->Top() < b->Top() : a->Left() < b->Left();
+  });
+  QList<QWidget*> aoInputs;
+  for (Control* const pControl : aoSorted) {
+    if (const auto* const pPanel = dynamic_cast<SectionPanel*>(pControl)) {
+      aoInputs += pPanel->InputsInReadingOrder();
+    } else if (dynamic_cast<Frame*>(pControl) != nullptr) {
+      const auto aoInside = pControl->Widget().findChildren<QAbstractButton*>();
+      std::copy(aoInside.begin(), aoInside.end(), std::back_inserter(aoInputs));
+    } else if (auto* const pBox = dynamic_cast<ctlNumericText*>(pControl)) {
+      aoInputs += pBox->TextBox();
+    } else if (dynamic_cast<Choice*>(pControl) != nullptr && pControl->Container() == this) {
+      aoInputs += &pControl->Widget();
+    }
+  }
+  return aoInputs;
+}
+
+void SectionPanel::SetRowCaption(Label& oLabel, const QString& sCaption) {
+  if (oLabel.Caption() != sCaption) {
+    oLabel.SetCaption(sCaption);
+    NameInputs();
+  }
+}
+
+void SectionPanel::showEvent(QShowEvent* pEvent) {
+  QWidget::showEvent(pEvent);
+  if (pEvent->spontaneous()) {
+    return;  // the window comes back from being minimised
+  }
+  for (Control* const pControl : m_aoControls) {
+    ApplyThemeColours(*pControl);
+  }
+  EnsureVisibleList();
+  BuildLocator();
+  LoadShowChecks();
+}
+
+/// The section's name, small, in the place of the header while that is hidden.
+void SectionPanel::paintEvent(QPaintEvent* /*pEvent*/) {
+  const Image* const pHeader = Header();
+  if (pHeader == nullptr || pHeader->Visible() || Height() == 0) {
+    return;
+  }
+  QFont oFont = ThemeFont(kTitlePoints, QFont::DemiBold);
+  oFont.setLetterSpacing(QFont::PercentageSpacing, 112);
+  oFont.setCapitalization(QFont::AllUppercase);
+  QPainter oPainter(this);
+  oPainter.setFont(oFont);
+  oPainter.setPen(InkColour(Ink::FaintText));
+  oPainter.drawText(QRect(0, 0, width(), Pixels(kTitleHeight)), Qt::AlignVCenter | Qt::AlignLeft,
+                    QString::fromUtf8(Title()));
+}
+
+void SectionPanel::Placed() {
+  if (Image* const pHeader = Header()) {
+    pHeader->SetWidth(Width());
+  }
+}
+
+void SectionPanel::EnsureVisibleList() {
+  clsTokeniser oList = LoadVisibleList(SectionKey());
+  const bool bNew = oList.IsEmpty();
+  if (bNew) {
+    for (const Control* const pControl : m_aoControls) {
+      if (IsShowCheck(*pControl)) {
+        oList.AddToArray(pControl->Tag());
+      }
+    }
+  }
+  const bool bAdded = AddOwnNames(oList);
+  if (bNew || bAdded) {
+    SaveVisibleList(SectionKey(), oList);
+  }
+}
+
+void SectionPanel::BuildLocator() {
+  m_oLocator.Reset();
+  m_oLocator.SetSection(SectionKey());
+  for (const Control* const pControl : m_aoControls) {
+    if (!IsHeaderImage(*pControl) && !IsShowCheck(*pControl)) {
+      const bool bInFrame = std::string_view(pControl->Container()->TypeName()) == "Frame";
+      m_oLocator.AddControl(pControl->Name(), pControl->Top(), pControl->Height(), bInFrame);
+    }
+  }
+  if (m_oDesign.bAddingComplete) {
+    m_oLocator.SetAddingComplete(true);
+  }
+}
+
+void SectionPanel::UpdateControlHeights() {
+  for (const Control* const pControl : m_aoControls) {
+    if (!IsHeaderImage(*pControl) && !IsShowCheck(*pControl)) {
+      m_oLocator.UpdateHeight(pControl->Name(), pControl->Height());
+    }
+  }
+}
+
+void SectionPanel::LoadShowChecks() {
+  const FlagGuard oLoading(m_bLoading);
+  const clsTokeniser oList = LoadVisibleList(SectionKey());
+  for (Control* const pControl : m_aoControls) {
+    if (IsShowCheck(*pControl)) {
+      ApplyShowCheck(dynamic_cast<CheckBox&>(*pControl), oList);
+    }
+  }
+}
+
+void SectionPanel::UpdateSectionLayout() {
+  if (Image* const pHeader = Header()) {
+    pHeader->SetVisible(false);
+  }
+  constexpr int kGap = 10;
+  const Control& oBox = *Find(m_oDesign.sReferenceBox);
+  const int nWidth = m_bShowConfig ? oBox.Width() + oBox.Left() + kGap : oBox.Left() - kGap;
+  ApplyAllVisibility();
+  PlaceControls();
+  EnableShowChecks();
+  SetWidth(nWidth);
+  update();
+}
+
+void SectionPanel::ApplyAllVisibility() {
+  if (m_oDesign.sVisibilityList == nullptr) {
+    return;
+  }
+  const clsTokeniser oList = LoadVisibleList(m_oDesign.sVisibilityList);
+  for (Control* const pControl : m_aoControls) {
+    if (IsRow(*pControl)) {
+      ApplyControlVisibility(*pControl, oList, m_bShowConfig);
+    }
+  }
+}
+
+/// The panel's height is the bottom of the last control placed, whatever its neighbours' are.
+void SectionPanel::PlaceControls() {
+  UpdateControlHeights();
+  m_oLocator.UpdateVisibility();
+  m_oLocator.BuildList(!m_bShowConfig);
+  int nHeight = 0;
+  std::string sName;
+  for (int i = 0; i < m_oLocator.ExcludedCount(); ++i) {
+    m_oLocator.GetExcludedControl(i, sName);
+    if (Control* const pControl = Find(sName)) {
+      pControl->SetVisible(false);
+    }
+  }
+  int nTop = 0;
+  for (int i = 0; i < m_oLocator.IncludedCount(); ++i) {
+    m_oLocator.GetIncludedControl(i, sName, nTop);
+    if (Control* const pControl = Find(sName)) {
+      pControl->SetVisible(true);
+      pControl->SetTop(nTop);
+      nHeight = pControl->Height() + pControl->Top();
+      AfterPlacing(*pControl);
+    }
+  }
+  SetHeight(nHeight);
+}
+
+void SectionPanel::EnableShowChecks() {
+  for (Control* const pControl : m_aoControls) {
+    if (IsShowCheck(*pControl)) {
+      pControl->SetEnabled(m_bShowConfig);
+    }
+  }
+  AlignShowChecks();
+}
+
+/// A box whose row the region lacks is hidden with it, and, being hidden, stays so.
+void SectionPanel::AlignShowChecks() {
+  if (!m_bShowConfig) {
+    return;
+  }
+  for (Control* const pBox : m_aoControls) {
+    if (!IsShowCheck(*pBox) || !pBox->Visible()) {
+      continue;
+    }
+    if (const Control* const pRow = FindRowControl(*pBox)) {
+      pBox->SetTop(pRow->Top());
+      pBox->SetVisible(pRow->Visible());
+    }
+  }
+}
+
+Control* SectionPanel::FindRowControl(const Control& oBox) const {
+  const auto pFound = std::find_if(m_aoControls.begin(), m_aoControls.end(), [&](Control* p) {
+    const bool bKind = !m_oDesign.bRowsByLabel || std::string_view(p->TypeName()) == "Label";
+    return bKind && Contains(p->Name(), oBox.Tag()) && IsContainerOfBox(*p, oBox) &&
+           !IsSubControl(*p) && !IsShowCheck(*p);
+  });
+  return pFound == m_aoControls.end() ? nullptr : *pFound;
+}
+
+/// Stores which boxes are ticked. Nothing moves now: in config mode every row stays on view.
+void SectionPanel::SaveShowChecks() {
+  if (m_bLoading) {
+    return;
+  }
+  clsTokeniser oList;
+  for (const Control* const pControl : m_aoControls) {
+    if (IsShowCheck(*pControl) && dynamic_cast<const CheckBox&>(*pControl).Value() != 0) {
+      oList.AddToArray(pControl->Tag());
+    }
+  }
+  if (StoresOwnNames()) {
+    AddOwnNames(oList);
+  }
+  SaveVisibleList(SectionKey(), oList);
+  if (m_oDesign.bAddingComplete) {
+    m_oLocator.UpdateVisibility();
+  } else {
+    BuildLocator();
+  }
+}
+
+Image* SectionPanel::Header() const {
+  return dynamic_cast<Image*>(Find("imgHeader"));
+}
+
+/// A control that a row is made of: what stands in a Frame goes with its Frame.
+bool SectionPanel::IsRow(const Control& oControl) const {
+  return !IsHeaderImage(oControl) && !IsShowCheck(oControl) && oControl.Container() == this;
+}
+
+}  // namespace quillet

@@ -1,0 +1,174 @@
+// The family of input panels: the sections of an auction and the sub-controls within them.
+//
+// A member is a table of its controls and a few switches (PanelDesign), its Apply routine and its
+// UpdateModel; everything else stands here once. Beside each row of inputs stands a box captioned
+// "Show", and the rows whose boxes are ticked are stored as a list of tags. In config mode
+// (ShowConfig) the boxes are on view and every row is shown; in normal mode only the stored rows
+// are, packed upwards, and the panel shrinks to fit. Rows that the region lacks are gone in both.
+#pragma once
+
+#include <QWidget>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "sections/Control.h"
+#include "sections/Controls.h"
+#include "sections/clsControlLocator.h"
+#include "sections/ctlNumericText.h"
+
+namespace quillet {
+
+class SectionPanel;
+
+enum class ControlKind {
+  kLabel,
+  kCheckBox,
+  kOption,
+  kNumber,  ///< numeric box for whole numbers
+  kMoney,   ///< numeric box with currency symbol and two decimals
+  kWeight,  ///< numeric box with three decimals
+  kFrame,
+  kHeader,  ///< the bar by which the panel is dragged
+  kSubControl,
+};
+
+/// One row of a member's table of controls; places in twips.
+struct ControlDesign {
+  const char* sName;
+  ControlKind eKind;
+  const char* sCaption;
+  int nLeft;
+  int nTop;
+  int nWidth;
+  int nHeight;
+  const char* sTag = "";
+  const char* sContainer = nullptr;                     ///< the Frame that it stands in
+  SectionPanel* (*fnMake)(QWidget* pParent) = nullptr;  ///< makes the sub-control
+};
+
+/// What a member differs in from the others.
+struct PanelDesign {
+  const char* sTypeName;      ///< such as "ctlOutlay"
+  const char* sTitle;         ///< on the header, and in its place while it is hidden
+  const char* sSectionKey;    ///< names the panel in the settings
+  const char* sReferenceBox;  ///< the Show box whose place gives the panel's width
+  /// Whose list ApplyAllVisibility reads; null where the member has no such step.
+  const char* sVisibilityList;
+  /// The rows are registered once, at their design places, and a click on a Show box rereads the
+  /// list. Else they are registered anew, at the places that they then have, after each click.
+  bool bAddingComplete;
+  bool bRowsByLabel;  ///< a Show box stands beside its row's label, whatever else the tag names
+  int nWidth;
+  int nHeight;
+  /// In the order of the panel's collection, which the packing keeps within a row: a control that
+  /// the region can take out of a row stands ahead of its row-mates.
+  std::span<const ControlDesign> aoControls;
+};
+
+class SectionPanel : public QWidget, public Control {
+  Q_OBJECT
+
+ public:
+  [[nodiscard]] const char* TypeName() const override { return m_oDesign.sTypeName; }
+  [[nodiscard]] const char* SectionKey() const { return m_oDesign.sSectionKey; }
+  [[nodiscard]] const char* Title() const { return m_oDesign.sTitle; }
+
+  /// Config mode of this panel. Every write lays the panel out anew, its sub-controls first.
+  [[nodiscard]] bool ShowConfig() const { return m_bShowConfig; }
+  void SetShowConfig(bool bShowConfig);
+
+  /// The parent tells that the panel has received or lost the focus: in config mode the header
+  /// comes up for as long.
+  void GotFocus();
+  void LostFocus();
+
+  /// A control by name; null if there is none.
+  [[nodiscard]] Control* Find(std::string_view sName) const;
+  [[nodiscard]] const std::vector<Control*>& Controls() const { return m_aoControls; }
+
+  /// Every input, those of sub-controls too, row by row.
+  [[nodiscard]] QList<QWidget*> InputsInReadingOrder() const;
+
+ signals:
+  /// The header is being dragged: how far the pointer is from where it was pressed, in twips.
+  void Moved(float fX, float fY);
+  /// The panel has written its inputs into its model.
+  void Changed();
+
+ protected:
+  /// `oDesign` must live as long as the panel.
+  SectionPanel(const PanelDesign& oDesign, QWidget* pParent);
+
+  /// Writes the inputs into the model and raises Changed.
+  virtual void UpdateModel() = 0;
+  /// What the user, or the code, has done to an input other than a Show box.
+  virtual void InputClicked(Control& /*oInput*/) { UpdateModel(); }
+  /// Adds names to a list that has no Show box for them; true if it added any.
+  virtual bool AddOwnNames(clsTokeniser& /*oList*/) const { return false; }
+  /// Whether AddOwnNames also has its say when the user's ticks are stored.
+  [[nodiscard]] virtual bool StoresOwnNames() const { return false; }
+  /// What a member does beside moving a control to its row's new place.
+  virtual void AfterPlacing(const Control& /*oPlaced*/) {}
+  virtual void EnableShowChecks();
+
+  /// A control of a known kind; there must be one of that name.
+  template <typename Kind>
+  [[nodiscard]] Kind& The(std::string_view sName) const {
+    return dynamic_cast<Kind&>(*Find(sName));
+  }
+  [[nodiscard]] int ValueOf(std::string_view sName) const { return The<Choice>(sName).Value(); }
+  void SetValueOf(std::string_view sName, int nValue) { The<Choice>(sName).SetValue(nValue); }
+
+  /// Sets the caption of a row's label, and with it what the row's input is called.
+  void SetRowCaption(Label& oLabel, const QString& sCaption);
+
+  void showEvent(QShowEvent* pEvent) override;
+  void paintEvent(QPaintEvent* pEvent) override;
+  void Placed() override;
+
+  bool m_bApplying = false;  ///< UpdateModel has nothing to do: the inputs are being set
+
+ private:
+  void MakeControl(const ControlDesign& oControl);
+  void Listen(Control& oControl);
+  void NameInputs();
+
+  void EnsureVisibleList();
+  void BuildLocator();
+  void UpdateControlHeights();
+  void LoadShowChecks();
+  void UpdateSectionLayout();
+  void ApplyAllVisibility();
+  void PlaceControls();
+  void AlignShowChecks();
+  [[nodiscard]] Control* FindRowControl(const Control& oBox) const;
+  void SaveShowChecks();
+
+  [[nodiscard]] Image* Header() const;
+  [[nodiscard]] bool IsRow(const Control& oControl) const;
+
+  const PanelDesign& m_oDesign;
+  clsControlLocator m_oLocator;
+  std::vector<Control*> m_aoControls;  ///< in collection order
+  bool m_bShowConfig = false;
+  bool m_bLoading = false;  ///< the Show boxes are being set: nothing is stored
+  float m_fDragX = 0;
+  float m_fDragY = 0;
+};
+
+/// Sets a flag for as long as it lives.
+class FlagGuard {
+ public:
+  explicit FlagGuard(bool& bFlag) : m_bFlag(bFlag) { m_bFlag = true; }
+  FlagGuard(const FlagGuard&) = delete;
+  FlagGuard& operator=(const FlagGuard&) = delete;
+  ~FlagGuard() { m_bFlag = false; }
+
+ private:
+  bool& m_bFlag;
+};
+
+}  // namespace quillet
