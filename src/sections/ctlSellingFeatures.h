@@ -1,0 +1,34 @@
+// The section of the paid extras of a listing: a box each, and how many extra pictures.
+#pragma once
+
+#include "engine/clsSellingFeatures.h"
+#include "sections/SectionPanel.h"
+
+namespace quillet {
+
+class ctlSellingFeatures : public SectionPanel {
+  Q_OBJECT
+
+ public:
+  explicit ctlSellingFeatures(QWidget* pParent);
+
+  /// Shows a model, and writes into it from then on. What is open follows the prices of the model's
+  /// latest DoCalc; the total shown is of a new one. All three must outlive the panel, and a null
+  /// listing is a Failure.
+  void ApplyFeatures(clsSellingFeatures& oFeatures, const clsAuctionType* oAuctionType,
+                     const clsOutlay* oOutlay);
+
+ protected:
+  void InputClicked(Control& oInput) override;
+  void AfterPlacing(const Control& oPlaced) override;
+  void UpdateModel() override;
+
+ private:
+  void ShowFeatures(const clsSellingFeatures& oFeatures);
+  void ShowWhatIsOpen(const clsSellingFeatures& oFeatures, const clsAuctionType& oAuctionType);
+  void SetPictureBounds();
+
+  clsSellingFeatures* m_oFeatures = nullptr;
+};
+
+}  // namespace quillet
