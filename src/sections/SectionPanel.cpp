@@ -115,21 +115,38 @@ void SectionPanel::Listen(Control& oControl) {
 
 /// Numeric boxes and Show boxes have no words of their own: they are called after their row.
 void SectionPanel::NameInputs() {
-  for (Control* const pControl : m_aoControls) {
+  for (std::size_t i = 0; i < m_aoControls.size(); ++i) {
+    Control* const pControl = m_aoControls[i];
     if (IsShowCheck(*pControl)) {
       const Control* const pRow = FindRowControl(*pControl);
-      pControl->Widget().setAccessibleName(
-          pRow != nullptr ? tr("Show %1").arg(pRow->Caption().remove('&')) : tr("Show"));
-    } else if (dynamic_cast<ctlNumericText*>(pControl) != nullptr) {
-      const auto pRow = std::find_if(m_aoControls.begin(), m_aoControls.end(), [&](Control* p) {
-        return p->Top() == pControl->Top() && !p->Caption().isEmpty() && !IsShowCheck(*p) &&
-               p->Container() == pControl->Container();
-      });
-      if (pRow != m_aoControls.end()) {
-        pControl->Widget().setAccessibleName((*pRow)->Caption().remove('&'));
-      }
+      const QString sRow = pRow != nullptr ? CaptionOf(*pRow) : QString();
+      pControl->Widget().setAccessibleName(sRow.isEmpty() ? tr("Show") : tr("Show %1").arg(sRow));
+    } else if (auto* const pBox = dynamic_cast<ctlNumericText*>(pControl)) {
+      pBox->SetAccessibleName(CaptionBeside(i));
     }
   }
+}
+
+/// The words on a control, or on the first one that stands in it.
+QString SectionPanel::CaptionOf(const Control& oControl) const {
+  const auto pFound = std::find_if(m_aoControls.begin(), m_aoControls.end(), [&](Control* p) {
+    return (p == &oControl || p->Container() == &oControl) && !p->Caption().isEmpty();
+  });
+  return pFound == m_aoControls.end() ? QString() : (*pFound)->Caption().remove('&');
+}
+
+/// The words in a control's row, which is known by its place in the design: packed rows come to
+/// stand where hidden ones were.
+QString SectionPanel::CaptionBeside(std::size_t nControl) const {
+  for (std::size_t i = 0; i < m_aoControls.size(); ++i) {
+    const Control& oMate = *m_aoControls[i];
+    if (m_oDesign.aoControls[i].nTop == m_oDesign.aoControls[nControl].nTop &&
+        oMate.Container() == m_aoControls[nControl]->Container() && !IsShowCheck(oMate) &&
+        !oMate.Caption().isEmpty()) {
+      return oMate.Caption().remove('&');
+    }
+  }
+  return {};
 }
 
 void SectionPanel::SetShowConfig(bool bShowConfig) {
@@ -179,9 +196,9 @@ QList<QWidget*> SectionPanel::InputsInReadingOrder() const {
   return aoInputs;
 }
 
-void SectionPanel::SetRowCaption(Label& oLabel, const QString& sCaption) {
-  if (oLabel.Caption() != sCaption) {
-    oLabel.SetCaption(sCaption);
+void SectionPanel::SetRowCaption(Control& oNamed, const QString& sCaption) {
+  if (oNamed.Caption() != sCaption) {
+    oNamed.SetCaption(sCaption);
     NameInputs();
   }
 }

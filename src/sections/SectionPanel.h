@@ -112,6 +112,7 @@ class SectionPanel : public QWidget, public Control {
   [[nodiscard]] virtual bool StoresOwnNames() const { return false; }
   /// What a member does beside moving a control to its row's new place.
   virtual void AfterPlacing(const Control& /*oPlaced*/) {}
+  /// The Show boxes can be reached in config mode only, and stand beside their rows.
   virtual void EnableShowChecks();
 
   /// A control of a known kind; there must be one of that name.
@@ -122,8 +123,8 @@ class SectionPanel : public QWidget, public Control {
   [[nodiscard]] int ValueOf(std::string_view sName) const { return The<Choice>(sName).Value(); }
   void SetValueOf(std::string_view sName, int nValue) { The<Choice>(sName).SetValue(nValue); }
 
-  /// Sets the caption of a row's label, and with it what the row's input is called.
-  void SetRowCaption(Label& oLabel, const QString& sCaption);
+  /// Sets the caption that a row goes by, and with it what its input and its Show box are called.
+  void SetRowCaption(Control& oNamed, const QString& sCaption);
 
   void showEvent(QShowEvent* pEvent) override;
   void paintEvent(QPaintEvent* pEvent) override;
@@ -135,6 +136,8 @@ class SectionPanel : public QWidget, public Control {
   void MakeControl(const ControlDesign& oControl);
   void Listen(Control& oControl);
   void NameInputs();
+  [[nodiscard]] QString CaptionOf(const Control& oControl) const;
+  [[nodiscard]] QString CaptionBeside(std::size_t nControl) const;
 
   void EnsureVisibleList();
   void BuildLocator();
