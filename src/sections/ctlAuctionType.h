@@ -1,0 +1,30 @@
+// The section of what kind of listing this is.
+#pragma once
+
+#include "engine/clsAuctionType.h"
+#include "sections/SectionPanel.h"
+
+namespace quillet {
+
+class ctlAuctionType : public SectionPanel {
+  Q_OBJECT
+
+ public:
+  explicit ctlAuctionType(QWidget* pParent);
+
+  /// Shows a listing, and writes into it from then on. It must outlive the panel, and its fees must
+  /// have been worked out once. An input whose value changes by it writes into the listing at once
+  /// and raises Changed.
+  void ApplyAuctionType(clsAuctionType& oAuctionType);
+
+ protected:
+  void UpdateModel() override;
+  void InputClicked(Control& oInput) override;
+
+ private:
+  void SyncShopInventory(bool bShopClicked);
+
+  clsAuctionType* m_oAuctionType = nullptr;
+};
+
+}  // namespace quillet
