@@ -39,5 +39,17 @@ inline constexpr Setting kAbout{
     HiveRoot::Machine, "Config", "About",
     "Welcome to Quillet.\\nKnow what a sale will leave you before you list it."};
 
+/// A section's own settings lie under this and its key: the words of the rows to show, joined by
+/// ",", and its place in the calculator in whole twips.
+inline constexpr const char* kControls = "Controls\\";
+inline constexpr const char* kVisible = "Visible";
+/// A window's place lies under this and its FormKeyName, in twips.
+inline constexpr const char* kForms = "Forms\\";
+inline constexpr const char* kTop = "Top";
+inline constexpr const char* kLeft = "Left";
+inline constexpr const char* kHeight = "Height";
+inline constexpr const char* kWidth = "Width";
+inline constexpr const char* kWindowState = "WindowState";  ///< 0 normal, 1 minimised, 2 maximised
+
 }  // namespace settings
 }  // namespace quillet

@@ -1,0 +1,63 @@
+// The rules of a numeric box that need no toolkit: what its text is worth, how a number is shown,
+// where the caret stands and what a step does. Places in a text count UTF-16 units.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "base/Single.h"
+
+namespace quillet {
+
+/// What stands in the box, and the caret in it: the start of the selection if there is one.
+struct BoxText {
+  std::u16string sText;
+  std::size_t nCaret = 0;
+};
+
+struct NumericText {
+  Single m_fMin;  ///< equal bounds are no bounds
+  Single m_fMax;
+  bool m_bShowMoney = false;  ///< the schedule's currency symbol stands in front
+  std::u16string m_sDecimalSeperator = u".";
+  std::int16_t m_nDecimalPlaces = 0;
+
+  [[nodiscard]] bool HasDecimals() const { return m_nDecimalPlaces >= 1; }
+
+  /// The nearest value within the bounds; bounds that are equal or the wrong way round bound
+  /// nothing.
+  [[nodiscard]] Single ClampValue(Single fValue) const;
+
+  /// What the text is worth, or nothing if it is no number or too large for a Single.
+  [[nodiscard]] std::optional<Single> ParseCurrentValue(std::u16string_view sText) const;
+
+  /// True for a number within the bounds. Without decimals a currency symbol makes it invalid.
+  [[nodiscard]] bool IsTextValid(std::u16string_view sText) const;
+
+  /// True if the caret stands behind the decimal separator.
+  [[nodiscard]] bool CaretRegion(const BoxText& oBox) const;
+
+  /// Shows the clamped value. With decimals the caret comes to stand next to the separator, on the
+  /// side that it was on, otherwise at the end. Without decimals a value beyond 32 bits is a
+  /// Failure.
+  void SetDisplayValue(Single fValue, BoxText& oBox) const;
+
+  /// Adds `nDelta`, or so many of the last decimal place. A text that is no number stays. Five
+  /// decimal places or more have no decimal step: that is a Failure.
+  void StepValue(std::int32_t nDelta, bool bInDecimals, BoxText& oBox) const;
+};
+
+/// The values of a spin button, which wraps round at its ends.
+struct SpinRange {
+  std::int32_t nMin = 0;
+  std::int32_t nMax = 100;
+  std::int32_t nIncrement = 1;
+};
+
+/// Which way, and how far, a spin button went from one value to another.
+[[nodiscard]] std::int32_t SpinDelta(const SpinRange& oRange, std::int32_t nFrom, std::int32_t nTo);
+
+}  // namespace quillet
