@@ -5,6 +5,9 @@ add_library(quillet_desktop STATIC
   platform/qt/Theme.cpp
   sections/Control.cpp
   sections/Controls.cpp
+  sections/SpinButton.cpp
+  sections/controlHelpers.cpp
+  sections/ctlNumericText.cpp
   )
 set_target_properties(quillet_desktop PROPERTIES AUTOMOC ON AUTORCC ON)
 target_link_libraries(quillet_desktop PUBLIC quillet_core Qt6::Core Qt6::Gui Qt6::Widgets)
