@@ -1,0 +1,105 @@
+// Drives a section as its user would, by the names of its controls, and reads it back in words.
+#pragma once
+
+#include <QAbstractButton>
+#include <QTest>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "platform/qt/Theme.h"
+#include "sections/SectionPanel.h"
+#include "sections/controlHelpers.h"
+
+namespace quillet {
+
+/// Every control of a panel and of the panels within it.
+inline std::vector<Control*> AllControls(const SectionPanel& oPanel) {
+  std::vector<Control*> aoAll;
+  for (Control* const pControl : oPanel.Controls()) {
+    aoAll.push_back(pControl);
+    if (const auto* const pInner = dynamic_cast<SectionPanel*>(pControl)) {
+      const std::vector<Control*> aoInner = AllControls(*pInner);
+      aoAll.insert(aoAll.end(), aoInner.begin(), aoInner.end());
+    }
+  }
+  return aoAll;
+}
+
+/// The control of that name, wherever it stands in the panel; an exception if there is none.
+inline Control& ControlOf(const SectionPanel& oPanel, const std::string& sName) {
+  for (Control* const pControl : AllControls(oPanel)) {
+    if (pControl->Name() == sName) {
+      return *pControl;
+    }
+  }
+  throw std::runtime_error("no control " + sName);
+}
+
+/// Clicks boxes and options with the mouse, one after another; names separated by blanks.
+inline void ClickOn(const SectionPanel& oPanel, const std::string& sNames) {
+  std::istringstream oNames(sNames);
+  for (std::string sName; oNames >> sName;) {
+    QWidget& oWidget = ControlOf(oPanel, sName).Widget();
+    QTest::mouseClick(&oWidget, Qt::LeftButton, Qt::NoModifier, QPoint(4, oWidget.height() / 2));
+  }
+}
+
+/// The names of the controls that a test accepts, in the panel's order, separated by blanks.
+template <typename Accept>
+std::string NamesWhere(const SectionPanel& oPanel, Accept&& fnAccept) {
+  std::string sNames;
+  for (Control* const pControl : AllControls(oPanel)) {
+    if (fnAccept(*pControl)) {
+      sNames += (sNames.empty() ? "" : " ") + pControl->Name();
+    }
+  }
+  return sNames;
+}
+
+/// The boxes and options that are chosen, but for the Show boxes.
+inline std::string ChosenIn(const SectionPanel& oPanel) {
+  return NamesWhere(oPanel, [](const Control& oControl) {
+    const auto* const pChoice = dynamic_cast<const Choice*>(&oControl);
+    return pChoice != nullptr && !IsShowCheck(oControl) && pChoice->Value() != 0;
+  });
+}
+
+inline bool IsGrey(const Control& oControl) {
+  return oControl.ForeColor() == kColourGreyText;
+}
+
+/// The rows on view, each with its top: "lblOutlay@360".
+inline std::string PlacesIn(const SectionPanel& oPanel) {
+  std::string sPlaces;
+  for (const Control* const pControl : oPanel.Controls()) {
+    if (pControl->Visible() && !IsShowCheck(*pControl) && !IsHeaderImage(*pControl)) {
+      sPlaces +=
+          (sPlaces.empty() ? "" : " ") + pControl->Name() + "@" + std::to_string(pControl->Top());
+    }
+  }
+  return sPlaces;
+}
+
+/// Those captions that are wider than their control at any zoom that the program offers.
+inline std::string ClippedCaptionsIn(SectionPanel& oPanel) {
+  std::string sClipped;
+  for (const double fZoom : {0.75, 1.0, 1.25, 1.5, 2.0, 3.0}) {
+    SetZoom(fZoom);
+    RescaleAll(oPanel);
+    for (Control* const pControl : AllControls(oPanel)) {
+      const bool bCaptioned = !pControl->Caption().isEmpty() && !IsHeaderImage(*pControl);
+      const int nWanted = pControl->Widget().sizeHint().width();
+      if (bCaptioned && nWanted > pControl->Widget().width()) {
+        sClipped += pControl->Name() + " at zoom " + std::to_string(fZoom) + ": " +
+                    std::to_string(nWanted) + " in " + std::to_string(pControl->Widget().width()) +
+                    "\n";
+      }
+    }
+  }
+  SetZoom(1.0);
+  return sClipped;
+}
+
+}  // namespace quillet
