@@ -104,30 +104,64 @@ std::optional<Float> ConvertExactly(const Scanned& oNumber, std::string_view sSe
   return oResult.ec == std::errc{} ? std::optional<Float>(fValue) : std::nullopt;
 }
 
-/// A short number is one exact integer times or divided by one exact power of ten, which rounds
-/// once and so gives the nearest float; anything else goes the long way.
+/// The powers of ten that a format holds exactly. One exact integer times or divided by one of them
+/// rounds once, and so gives the nearest number.
 template <typename Float>
-std::optional<Float> Convert(std::string_view sText) {
-  constexpr bool bDouble = sizeof(Float) == sizeof(double);
-  constexpr std::uint64_t kExactInteger = std::uint64_t{1} << std::numeric_limits<Float>::digits;
-  constexpr std::int64_t kExactPower = bDouble ? 22 : 10;
-  static constexpr std::array<Float, 23> kPowers = [] {
-    std::array<Float, 23> afPowers{1};
+struct Exact {
+  static constexpr bool bDouble = sizeof(Float) == sizeof(double);
+  static constexpr std::uint64_t kInteger = std::uint64_t{1} << std::numeric_limits<Float>::digits;
+  static constexpr std::size_t kPower = bDouble ? 22 : 10;
+  static constexpr std::array<Float, kPower + 1> kPowers = [] {
+    std::array<Float, kPower + 1> afPowers{1};
     for (std::size_t i = 1; i < afPowers.size(); ++i) {
       afPowers.at(i) = afPowers.at(i - 1) * 10;
     }
     return afPowers;
   }();
+};
 
-  const std::string& sSeparator = TheHost().DecimalSeparator();
+/// The way of nearly every price: a few digits with a separator among them, and nothing else. False
+/// for any other text, be it a number or not.
+template <typename Float>
+bool ConvertPlain(std::string_view sText, const std::string& sSeparator, Float& fValue) {
+  constexpr std::size_t kLongest = 8;  // of that many digits none can get lost
+  if (sText.empty() || sText.size() > kLongest || sSeparator.size() != 1) {
+    return false;
+  }
+  std::uint32_t uDigits = 0;
+  std::size_t nBehind = 0;  // 0 before the separator, then one more than the digits behind it
+  for (const char c : sText) {
+    if (IsDigit(c)) {
+      uDigits = uDigits * 10 + static_cast<std::uint32_t>(c - '0');
+      nBehind += nBehind != 0 ? 1U : 0U;
+    } else if (c == sSeparator.front() && nBehind == 0) {
+      nBehind = 1;
+    } else {
+      return false;
+    }
+  }
+  if ((nBehind != 0 && sText.size() == 1) || uDigits > Exact<Float>::kInteger) {
+    return false;
+  }
+  fValue = static_cast<Float>(uDigits);
+  if (nBehind > 1) {
+    fValue /= Exact<Float>::kPowers[nBehind - 1];
+  }
+  return true;
+}
+
+/// The way of every other number.
+template <typename Float>
+std::optional<Float> ConvertAny(std::string_view sText, const std::string& sSeparator) {
   const std::optional<Scanned> oNumber = Scan(sText, sSeparator);
   if (!oNumber) {
     return std::nullopt;
   }
   std::optional<Float> fValue;
-  if (oNumber->bWhole && oNumber->uDigits <= kExactInteger &&
-      std::abs(oNumber->nExponent) <= kExactPower) {
-    const Float fPower = kPowers.at(static_cast<std::size_t>(std::abs(oNumber->nExponent)));
+  const auto nPower = static_cast<std::size_t>(std::abs(oNumber->nExponent));
+  if (oNumber->bWhole && oNumber->uDigits <= Exact<Float>::kInteger &&
+      nPower <= Exact<Float>::kPower) {
+    const Float fPower = Exact<Float>::kPowers.at(nPower);
     const auto fDigits = static_cast<Float>(oNumber->uDigits);
     fValue = oNumber->nExponent < 0 ? fDigits / fPower : fDigits * fPower;
   } else {
@@ -137,6 +171,18 @@ std::optional<Float> Convert(std::string_view sText) {
     fValue = -*fValue;
   }
   return fValue;
+}
+
+/// False, and `fValue` left alone, if the text is no number.
+template <typename Float>
+bool Convert(std::string_view sText, Float& fValue) {
+  const std::string& sSeparator = TheHost().DecimalSeparator();
+  if (ConvertPlain(sText, sSeparator, fValue)) {
+    return true;
+  }
+  const std::optional<Float> fFound = ConvertAny<Float>(sText, sSeparator);
+  fValue = fFound.value_or(fValue);
+  return fFound.has_value();
 }
 
 template <typename Integer>
@@ -214,16 +260,26 @@ void InsertGroups(std::string& sWhole, std::string_view sGroup) {
 }  // namespace
 
 std::optional<double> ToDouble(std::string_view sText) {
-  return Convert<double>(sText);
+  double fValue = 0;
+  return Convert(sText, fValue) ? std::optional<double>(fValue) : std::nullopt;
 }
 
 bool IsNumeric(std::string_view sText) {
   return ToDouble(sText).has_value();
 }
 
+bool ReadSingle(std::string_view sText, Single& fValue) {
+  float fRead = 0;
+  if (!Convert(sText, fRead)) {
+    return false;
+  }
+  fValue = static_cast<double>(fRead);
+  return true;
+}
+
 std::optional<Single> ToSingle(std::string_view sText) {
-  const std::optional<float> fValue = Convert<float>(sText);
-  return fValue ? std::optional<Single>(static_cast<double>(*fValue)) : std::nullopt;
+  Single fValue;
+  return ReadSingle(sText, fValue) ? std::optional<Single>(fValue) : std::nullopt;
 }
 
 std::optional<std::int32_t> ToLong(std::string_view sText) {

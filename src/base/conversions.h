@@ -23,6 +23,9 @@ namespace quillet {
 /// The nearest 32-bit float, a tie to even; a number too small for one reads as 0.
 [[nodiscard]] std::optional<Single> ToSingle(std::string_view sText);
 
+/// The same for the many look-ups of prices: false, and `fValue` left alone, if it doesn't convert.
+[[nodiscard]] bool ReadSingle(std::string_view sText, Single& fValue);
+
 [[nodiscard]] std::optional<std::int32_t> ToLong(std::string_view sText);     ///< 32 bits, signed
 [[nodiscard]] std::optional<std::int16_t> ToInteger(std::string_view sText);  ///< 16 bits, signed
 [[nodiscard]] std::optional<std::uint8_t> ToByte(std::string_view sText);     ///< 0 to 255

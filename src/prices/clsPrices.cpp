@@ -14,7 +14,6 @@
 namespace quillet {
 namespace {
 
-constexpr std::size_t kLargestFile = std::size_t{8} << 20U;  // no sane fee schedule is larger
 constexpr int kAttempts = 5;
 constexpr int kWaitAfterAttempt = 100;  // milliseconds
 
@@ -29,7 +28,7 @@ std::string ReadUpdateFile(const std::string& sPath, int nAttempts) {
   std::string sBytes;
   std::error_code oError;
   for (int nTries = 0; nTries < nAttempts; ++nTries) {
-    oError = ReadWholeFile(sPath, kLargestFile, sBytes);
+    oError = ReadWholeFile(sPath, clsPrices::kLargestFile, sBytes);
     if (!oError) {
       return DecodeText(std::move(sBytes));
     }
@@ -85,15 +84,17 @@ bool clsPrices::GetData(const PriceKey& oName, std::string_view& sData) const {
 }
 
 bool clsPrices::GetPrice(const PriceKey& oName, Single& fValue, std::int32_t nShop) const {
-  PriceKey oKey = oName;
-  oKey.Append(ShopSuffix(nShop));
-  std::string_view sData;
-  if (!GetData(oKey, sData)) {
-    return false;
+  const std::string_view sSuffix = ShopSuffix(nShop);
+  if (sSuffix.empty()) {
+    return ReadNumber(oName, fValue);
   }
-  const auto fFound = ToSingle(sData);
-  fValue = fFound.value_or(fValue);
-  return fFound.has_value();
+  PriceKey oKey = oName;
+  return ReadNumber(oKey.Append(sSuffix), fValue);
+}
+
+bool clsPrices::ReadNumber(const PriceKey& oKey, Single& fValue) const {
+  const auto sFound = m_oTable.Find(oKey.Text());
+  return sFound && ReadSingle(*sFound, fValue);
 }
 
 bool clsPrices::GetRange(const PriceKey& oName, std::int16_t nRangeNumber, clsPriceRange& oRange,
@@ -147,7 +148,7 @@ bool clsPrices::ReadTier(PriceKey& oName, std::int16_t nTier, clsPriceRange& oRa
   const auto fnRead = [&](std::string_view sPart, Single& fValue) {
     fValue = 0;
     oName.Append(sPart).Append(nTier);
-    const bool bFound = GetPrice(oName, fValue, kShopNone);
+    const bool bFound = ReadNumber(oName, fValue);
     oName.Truncate(nNameLength);
     return bFound;
   };

@@ -18,6 +18,9 @@ namespace quillet {
 /// onto the key. Values are text, converted anew at each look-up by the user's decimal separator.
 class clsPrices {
  public:
+  /// Bytes; no sane fee schedule is larger, and none that is gets loaded.
+  static constexpr std::size_t kLargestFile = std::size_t{8} << 20U;
+
   /// Reads the region's update file, in five attempts. If it can't be read, or holds a key twice,
   /// says so in a message box and closes the application; the table is left as far as it got.
   void LoadUpdateFile();
@@ -50,6 +53,7 @@ class clsPrices {
   [[nodiscard]] const PriceTable& Table() const { return m_oTable; }
 
  private:
+  bool ReadNumber(const PriceKey& oKey, Single& fValue) const;
   [[nodiscard]] std::int16_t TierCount(PriceKey oName) const;
   bool ReadTier(PriceKey& oName, std::int16_t nTier, clsPriceRange& oRange) const;
 

@@ -2,19 +2,16 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <cstdlib>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "platform/posix/Descriptors.h"
+
 namespace quillet {
 namespace {
-
-std::error_code LastError() {
-  return {errno, std::generic_category()};
-}
 
 /// An open file, closed when it goes out of scope.
 class Descriptor {
@@ -40,20 +37,6 @@ class Descriptor {
  private:
   int m_nHandle;
 };
-
-std::error_code WriteAll(int nHandle, std::string_view sContent) {
-  while (!sContent.empty()) {
-    const ssize_t nWritten = ::write(nHandle, sContent.data(), sContent.size());
-    if (nWritten < 0 && errno == EINTR) {
-      continue;
-    }
-    if (nWritten < 0) {
-      return LastError();
-    }
-    sContent.remove_prefix(static_cast<std::size_t>(nWritten));
-  }
-  return {};
-}
 
 std::error_code WriteNewFile(const std::string& sPath, std::string_view sContent, mode_t nMode) {
   Descriptor oFile(::open(sPath.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, nMode));
@@ -99,17 +82,14 @@ std::error_code ReadWholeFile(const std::string& sPath, std::size_t nLimit, std:
   std::string sRead;
   std::array<char, 65536> acBlock{};
   while (true) {
-    const ssize_t nRead = ::read(oFile.Handle(), acBlock.data(), acBlock.size());
-    if (nRead < 0 && errno == EINTR) {
-      continue;
-    }
-    if (nRead < 0) {
-      return LastError();
+    std::size_t nRead = 0;
+    if (std::error_code oError = ReadSome(oFile.Handle(), acBlock.data(), acBlock.size(), nRead)) {
+      return oError;
     }
     if (nRead == 0) {
       break;
     }
-    sRead.append(acBlock.data(), static_cast<std::size_t>(nRead));
+    sRead.append(acBlock.data(), nRead);
     if (sRead.size() > nLimit) {
       return std::make_error_code(std::errc::file_too_large);
     }

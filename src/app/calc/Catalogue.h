@@ -1,0 +1,49 @@
+// Every key that a region's rules ask the fee schedule for.
+#pragma once
+
+#include <cstdint>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillet {
+
+enum class KeyKind {
+  Text,
+  Number,
+  // Tier tables, by what is looked up in them.
+  PriceTiers,        ///< an amount of money
+  PictureTiers,      ///< a count
+  WeightTiers,       ///< kilograms
+  BandTiers,         ///< the value of a merchant-rate band
+  ProgressiveTiers,  ///< not looked up: each tier takes its part of a price
+};
+
+struct CatalogueKey {
+  std::string sName;  ///< a tier table's without "Ranges" and the like
+  KeyKind eKind = KeyKind::Text;
+
+  [[nodiscard]] bool IsTable() const { return eKind != KeyKind::Text && eKind != KeyKind::Number; }
+};
+
+class Catalogue {
+ public:
+  explicit Catalogue(std::int32_t nRegion);
+
+  [[nodiscard]] const std::vector<CatalogueKey>& Keys() const { return m_aoKeys; }
+
+  /// True for a key of the catalogue, and for a key of any of its tables. Case doesn't matter.
+  [[nodiscard]] bool Holds(std::string_view sKey) const;
+
+ private:
+  std::vector<CatalogueKey> m_aoKeys;
+  std::set<std::string, std::less<>> m_asPlain;   ///< in upper case
+  std::set<std::string, std::less<>> m_asTables;  ///< in upper case
+};
+
+/// The number of the tier that a key of a table belongs to: 3 for "OpeningRangeEnd3" and "Opening".
+/// 0 if it is no such key. Case doesn't matter.
+[[nodiscard]] std::int32_t TierOfKey(std::string_view sKey, std::string_view sTable);
+
+}  // namespace quillet

@@ -1,0 +1,77 @@
+#include "app/calc/Options.h"
+
+#include <map>
+
+#include <CLI/CLI.hpp>
+
+#include "app/calc/Status.h"
+#include "base/basCommon.h"
+#include "base/version.h"
+#include "platform/posix/Descriptors.h"
+
+namespace quillet {
+namespace {
+
+const std::map<std::string, Format> kFormats = {{"", Format::Automatic},
+                                                {"table", Format::Table},
+                                                {"csv", Format::Csv},
+                                                {"json", Format::Json}};
+
+std::string Footer() {
+  return "An auction file holds one auction. Standard input (-, or a pipe) holds one a line.\n"
+         "The table is for one auction, CSV for more; json prints one object a line.\n\n"
+         "Exit status: 0 when every auction was calculated, 1 when some failed or could not be\n"
+         "read, 2 for wrong usage or an unusable fee schedule. With --check: 1 when something\n"
+         "is wrong with the file.";
+}
+
+void Describe(CLI::App& oApp, Options& oOptions, std::string& sFormat) {
+  oApp.footer(Footer());
+  oApp.set_version_flag("--version",
+                        std::string(ProgramName()) + " " + kVersion + " (" + EditionName() + ")",
+                        "Print the version and end");
+  auto* const pPrices = oApp.add_option(
+      "--prices", oOptions.sPrices,
+      "The fee schedule; by default " + UpdateFileName(true) + " beside the program");
+  auto* const pFormat = oApp.add_option("--format", sFormat, "table, csv or json");
+  auto* const pFiles =
+      oApp.add_option("FILE", oOptions.asFiles, "Auction files, or - for a stream");
+  auto* const pCheck =
+      oApp.add_option("--check", oOptions.sCheck, "Check a fee schedule and list what is wrong");
+  pPrices->option_text("FILE");
+  pFormat->option_text("FORMAT")->check(CLI::IsMember({"table", "csv", "json"}));
+  pFiles->option_text("...");
+  pCheck->option_text("FILE")->excludes(pPrices)->excludes(pFormat)->excludes(pFiles);
+}
+
+}  // namespace
+
+std::optional<Options> ReadOptions(int nArguments, char** asArguments, int& nStatus) {
+  Options oOptions;
+  std::string sFormat;
+  CLI::App oApp("What an auction will leave its seller: every fee, the selling cost, the profit.",
+                std::string(ProgramName()));
+  Describe(oApp, oOptions, sFormat);
+  try {
+    oApp.parse(nArguments, asArguments);
+  } catch (const CLI::Success& oAnswered) {
+    nStatus = oApp.exit(oAnswered);
+    return std::nullopt;
+  } catch (const CLI::ParseError& oError) {
+    Complain(std::string(oError.what()) + "; --help tells the usage");
+    nStatus = kUnusable;
+    return std::nullopt;
+  }
+  oOptions.eFormat = kFormats.at(sFormat);
+  if (oOptions.asFiles.empty() && !oOptions.sCheck) {
+    if (IsTerminal(kStandardInput)) {
+      Complain("no auction file; --help tells the usage");
+      nStatus = kUnusable;
+      return std::nullopt;
+    }
+    oOptions.asFiles.emplace_back(kStandardInputName);
+  }
+  return oOptions;
+}
+
+}  // namespace quillet

@@ -1,0 +1,26 @@
+// What the user asked for on the command line.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quillet {
+
+enum class Format { Automatic, Table, Csv, Json };
+
+/// The file name that stands for standard input.
+inline constexpr const char* kStandardInputName = "-";
+
+struct Options {
+  std::optional<std::string> sPrices;  ///< a fee schedule other than the one beside the program
+  std::optional<std::string> sCheck;   ///< an update file to check, and nothing else to do
+  Format eFormat = Format::Automatic;
+  std::vector<std::string> asFiles;  ///< never empty unless sCheck is set
+};
+
+/// Reads the command line. If it asks for help or is wrong, says so and sets `nStatus`, which the
+/// program then ends with; the options are then nothing.
+[[nodiscard]] std::optional<Options> ReadOptions(int nArguments, char** asArguments, int& nStatus);
+
+}  // namespace quillet

@@ -1,0 +1,30 @@
+// One line on standard error that tells how far a long run has come.
+#pragma once
+
+#include <cstdint>
+
+namespace quillet {
+
+/// Shows itself only where somebody looks on: when standard error is a terminal, the results go
+/// elsewhere, and the work has taken a second.
+class Progress {
+ public:
+  Progress();
+  Progress(const Progress&) = delete;
+  Progress& operator=(const Progress&) = delete;
+  ~Progress();
+
+  /// One more auction is done.
+  void Advance();
+
+ private:
+  void Show(std::int64_t nNow);
+
+  bool m_bWatched;
+  bool m_bShown = false;
+  std::int64_t m_nDone = 0;
+  std::int64_t m_nStart = 0;     ///< milliseconds
+  std::int64_t m_nNextShow = 0;  ///< milliseconds
+};
+
+}  // namespace quillet

@@ -1,0 +1,34 @@
+// The forms in which results are printed.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "app/calc/Options.h"
+#include "app/calc/Result.h"
+
+namespace quillet {
+
+class Report {
+ public:
+  virtual ~Report() = default;
+
+  /// What stands before the first result.
+  virtual void AddHeader(std::string& /*sOut*/) {}
+
+  virtual void Add(const Result& oResult, std::string& sOut) = 0;
+
+  /// True if every result names its message and error itself.
+  [[nodiscard]] virtual bool HoldsMessages() const { return true; }
+};
+
+/// A table for people: the labels of the summary and what stands behind them, in colour if asked.
+[[nodiscard]] std::unique_ptr<Report> MakeTableReport(bool bColour);
+
+// For programs, with the same columns: figures in the shortest form that reads back as the same
+// 32-bit float, with a point.
+[[nodiscard]] std::unique_ptr<Report> MakeCsvReport();  ///< a header line; a cell may be empty
+[[nodiscard]] std::unique_ptr<Report>
+MakeJsonReport();  ///< one object a line; null where nothing is
+
+}  // namespace quillet

@@ -1,0 +1,20 @@
+// How the program ends.
+#pragma once
+
+#include <string_view>
+
+namespace quillet {
+
+enum Status : int {
+  kEveryAuctionCalculated = 0,  ///< or nothing found by the check
+  kSomeFailed = 1,              ///< or something found by the check
+  kUnusable = 2,                ///< wrong usage, or a fee schedule that can't be used
+};
+
+/// Writes a line to standard error, with the program's name in front.
+void Complain(std::string_view sText);
+
+/// "quillet-calc", or the name of the other region's program.
+[[nodiscard]] std::string_view ProgramName();
+
+}  // namespace quillet

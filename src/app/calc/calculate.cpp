@@ -1,0 +1,70 @@
+#include "app/calc/calculate.h"
+
+#include <system_error>
+
+#include "app/calc/LineStream.h"
+#include "base/failure.h"
+#include "base/text.h"
+#include "engine/clsCalculate.h"
+#include "engine/profitPercent.h"
+#include "platform/Files.h"
+
+namespace quillet {
+namespace {
+
+Figures FiguresOf(clsCalculate& oAuction) {
+  oAuction.DoCalc();
+  Figures oFigures;
+  oFigures.fProfit = oAuction.m_fProfit;
+  oFigures.fSellingCost = oAuction.m_fSellCost;
+  oFigures.fPostageCost = oAuction.m_fPostageCost;
+  oFigures.fPostageProfit = oAuction.m_fPostageProfit;
+  oFigures.fListingFee = oAuction.m_fListingCost;
+  oFigures.fFeaturesFee = oAuction.m_oSellingFeatures.DoCalc(nullptr, nullptr);
+  oFigures.fTotalListingFee = oFigures.fListingFee + oFigures.fFeaturesFee;
+  oFigures.fReserveFee = oAuction.m_fReserveCost;
+  oFigures.fFinalValueFee = oAuction.m_fFinalValueFee;
+  oFigures.fPayPalFee = oAuction.m_fPayPayCost;
+  oFigures.sProfitPercent = ProfitPercentText(oAuction);
+  return oFigures;
+}
+
+}  // namespace
+
+void SetError(Result& oResult, std::string sError) {
+  oResult.sMessage.reset();
+  oResult.oFigures.reset();
+  oResult.sAuction.reset();
+  oResult.sError = std::move(sError);
+}
+
+void Calculate(std::string& sText, CalcHost& oHost, Result& oResult) {
+  if (sText.find_first_not_of(" \t\r\n") == std::string::npos) {
+    SetError(oResult, "There is no auction in it; it is empty.");
+    return;
+  }
+  clsCalculate oAuction;
+  sText = DecodeText(std::move(sText));
+  oAuction.Serialize(sText, false);
+  oResult.sMessage = oHost.TakeMessage();
+  oResult.sAuction.emplace();
+  oAuction.Serialize(*oResult.sAuction, true);
+  oResult.sError.reset();
+  try {
+    oResult.oFigures = FiguresOf(oAuction);
+  } catch (const Failure& oFailure) {
+    oResult.oFigures.reset();
+    oResult.sError = oFailure.what();
+  }
+}
+
+void CalculateFile(CalcHost& oHost, Result& oResult) {
+  std::string sText;
+  if (const std::error_code oError = ReadWholeFile(oResult.sFile, kLongestAuction, sText)) {
+    SetError(oResult, "It can't be read: " + oError.message());
+    return;
+  }
+  Calculate(sText, oHost, oResult);
+}
+
+}  // namespace quillet

@@ -1,0 +1,21 @@
+// From the text of an auction to its result.
+#pragma once
+
+#include <string>
+
+#include "app/calc/CalcHost.h"
+#include "app/calc/Result.h"
+
+namespace quillet {
+
+/// Fills all of `oResult` but its name from the text of an auction, which is used up. A text
+/// without anything in it is an error.
+void Calculate(std::string& sText, CalcHost& oHost, Result& oResult);
+
+/// The same for the auction in the file that `oResult` names.
+void CalculateFile(CalcHost& oHost, Result& oResult);
+
+/// Empties `oResult` but for its name, and sets the error.
+void SetError(Result& oResult, std::string sError);
+
+}  // namespace quillet

@@ -1,0 +1,68 @@
+#include "app/calc/checkSchedule.h"
+
+#include <system_error>
+
+#include "app/calc/Output.h"
+#include "app/calc/Schedule.h"
+#include "app/calc/checkTiers.h"
+#include "base/basCommon.h"
+#include "base/region.h"
+#include "base/text.h"
+#include "platform/Files.h"
+#include "prices/clsPrices.h"
+
+namespace quillet {
+namespace {
+
+void CheckPlainKey(Schedule& oSchedule, const CatalogueKey& oKey) {
+  if (oSchedule.Ask(oKey.sName) == nullptr) {
+    oSchedule.Report(oSchedule.LastLine(), Quoted(oKey.sName) + " is missing");
+  } else if (oKey.eKind == KeyKind::Number) {
+    (void)AskNumber(oSchedule, oKey.sName);
+  }
+}
+
+void ReportUnasked(Schedule& oSchedule, const Catalogue& oCatalogue) {
+  for (const ScheduleEntry& oEntry : oSchedule.Entries()) {
+    if (!oEntry.bAsked) {
+      const bool bBlanks = oCatalogue.Holds(Trim(oEntry.sKey));
+      oSchedule.Report(oEntry.nLine, "nothing in " + EditionName() + " asks for " +
+                                         Quoted(oEntry.sKey) +
+                                         (bBlanks ? "; the blanks count" : ""));
+    }
+  }
+}
+
+std::vector<Finding> CheckSchedule(std::string_view sText) {
+  const Catalogue oCatalogue(RegionCode());
+  Schedule oSchedule(sText, oCatalogue);
+  for (const CatalogueKey& oKey : oCatalogue.Keys()) {
+    if (oKey.IsTable()) {
+      CheckTiers(oSchedule, oKey);
+    } else {
+      CheckPlainKey(oSchedule, oKey);
+    }
+  }
+  ReportUnasked(oSchedule, oCatalogue);
+  return oSchedule.Findings();
+}
+
+}  // namespace
+
+Status CheckScheduleFile(const std::string& sPath) {
+  std::string sBytes;
+  if (const std::error_code oError = ReadWholeFile(sPath, clsPrices::kLargestFile, sBytes)) {
+    Complain(sPath + ": " + oError.message());
+    return kUnusable;
+  }
+  Output oOutput;
+  const std::vector<Finding> aoFindings = CheckSchedule(DecodeText(std::move(sBytes)));
+  for (const Finding& oFinding : aoFindings) {
+    oOutput.Text() += sPath + ":" + std::to_string(oFinding.nLine) + ": " + oFinding.sText + "\n";
+    oOutput.FlushIfLarge();
+  }
+  oOutput.Flush();
+  return aoFindings.empty() ? kEveryAuctionCalculated : kSomeFailed;
+}
+
+}  // namespace quillet

@@ -1,0 +1,211 @@
+#include "app/calc/checkTiers.h"
+
+#include "base/Single.h"
+#include "base/conversions.h"
+#include "platform/Host.h"
+#include "prices/clsPriceRange.h"
+
+namespace quillet {
+namespace {
+
+struct Tier {
+  std::int32_t nNumber = 0;
+  const ScheduleEntry* pStart = nullptr;
+  const ScheduleEntry* pEnd = nullptr;
+  double fStart = 0;
+  double fEnd = 0;
+
+  [[nodiscard]] bool IsEndless() const { return fEnd == clsPriceRange::kNoUpperLimit; }
+  [[nodiscard]] std::string Name() const { return "tier " + std::to_string(nNumber); }
+};
+
+class TierCheck {
+ public:
+  TierCheck(Schedule& oSchedule, const CatalogueKey& oTable)
+      : m_oSchedule(oSchedule), m_oTable(oTable) {}
+
+  void Run() {
+    const ScheduleEntry* const pCount = m_oSchedule.Ask(m_oTable.sName + "Ranges");
+    const std::int32_t nCount = pCount != nullptr ? CountOf(*pCount) : kUnknown;
+    if (pCount == nullptr) {
+      m_oSchedule.Report(m_oSchedule.LastLine(), Quoted(m_oTable.sName + "Ranges") + " is missing");
+    }
+    for (std::int32_t nTier = 1; nTier <= nCount; ++nTier) {
+      ReadTier(nTier, *pCount);
+    }
+    ReportMissingRun(nCount + 1, pCount);
+    AskForTheRest(nCount, pCount);
+    if (m_oTable.eKind == KeyKind::BandTiers && nCount != kUnknown) {
+      CheckBands();
+    }
+  }
+
+ private:
+  static constexpr std::int32_t kUnknown = -1;
+
+  void Report(std::size_t nLine, const std::string& sText) {
+    m_oSchedule.Report(nLine, Quoted(m_oTable.sName) + ": " + sText);
+  }
+
+  std::int32_t CountOf(const ScheduleEntry& oEntry) {
+    const auto nCount = ToInteger(oEntry.sValue);
+    if (!nCount || *nCount < 0) {
+      m_oSchedule.Report(
+          oEntry.nLine, Quoted(oEntry.sKey) + " isn't a number of tiers: " + Quoted(oEntry.sValue));
+      return kUnknown;
+    }
+    return *nCount;
+  }
+
+  void ReadTier(std::int32_t nTier, const ScheduleEntry& oCount) {
+    Tier oTier{.nNumber = nTier};
+    const std::string sNumber = std::to_string(nTier);
+    const std::string sStart = m_oTable.sName + "RangeStart" + sNumber;
+    const std::string sEnd = m_oTable.sName + "RangeEnd" + sNumber;
+    const std::string sValue = m_oTable.sName + "RangeValue" + sNumber;
+    oTier.pStart = m_oSchedule.Ask(sStart);
+    oTier.pEnd = m_oSchedule.Ask(sEnd);
+    const bool bValue = m_oSchedule.Ask(sValue) != nullptr;
+    if (oTier.pStart == nullptr && oTier.pEnd == nullptr && !bValue) {
+      m_nFirstMissing = m_nFirstMissing == 0 ? nTier : m_nFirstMissing;
+      return;
+    }
+    ReportMissingRun(nTier, &oCount);
+    const auto fnReportMissing = [&](bool bThere, const std::string& sKey) {
+      if (!bThere) {
+        m_oSchedule.Report(oCount.nLine, Quoted(sKey) + " is missing");
+      }
+    };
+    fnReportMissing(oTier.pStart != nullptr, sStart);
+    fnReportMissing(oTier.pEnd != nullptr, sEnd);
+    fnReportMissing(bValue, sValue);
+    (void)AskNumber(m_oSchedule, sValue);
+    const auto fStart = AskNumber(m_oSchedule, sStart);
+    const auto fEnd = AskNumber(m_oSchedule, sEnd);
+    if (fStart && fEnd) {
+      oTier.fStart = *fStart;
+      oTier.fEnd = *fEnd;
+      CheckTier(oTier);
+    }
+  }
+
+  /// Reports the tiers that have no key at all, up to the one before `nTier`.
+  void ReportMissingRun(std::int32_t nTier, const ScheduleEntry* pCount) {
+    if (m_nFirstMissing != 0) {
+      const std::int32_t nLast = nTier - 1;
+      const std::string sFirst = std::to_string(m_nFirstMissing);
+      Report(pCount->nLine, nLast == m_nFirstMissing ? "tier " + sFirst + " is missing"
+                                                     : "tiers " + sFirst + " to " +
+                                                           std::to_string(nLast) + " are missing");
+      m_nFirstMissing = 0;
+    }
+  }
+
+  /// What is wrong with a tier by itself and behind the one before it.
+  void CheckTier(const Tier& oTier) {
+    if (!oTier.IsEndless() && oTier.fEnd < oTier.fStart) {
+      Report(oTier.pEnd->nLine, oTier.Name() + " ends at " + oTier.pEnd->sValue +
+                                    " before its start at " + oTier.pStart->sValue);
+    } else if (!m_aoTiers.empty() && m_aoTiers.back().nNumber == oTier.nNumber - 1) {
+      CheckSeam(m_aoTiers.back(), oTier);
+    }
+    m_aoTiers.push_back(oTier);
+  }
+
+  void CheckSeam(const Tier& oBefore, const Tier& oTier) {
+    const std::size_t nLine = oTier.pStart->nLine;
+    const std::string sBetween = oBefore.Name() + " to " + oBefore.pEnd->sValue + " and " +
+                                 oTier.Name() + " from " + oTier.pStart->sValue;
+    if (oBefore.IsEndless()) {
+      Report(nLine, oTier.Name() + " overlaps with " + oBefore.Name() + " without an upper limit");
+    } else if (oTier.fStart < oBefore.fEnd) {
+      Report(nLine, "overlap between " + sBetween);
+    } else if (IsGap(oBefore.fEnd, oTier.fStart)) {
+      Report(nLine, "gap between " + sBetween);
+    }
+  }
+
+  /// A gap is where a value could stand: by the smallest step that the looked-up value takes.
+  [[nodiscard]] bool IsGap(double fEnd, double fStart) const {
+    constexpr double kCent = 0.01;
+    constexpr double kGram = 0.001;
+    constexpr double kTolerance = 1.001;  // decimal fractions aren't exact in binary
+    switch (m_oTable.eKind) {
+      case KeyKind::PriceTiers:
+        return fStart - fEnd > kCent * kTolerance;
+      case KeyKind::WeightTiers:
+        return fStart - fEnd > kGram * kTolerance;
+      case KeyKind::PictureTiers:
+      case KeyKind::BandTiers:
+        return fStart - fEnd > kTolerance;
+      default:
+        return fStart != fEnd;
+    }
+  }
+
+  /// Marks the table's other keys as asked for, and reports those beyond its count.
+  void AskForTheRest(std::int32_t nCount, const ScheduleEntry* pCount) {
+    for (ScheduleEntry& oEntry : m_oSchedule.Entries()) {
+      const std::int32_t nTier = oEntry.bAsked ? 0 : TierOfKey(oEntry.sKey, m_oTable.sName);
+      if (nTier == 0) {
+        continue;
+      }
+      oEntry.bAsked = true;
+      if (nCount != kUnknown) {
+        m_oSchedule.Report(oEntry.nLine, Quoted(oEntry.sKey) + " stands beyond the count of " +
+                                             std::to_string(nCount) + " in line " +
+                                             std::to_string(pCount->nLine));
+      }
+    }
+  }
+
+  /// Every merchant-rate band must find its rate here.
+  void CheckBands() {
+    for (const char* const sBand : {"1", "2", "3", "4", "5"}) {
+      const ScheduleEntry* const pValue =
+          m_oSchedule.Ask(std::string("BusinessRateBand") + sBand + "Value");
+      const auto fValue = pValue != nullptr ? ToDouble(pValue->sValue) : std::nullopt;
+      if (fValue && !IsInATier(*fValue)) {
+        Report(pValue->nLine, "no tier holds " + Quoted(pValue->sKey) + " of " + pValue->sValue);
+      }
+    }
+  }
+
+  [[nodiscard]] bool IsInATier(double fValue) const {
+    for (const Tier& oTier : m_aoTiers) {
+      if (fValue >= oTier.fStart && (oTier.IsEndless() || fValue <= oTier.fEnd)) {
+        return true;
+      }
+    }
+    return false;
+  }
+
+  Schedule& m_oSchedule;
+  const CatalogueKey& m_oTable;
+  std::vector<Tier> m_aoTiers;
+  std::int32_t m_nFirstMissing = 0;
+};
+
+}  // namespace
+
+void CheckTiers(Schedule& oSchedule, const CatalogueKey& oTable) {
+  TierCheck(oSchedule, oTable).Run();
+}
+
+std::optional<double> AskNumber(Schedule& oSchedule, const std::string& sKey) {
+  const ScheduleEntry* const pEntry = oSchedule.Ask(sKey);
+  if (pEntry == nullptr) {
+    return std::nullopt;
+  }
+  if (!ToSingle(pEntry->sValue)) {
+    const std::string& sSeparator = TheHost().DecimalSeparator();
+    oSchedule.Report(
+        pEntry->nLine,
+        Quoted(pEntry->sKey) + " isn't a number: " + Quoted(pEntry->sValue) +
+            (sSeparator == "." ? "" : " (the decimal separator here is \"" + sSeparator + "\")"));
+    return std::nullopt;
+  }
+  return ToDouble(pEntry->sValue);
+}
+
+}  // namespace quillet

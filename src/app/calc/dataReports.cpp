@@ -1,0 +1,81 @@
+// The reports for programs: CSV and JSON.
+#include <nlohmann/json.hpp>
+
+#include "app/calc/Report.h"
+#include "app/calc/columns.h"
+
+namespace quillet {
+namespace {
+
+void AppendQuotedForCsv(std::string_view sText, std::string& sOut) {
+  if (sText.find_first_of(",\"\r\n") == std::string_view::npos) {
+    sOut += sText;
+    return;
+  }
+  sOut += '"';
+  for (const char c : sText) {
+    sOut.append(c == '"' ? 2 : 1, c);
+  }
+  sOut += '"';
+}
+
+class CsvReport : public Report {
+ public:
+  void AddHeader(std::string& sOut) override {
+    for (const Column& oColumn : kColumns) {
+      sOut.append(&oColumn == kColumns.data() ? "" : ",").append(oColumn.sName);
+    }
+    sOut += '\n';
+  }
+
+  void Add(const Result& oResult, std::string& sOut) override {
+    for (const Column& oColumn : kColumns) {
+      sOut += &oColumn == kColumns.data() ? "" : ",";
+      m_sCell.clear();
+      oColumn.fnRead(oResult, m_sCell);
+      AppendQuotedForCsv(m_sCell, sOut);
+    }
+    sOut += '\n';
+  }
+
+ private:
+  std::string m_sCell;
+};
+
+class JsonReport : public Report {
+ public:
+  void Add(const Result& oResult, std::string& sOut) override {
+    for (const Column& oColumn : kColumns) {
+      sOut.append(&oColumn == kColumns.data() ? "{\"" : ",\"").append(oColumn.sName).append("\":");
+      m_sCell.clear();
+      switch (oColumn.fnRead(oResult, m_sCell)) {
+        case Cell::None:
+          sOut += "null";
+          break;
+        case Cell::Number:
+          sOut += m_sCell;
+          break;
+        case Cell::Text:
+          sOut += nlohmann::json(m_sCell).dump(-1, ' ', false,
+                                               nlohmann::json::error_handler_t::replace);
+          break;
+      }
+    }
+    sOut += "}\n";
+  }
+
+ private:
+  std::string m_sCell;
+};
+
+}  // namespace
+
+std::unique_ptr<Report> MakeCsvReport() {
+  return std::make_unique<CsvReport>();
+}
+
+std::unique_ptr<Report> MakeJsonReport() {
+  return std::make_unique<JsonReport>();
+}
+
+}  // namespace quillet
