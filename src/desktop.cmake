@@ -8,6 +8,7 @@ add_library(quillet_desktop STATIC
   sections/SpinButton.cpp
   sections/controlHelpers.cpp
   sections/ctlNumericText.cpp
+  shell/formPosition.cpp
   )
 set_target_properties(quillet_desktop PROPERTIES AUTOMOC ON AUTORCC ON)
 target_link_libraries(quillet_desktop PUBLIC quillet_core Qt6::Core Qt6::Gui Qt6::Widgets)
