@@ -3,12 +3,30 @@ find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets)
 
 add_library(quillet_desktop STATIC
   platform/qt/Theme.cpp
+  sections/AuctionOptionsPanel.cpp
   sections/Control.cpp
   sections/Controls.cpp
+  sections/GrandTotal.cpp
+  sections/SectionPanel.cpp
   sections/SpinButton.cpp
   sections/controlHelpers.cpp
+  sections/ctlAuctionType.cpp
+  sections/ctlMotorOptions.cpp
   sections/ctlNumericText.cpp
+  sections/ctlOutlay.cpp
+  sections/ctlPayPal.cpp
+  sections/ctlPaypalBusinessTypes.cpp
+  sections/ctlPostage.cpp
+  sections/ctlPostageParcelInsurance.cpp
+  sections/ctlRealEstateOptions.cpp
+  sections/ctlRealEstateOptionsLand.cpp
+  sections/ctlRealEstateOptionsSale.cpp
+  sections/ctlSellingCosts.cpp
+  sections/ctlSellingFeatures.cpp
+  sections/ctlShopDurations.cpp
+  sections/ctlSubControlExample.cpp
   shell/formPosition.cpp
+  shell/zoomSteps.cpp
   )
 set_target_properties(quillet_desktop PROPERTIES AUTOMOC ON AUTORCC ON)
 target_link_libraries(quillet_desktop PUBLIC quillet_core Qt6::Core Qt6::Gui Qt6::Widgets)

@@ -1,0 +1,79 @@
+#include "sections/ctlPostageParcelInsurance.h"
+
+#include <array>
+
+#include "prices/clsPrices.h"
+#include "sections/controlHelpers.h"
+
+namespace quillet {
+namespace {
+
+using enum ControlKind;
+
+constexpr std::array kControls = std::to_array<ControlDesign>({
+    {"optBand1", kOption, "up to ", 0, 0, 1335, 255},
+    {"optBand2", kOption, "up to ", 0, 285, 1335, 255},
+    {"optBand3", kOption, "up to ", 0, 555, 1335, 255},
+    {"optBand4", kOption, "up to ", 0, 840, 1335, 255},
+    {"chkShowBand1", kCheckBox, "Show", 1560, 0, 855, 255, "Band1"},
+    {"chkShowBand2", kCheckBox, "Show", 1560, 280, 855, 255, "Band2"},
+    {"chkShowBand3", kCheckBox, "Show", 1560, 560, 855, 255, "Band3"},
+    {"chkShowBand4", kCheckBox, "Show", 1560, 840, 855, 255, "Band4"},
+});
+
+constexpr PanelDesign kDesign = {.sTypeName = "ctlPostageParcelInsurance",
+                                 .sTitle = "",
+                                 .sSectionKey = "PostageParcelInsurance",
+                                 .sReferenceBox = "chkShowBand1",
+                                 .sVisibilityList = "PostageParcelInsurance",
+                                 .bAddingComplete = true,
+                                 .bRowsByLabel = false,
+                                 .nWidth = 2745,
+                                 .nHeight = 1470,
+                                 .aoControls = kControls};
+
+constexpr std::array kBands = {"optBand1", "optBand2", "optBand3", "optBand4"};
+constexpr int kBandCount = static_cast<int>(kBands.size());
+
+}  // namespace
+
+ctlPostageParcelInsurance::ctlPostageParcelInsurance(QWidget* pParent)
+    : SectionPanel(kDesign, pParent) {}
+
+/// A band that changes here is written back by its click, which comes here again: until no option
+/// changes.
+void ctlPostageParcelInsurance::ApplyAuctionType(clsPostage& oPostage) {
+  m_oPostage = &oPostage;
+  for (int i = 0; i < kBandCount; ++i) {
+    SetValueOf(kBands[i], oPostage.m_eInsuranceBand == i ? 1 : 0);
+  }
+  for (int i = 0; i < kBandCount; ++i) {
+    SetControlActive(oPostage.CanHaveInsurance(i), *Find(kBands[i]), false);
+  }
+  for (int i = 0; i < kBandCount; ++i) {
+    PriceKey oKey = "InsuranceBandName";
+    if (std::string_view sName; Prices().GetData(oKey.Append(i + 1), sName)) {
+      SetRowCaption(*Find(kBands[i]), QString::fromStdString(std::string(sName)));
+    }
+  }
+}
+
+void ctlPostageParcelInsurance::UpdateModel() {
+  if (m_bApplying || m_oPostage == nullptr) {
+    return;
+  }
+  std::int32_t& eBand = m_oPostage->m_eInsuranceBand;
+  for (int i = 0; i < kBandCount; ++i) {
+    if (ValueOf(kBands[i]) != 0) {
+      eBand = i;
+    }
+  }
+  while (!m_oPostage->CanHaveInsurance(eBand)) {
+    eBand = clsPostage::GetNextInsurance(eBand);
+  }
+  m_oPostage->m_bDirty = true;
+  ApplyAuctionType(*m_oPostage);
+  emit Changed();
+}
+
+}  // namespace quillet

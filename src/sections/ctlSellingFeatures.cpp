@@ -1,0 +1,255 @@
+#include "sections/ctlSellingFeatures.h"
+
+#include <algorithm>
+#include <array>
+
+#include "base/conversions.h"
+#include "base/failure.h"
+#include "prices/clsPrices.h"
+#include "sections/controlHelpers.h"
+
+namespace quillet {
+namespace {
+
+using enum ControlKind;
+using F = clsSellingFeatures;
+
+/// A row that is a box; with a Frame around it, if it can be closed.
+struct FeatureRow {
+  eFeature eBit;
+  const char* sBox;
+  const char* sFrame;
+  const char* sCaption;
+  const char* sShowBox;
+  const char* sTag;  ///< with "chk" where another row's name holds the bare word
+};
+
+/// From top to bottom, which is also the order in which the model is read and written.
+constexpr std::array kRows = std::to_array<FeatureRow>({
+    {kFeatureHomePage, "chkHomePageFeatured", "fraHomePageFeatured", "Home Page Featured",
+     "chkShowHomePageFeatured", "HomePageFeatured"},
+    {kFeaturePlus, "chkFeaturePlus", "fraFeaturePlus", "Feature Plus", "chkShowFeaturePlus",
+     "FeaturePlus"},
+    {kFeatureHighlight, "chkHighlight", nullptr, "Highlight", "chkShowHighlight", "chkHighlight"},
+    {kFeatureItemSubtitle, "chkItemSubtitle", "fraItemSubtitle", "Item Subtitle",
+     "chkShowItemSubtitle", "ItemSubtitle"},
+    {kFeatureBorder, "chkBorder", "fraBorder", "Border", "chkShowBorder", "Border"},
+    {kFeatureBold, "chkBold", nullptr, "Bold", "chkShowBold", "chkBold"},
+    {kFeatureGallery, "chkGallery", nullptr, "Gallery", "chkShowGallery", "chkGallery"},
+    {kFeatureFeaturedGallery, "chkFeaturedGallery", "fraFeaturedGallery", "Featured Gallery",
+     "chkShowFeaturedGallery", "FeaturedGallery"},
+    {kFeatureBuyItNow, "chkBuyItNow", "fraBuyItNow", "Buy It Now", "chkShowBuyItNow", "BuyItNow"},
+    {kFeatureScheduledListing, "chkScheduledListing", "fraScheduledListing", "Scheduled Listing",
+     "chkShowScheduledListing", "ScheduledListing"},
+    {kFeatureListIn2Categories, "chkListIn2Categories", "fraListIn2Categories",
+     "List in 2 Categories", "chkShowListIn2Categories", "ListIn2Categories"},
+    {kFeatureSlideShow, "chkSlideShow", nullptr, "Slide Show", "chkShowSlideShow", "chkSlideShow"},
+    {kFeatureSupersizePictures, "chkSuperSizedPicures", nullptr, "Super Sized Pictures",
+     "chkShowSuperSizedPictures", "chkSuperSizedPicures"},
+    {kFeatureListingDesigner, "chkListingDesigner", "fraListingDesigner", "Listing Designer",
+     "chkShowListingDesigner", "ListingDesigner"},
+    {kFeatureFeaturedInSearch, "chkFeaturedInSearch", "fraFeaturedInSearch", "Featured in Search",
+     "chkShowFeaturedInSearch", "FeaturedInSearch"},
+    {kFeature10DayDuration, "chk10DayDuration", "fra10DayDuration", "10 Day Duration",
+     "chkShow10DayDuration", "10DayDuration"},
+    {kFeatureListingItem, "chkListingItem", "fraListingItem", "Listing Item", "chkShowListingItem",
+     "ListingItem"},
+    {kFeatureGiftServices, "chkGiftServices", "fraGiftServices", "Gift Services",
+     "chkShowGiftServices", "GiftServices"},
+    {kFeatureCarAd, "chkCarAd", "fraCarAd", "CARad", "chkShowCarAd", "CarAd"},
+    {kFeaturePreviewPicture, "chkPreviewPicture", "fraPreviewPicture", "Preview Picture",
+     "chkShowPreviewPicture", "PreviewPicture"},
+    {kFeaturePicturePack, "chkPicturePack", nullptr, "Picture Pack", "chkShowPicturePack",
+     "chkPicturePack"},
+});
+
+constexpr int kFirstTop = 360;
+constexpr int kPitch = 280;
+constexpr int kExtraPicturesTop = kFirstTop + static_cast<int>(kRows.size()) * kPitch;
+constexpr int kTotalTop = kExtraPicturesTop + kPitch;
+
+constexpr auto kRowControls = std::to_array<ControlDesign>({
+    {"lblExtraPictures", kLabel, "Extra Pictures", 120, kExtraPicturesTop, 1215, 255},
+    {"txtExtraPictures", kNumber, "", 1440, kExtraPicturesTop, 1215, 255},
+    {"lblTotal", kLabel, "Section Total ", 120, kTotalTop, 2535, 255},
+    {"imgHeader", kHeader, "Selling Features", 0, 0, 4335, 255, "0"},
+});
+
+constexpr std::size_t kFrames = std::count_if(
+    kRows.begin(), kRows.end(), [](const FeatureRow& oRow) { return oRow.sFrame != nullptr; });
+constexpr std::size_t kShowBoxes = kRows.size() + 2;
+
+constexpr ControlDesign ShowBox(const char* sName, int nTop, const char* sTag) {
+  return {sName, kCheckBox, "Show", 2760, nTop, 975, 255, sTag};
+}
+
+constexpr auto MakeControls() {
+  std::array<ControlDesign, kRows.size() + kFrames + kRowControls.size() + kShowBoxes> aoControls{};
+  auto oNext = aoControls.begin();
+  int nTop = kFirstTop;
+  for (const FeatureRow& oRow : kRows) {
+    if (oRow.sFrame != nullptr) {
+      *oNext++ = {oRow.sFrame, kFrame, "", 120, nTop, 2535, 255};
+      *oNext++ = {oRow.sBox, kCheckBox, oRow.sCaption, 0, 0, 2535, 255, "", oRow.sFrame};
+    } else {
+      *oNext++ = {oRow.sBox, kCheckBox, oRow.sCaption, 120, nTop, 2535, 255};
+    }
+    *oNext++ = ShowBox(oRow.sShowBox, nTop, oRow.sTag);
+    nTop += kPitch;
+  }
+  oNext = std::copy(kRowControls.begin(), kRowControls.end(), oNext);
+  *oNext++ = ShowBox("chkShowExtraPictures", kExtraPicturesTop, "ExtraPictures");
+  *oNext++ = ShowBox("chkShowTotal", kTotalTop, "Total");
+  return aoControls;
+}
+
+constexpr auto kControls = MakeControls();
+
+constexpr PanelDesign kDesign = {.sTypeName = "ctlSellingFeatures",
+                                 .sTitle = "Selling Features",
+                                 .sSectionKey = "SellingFeatures",
+                                 .sReferenceBox = "chkShowHomePageFeatured",
+                                 .sVisibilityList = "SellingFeatures",
+                                 .bAddingComplete = false,
+                                 .bRowsByLabel = false,
+                                 .nWidth = 3945,
+                                 .nHeight = 6960,
+                                 .aoControls = kControls};
+
+bool IsNotShop(const clsAuctionType& oType) {
+  return !oType.m_bShopInventory;
+}
+
+bool IsShop(const clsAuctionType& oType) {
+  return oType.m_bShopInventory;
+}
+
+bool IsAuction(const clsAuctionType& oType) {
+  return !oType.m_bBuyItNowOnly && !oType.m_bShopInventory;
+}
+
+bool IsWholeVehicle(const clsAuctionType& oType) {
+  return oType.IsVehicle(false);
+}
+
+bool IsVehicleOrParts(const clsAuctionType& oType) {
+  return oType.IsVehicle(true);
+}
+
+/// A box is open if its price isn't below 0 and the listing is of the right kind.
+struct Opening {
+  const char* sBox;
+  Single F::*fPrice;                        ///< null where the price has no say
+  bool (*fnAllows)(const clsAuctionType&);  ///< null where any listing will do
+};
+
+/// One after the other: of two lines for a box the latter decides whether it is open, and either
+/// unticks it. So the second category ends open but unticked in a shop's listing, and a listing
+/// item without a price is unticked yet open for a vehicle.
+constexpr std::array kOpenings = std::to_array<Opening>({
+    {"chkHomePageFeatured", &F::m_fHomePage, IsNotShop},
+    {"chkFeaturePlus", &F::m_fPlus, IsNotShop},
+    {"chkItemSubtitle", &F::m_fItemSubtitle, IsNotShop},
+    {"chkFeaturedGallery", &F::m_fFeaturedGallery, IsNotShop},
+    {"chkScheduledListing", &F::m_fScheduledListings, IsNotShop},
+    {"chkListIn2Categories", &F::m_fListIn2Categories, IsNotShop},
+    {"chkBuyItNow", &F::m_fBuyItNow, IsAuction},
+    {"chkFeaturedInSearch", &F::m_fFeaturedInSearch, IsShop},
+    {"chkListingDesigner", &F::m_fListingDesigner, nullptr},
+    {"chkGiftServices", &F::m_fGiftServices, nullptr},
+    {"chkListIn2Categories", &F::m_fListIn2Categories, nullptr},
+    {"chkListingItem", &F::m_fListingItem, nullptr},
+    {"chkListingItem", nullptr, IsWholeVehicle},
+    {"chkCarAd", &F::m_fCarAd, IsVehicleOrParts},
+    {"chkPreviewPicture", &F::m_fPreviewPicture, nullptr},
+});
+
+}  // namespace
+
+ctlSellingFeatures::ctlSellingFeatures(QWidget* pParent) : SectionPanel(kDesign, pParent) {}
+
+void ctlSellingFeatures::ApplyFeatures(clsSellingFeatures& oFeatures,
+                                       const clsAuctionType* oAuctionType,
+                                       const clsOutlay* oOutlay) {
+  if (oAuctionType == nullptr) {
+    throw Failure(FailureNumber::ObjectNotSet, "The kind of listing isn't known yet.");
+  }
+  const FlagGuard oApplying(m_bApplying);
+  ShowFeatures(oFeatures);
+  ShowWhatIsOpen(oFeatures, *oAuctionType);
+  ShowSectionTotal(The<Label>("lblTotal"), oFeatures.DoCalc(oAuctionType, oOutlay));
+  m_oFeatures = &oFeatures;
+}
+
+/// The car ad is left alone: its box feeds the model, but the model never feeds the box.
+void ctlSellingFeatures::ShowFeatures(const clsSellingFeatures& oFeatures) {
+  for (const FeatureRow& oRow : kRows) {
+    if (oRow.eBit != kFeatureCarAd) {
+      SetValueOf(oRow.sBox, oFeatures.HasFeature(oRow.eBit) ? 1 : 0);
+    }
+  }
+  The<ctlNumericText>("txtExtraPictures").SetText(std::to_string(oFeatures.m_lExtraImageCount));
+}
+
+void ctlSellingFeatures::ShowWhatIsOpen(const clsSellingFeatures& oFeatures,
+                                        const clsAuctionType& oAuctionType) {
+  for (const Opening& oOpening : kOpenings) {
+    const bool bPriced = oOpening.fPrice == nullptr || oFeatures.*oOpening.fPrice >= 0;
+    const bool bAllowed = oOpening.fnAllows == nullptr || oOpening.fnAllows(oAuctionType);
+    SetControlActive(bPriced && bAllowed, *Find(oOpening.sBox), true);
+  }
+}
+
+void ctlSellingFeatures::UpdateModel() {
+  if (m_bApplying || m_oFeatures == nullptr) {
+    return;
+  }
+  for (const FeatureRow& oRow : kRows) {
+    m_oFeatures->SetFeature(oRow.eBit, ValueOf(oRow.sBox) != 0);
+  }
+  m_oFeatures->m_lExtraImageCount = RoundToLong(The<ctlNumericText>("txtExtraPictures").Value());
+  m_oFeatures->m_bDirty = true;
+  ShowSectionTotal(The<Label>("lblTotal"), m_oFeatures->DoCalc(nullptr, nullptr));
+  emit Changed();
+}
+
+void ctlSellingFeatures::InputClicked(Control& oInput) {
+  if (oInput.Name() == "chkPicturePack") {
+    SetPictureBounds();
+  }
+  UpdateModel();
+}
+
+/// The picture pack bounds the number of pictures by its first tier and its last, under a key that
+/// takes no account of the kind of listing.
+void ctlSellingFeatures::SetPictureBounds() {
+  auto& oCount = The<ctlNumericText>("txtExtraPictures");
+  if (ValueOf("chkPicturePack") == 0) {
+    oCount.SetMin(0);
+    oCount.SetMax(100);
+    return;
+  }
+  clsPriceRange oTier;
+  Prices().GetRange("PicturePack", 1, oTier, kShopNone);
+  oCount.SetMin(oTier.m_fStart);
+  Prices().GetRange("PicturePack", oTier.m_nCount, oTier, kShopNone);
+  oCount.SetMax(oTier.m_fEnd);
+  if (oCount.Min() > oCount.Value()) {
+    oCount.SetValue(oCount.Min());
+  }
+  if (oCount.Max() < oCount.Value()) {
+    oCount.SetValue(oCount.Max());
+  }
+}
+
+/// Here the Show boxes follow their rows in normal mode too.
+void ctlSellingFeatures::AfterPlacing(const Control& oPlaced) {
+  const auto pBox = std::find_if(Controls().begin(), Controls().end(), [&](const Control* p) {
+    return IsShowCheck(*p) && oPlaced.Name().find(p->Tag()) != std::string::npos;
+  });
+  if (pBox != Controls().end() && (*pBox)->Container() == this) {
+    (*pBox)->SetTop(oPlaced.Top());
+  }
+}
+
+}  // namespace quillet
