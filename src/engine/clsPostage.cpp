@@ -17,13 +17,13 @@ std::optional<Single> TierValue(const char* sKey, Single fWeight) {
   return oTier.m_fValue;
 }
 
-/// How many steps an overweight takes, a part of a step counted whole.
-Single StepsOf(Single fOverweight, Single fStep) {
+/// How many steps lie between two weights, a part of a step counted whole.
+Single StepsBetween(Single fFrom, Single fTo, Single fStep) {
   if (fStep == 0) {
     throw Failure(FailureNumber::DivisionByZero,
                   "The fee schedule has no \"FirstClassOverWeightStep\" for this weight.");
   }
-  Single fSteps = fOverweight / fStep;
+  Single fSteps = (fTo - fFrom) / fStep;
   const Single fPart = fSteps - std::floor(fSteps);
   if (fPart > 0) {
     fSteps = std::floor(fSteps) + 1;
@@ -143,7 +143,7 @@ std::optional<Single> clsPostage::FirstClassCost() const {
   Single fStepValue;
   Prices().GetPrice("FirstClassOverWeightStep", fStep, kShopNone);
   Prices().GetPrice("FirstClassOverWeightStepValue", fStepValue, kShopNone);
-  const Single fSteps = StepsOf(m_fWeight - oTier.m_fEnd, fStep);
+  const Single fSteps = StepsBetween(oTier.m_fEnd, m_fWeight, fStep);
   return fStepValue * fSteps + oTier.m_fValue;
 }
 
