@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <optional>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -38,9 +39,12 @@ class Descriptor {
   int m_nHandle;
 };
 
-std::error_code WriteNewFile(const std::string& sPath, std::string_view sContent, mode_t nMode) {
-  Descriptor oFile(::open(sPath.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, nMode));
-  if (!oFile.IsOpen()) {
+/// Without a mode the file gets what the user's mask leaves of "rw" for everybody.
+std::error_code WriteNewFile(const std::string& sPath, std::string_view sContent,
+                             std::optional<mode_t> nMode) {
+  Descriptor oFile(
+      ::open(sPath.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, nMode.value_or(0666U)));
+  if (!oFile.IsOpen() || (nMode && ::fchmod(oFile.Handle(), *nMode) != 0)) {
     return LastError();
   }
   if (std::error_code oError = WriteAll(oFile.Handle(), sContent)) {
@@ -115,7 +119,8 @@ std::error_code ReplaceFile(const std::string& sPath, std::string_view sContent)
     return LastError();
   }
   const std::string sTemporary = sTarget + "." + std::to_string(::getpid()) + ".tmp";
-  const mode_t nMode = bExists ? oStatus.st_mode & 07777U : 0666U;
+  const std::optional<mode_t> nMode =
+      bExists ? std::optional<mode_t>(oStatus.st_mode & 07777U) : std::nullopt;
   std::error_code oError = WriteNewFile(sTemporary, sContent, nMode);
   if (!oError && ::rename(sTemporary.c_str(), sTarget.c_str()) != 0) {
     oError = LastError();
