@@ -75,8 +75,10 @@ void ManageSplash(bool bShow, const bool& bWait) {
     }
   } else if (g_frmSplash) {
     PumpUntil(MovieHasEnded);
-    g_frmSplash->Hide();
-    g_frmSplash.reset();
+    if (g_frmSplash) {  // what was pumped may have closed the program
+      g_frmSplash->Hide();
+      g_frmSplash.reset();
+    }
   }
 }
 
