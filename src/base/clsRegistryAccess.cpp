@@ -48,13 +48,22 @@ bool clsRegistryAccess::GetRegSettingBin(HiveRoot hKey, const std::string& sSect
                                          const std::string& sDefault, bool bCreate,
                                          bool bAbsoluteSection) const {
   std::string sHex;
-  if (!GetRegSetting(hKey, sSection, sSettingName, sHex, sDefault, bCreate, bAbsoluteSection)) {
-    sResult = sHex;
+  if (!GetRegSetting(hKey, sSection, sSettingName, sHex, sDefault, false, bAbsoluteSection)) {
+    if (bCreate) {
+      SetRegSetting(hKey, sSection, sSettingName, sDefault, bAbsoluteSection);
+    }
+    sResult = sDefault;
     return false;
   }
-  sResult.clear();
-  IgnoreFailure([&] { HexToString(sHex, sResult); });
-  return true;
+  try {
+    std::string sText;
+    HexToString(sHex, sText);
+    sResult = std::move(sText);
+    return true;
+  } catch (const Failure&) {
+    sResult = sDefault;
+    return false;
+  }
 }
 
 bool clsRegistryAccess::SetRegSetting(HiveRoot hKey, const std::string& sSection,

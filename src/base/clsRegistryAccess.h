@@ -25,7 +25,8 @@ class clsRegistryAccess {
                      bool bAbsoluteSection) const;
   bool GetRegSettingString(HiveRoot hKey, std::string& sResult, const std::string& sSettingName,
                            const std::string& sSection, const std::string& sDefault) const;
-  /// The same for a value stored as hexadecimal text; a default comes back unconverted.
+  /// The same for a value stored as hexadecimal text. False, and the default unconverted, if it was
+  /// missing, created or not, or isn't hexadecimal.
   bool GetRegSettingBin(HiveRoot hKey, const std::string& sSection, const std::string& sSettingName,
                         std::string& sResult, const std::string& sDefault, bool bCreate,
                         bool bAbsoluteSection) const;
