@@ -15,6 +15,12 @@ bool IsPrintableToken(char cToken) {
   return cUpper >= 48 && cUpper <= 90;
 }
 
+/// A tab is a control character here and no blank.
+std::string_view TrimSpaces(std::string_view sText) {
+  const std::size_t nFirst = std::min(sText.find_first_not_of(' '), sText.size());
+  return sText.substr(nFirst, sText.find_last_not_of(' ') + 1 - nFirst);
+}
+
 bool IsControlCharacter(char cToken) {
   return static_cast<unsigned char>(cToken) < 32;
 }
@@ -39,7 +45,7 @@ std::string RegistryRoot() {
 
 std::string UpdateFileName(bool bNameOnly) {
   const std::string sName = RegionCode() == 1 ? "UpdateUS_v0101.dat" : "UpdateUK_v0101.dat";
-  return bNameOnly ? sName : NativePath(TheHost().ProgramFolder() + "\\" + sName);
+  return bNameOnly ? sName : TheHost().ProgramFolder() + NativePath("\\" + sName);
 }
 
 std::int32_t MaxLong(std::int32_t nLeft, std::int32_t nRight) {
@@ -66,13 +72,13 @@ std::string FormKeyName(const std::string& sName) {
 }
 
 std::string CleanString(const std::string& sText) {
-  std::string sClean(Trim(sText));
+  std::string sClean(TrimSpaces(sText));
   std::size_t nCut = 0;
   for (auto i = sClean.rbegin(); i != sClean.rend() && !IsPrintableToken(*i); ++i) {
     nCut += IsControlCharacter(*i) ? 1U : 0U;
   }
   sClean.resize(sClean.size() - nCut);
-  return std::string(Trim(sClean));
+  return std::string(TrimSpaces(sClean));
 }
 
 }  // namespace quillet

@@ -32,8 +32,8 @@ void WaitMilliseconds(std::int64_t nMilliseconds);
 /// `sName` without a leading "frm": the name of a window's settings.
 [[nodiscard]] std::string FormKeyName(const std::string& sName);
 
-/// What is left of a text from a fixed system buffer: blanks at both ends go, and so do the control
-/// characters in front of the last printable one.
+/// What is left of a text from a fixed system buffer: spaces at both ends go, and as many
+/// characters at the end as there are control characters behind the last printable one.
 [[nodiscard]] std::string CleanString(const std::string& sText);
 
 }  // namespace quillet

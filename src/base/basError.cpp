@@ -43,7 +43,7 @@ void WriteLog(const std::string& sComment) {
   if (!g_bDebug) {
     return;
   }
-  const std::string sPath = NativePath(TheHost().ProgramFolder() + "\\QlDebug.log");
+  const std::string sPath = TheHost().ProgramFolder() + NativePath("\\QlDebug.log");
   (void)AppendToFile(sPath, TimeStamp() + sComment + "\n", Header());
 }
 
