@@ -1,0 +1,272 @@
+// The start, driven by a recording application. What it is asked for goes into the diagnostic log
+// with a "*" in front, so that one list shows the whole order of calls and of log lines.
+#include "base/basMain.h"
+
+#include <functional>
+#include <optional>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "base/basCommon.h"
+#include "base/basError.h"
+#include "base/clsRegistryAccess.h"
+#include "base/failure.h"
+#include "prices/clsPrices.h"
+#include "support/Log.h"
+#include "support/MemoryHive.h"
+#include "support/TestHost.h"
+
+namespace quillet {
+namespace {
+
+using ::testing::ElementsAre;
+
+class StartHost : public ScopedHost {
+ public:
+  Answer ShowMessage(const std::string& sPrompt, int nButtons, const std::string& sTitle) override {
+    WriteLog("* message");
+    nTicksAtMessage = nTicks;
+    return ScopedHost::ShowMessage(sPrompt, nButtons, sTitle);
+  }
+  void PumpEvents() override {
+    ScopedHost::PumpEvents();
+    if (fnOnPump) {
+      fnOnPump();
+    }
+  }
+
+  std::int64_t nTicksAtMessage = 0;
+  std::function<void()> fnOnPump;
+};
+
+/// Its movie loads and ends a few pumpings after it is shown.
+class RecordedSplash : public SplashWindow {
+ public:
+  explicit RecordedSplash(const TestHost& oHost) : m_oHost(oHost), m_nFirst(oHost.nPumped) {}
+  ~RecordedSplash() override { WriteLog("* splash unloaded"); }
+  bool LoadComplete() const override { return m_oHost.nPumped >= m_nFirst + 3; }
+  bool MovieComplete() const override { return m_oHost.nPumped >= m_nFirst + 10; }
+  void Hide() override { WriteLog("* splash hidden"); }
+
+ private:
+  const TestHost& m_oHost;
+  int m_nFirst;
+};
+
+class RecordedMain : public MainWindow {
+ public:
+  explicit RecordedMain(std::function<void()> fnOnShow) : m_fnOnShow(std::move(fnOnShow)) {}
+  void Show() override {
+    WriteLog(g_frmMain.get() == this ? "* main shown" : "* main shown before it is known");
+    if (const auto fnOnShow = m_fnOnShow) {
+      fnOnShow();  // this object may be gone behind it
+    }
+  }
+  void Unload() override { WriteLog("* main unloaded"); }
+
+ private:
+  std::function<void()> m_fnOnShow;
+};
+
+class RecordedApplication : public Application {
+ public:
+  explicit RecordedApplication(const TestHost& oHost) : m_oHost(oHost) {}
+  std::unique_ptr<SplashWindow> ShowSplash() override {
+    WriteLog("* splash");
+    return std::make_unique<RecordedSplash>(m_oHost);
+  }
+  bool OpenConnection() override {
+    WriteLog("* open connection");
+    return bConnected;
+  }
+  void FetchActions() override {
+    Step("actions");
+    g_lActionFlags = lActions;
+    g_sActionMessage = "The servers rest on Sunday.";
+  }
+  void FetchUpdateFile() override { Step("update file"); }
+  void FetchAboutText() override { Step("about text"); }
+  void CloseConnection() override { Step("close connection"); }
+  std::unique_ptr<MainWindow> CreateMainWindow() override {
+    WriteLog(m_oHost.nPumped >= 10 ? "* create main" : "* create main before the movie's end");
+    return std::make_unique<RecordedMain>(fnOnShow);
+  }
+
+  bool bConnected = true;
+  std::int32_t lActions = 0;
+  std::string sFailing;  ///< the step that fails
+  std::function<void()> fnOnShow;
+
+ private:
+  void Step(const std::string& sStep) const {
+    WriteLog("* " + sStep);
+    if (sStep == sFailing) {
+      throw Failure(FailureNumber::Internet, "cut off");
+    }
+  }
+
+  const TestHost& m_oHost;
+};
+
+class Start : public ::testing::Test {
+ protected:
+  Start() {
+    m_oHost.sProgramFolder = m_oFolder.sPath;
+    m_oHost.sCommandLine = "/x debug=True";
+    SetApplication(m_oApplication);
+    SetRegistryHive(m_oHive);
+    g_lActionFlags = 0;
+    WriteTestFile(m_oFolder / "QlDebug.log", "\n");  // so that there is no header
+  }
+  ~Start() override {
+    g_bDebug = false;
+    g_frmMain.reset();
+    g_frmSplash.reset();
+    UsePrices(nullptr);
+  }
+
+  /// What Main did, without the lines that every start has before and behind the downloads.
+  std::vector<std::string> Run() {
+    Main();
+    std::vector<std::string> asComments = LogComments(m_oFolder);
+    asComments.erase(asComments.begin());
+    return asComments;
+  }
+
+  static std::vector<std::string> Around(const std::vector<std::string>& asDownloads) {
+    std::vector<std::string> asAll = {"Started app", "* splash", "Setting system defaults", "DL's"};
+    asAll.insert(asAll.end(), asDownloads.begin(), asDownloads.end());
+    const std::vector<std::string> asEnd = {
+        "Splash pause",      "Execute secondary special actions",
+        "Display main",      "* create main",
+        "* main shown",      "* splash hidden",
+        "* splash unloaded", "End startup"};
+    asAll.insert(asAll.end(), asEnd.begin(), asEnd.end());
+    return asAll;
+  }
+
+  TemporaryFolder m_oFolder;
+  StartHost m_oHost;
+  MemoryHive m_oHive;
+  RecordedApplication m_oApplication{m_oHost};
+};
+
+TEST_F(Start, RunsItsStepsInOrderAndKeepsTheSplashUntilTheMainWindowStands) {
+  EXPECT_EQ(Run(), Around({"* open connection", "* actions", "Performing primary special actions",
+                           "* update file", "* about text", "* close connection"}));
+  EXPECT_NE(g_frmMain, nullptr);
+  EXPECT_EQ(g_frmSplash, nullptr);
+  EXPECT_TRUE(m_oHost.aoShown.empty());
+}
+
+TEST_F(Start, GoesOnWithoutAConnection) {
+  m_oApplication.bConnected = false;
+  EXPECT_EQ(Run(), Around({"* open connection"}));
+}
+
+TEST_F(Start, AFailedDownloadGoesStraightToTheClosingOfTheConnection) {
+  m_oApplication.sFailing = "actions";
+  EXPECT_EQ(Run(), Around({"* open connection", "* actions", "* close connection"}));
+}
+
+TEST_F(Start, ConnectionThatFailsToCloseStopsNothing) {
+  m_oApplication.sFailing = "close connection";
+  EXPECT_EQ(Run().back(), "End startup");
+}
+
+TEST_F(Start, TheServersMessageComesJustBeforeTheMainWindow) {
+  m_oApplication.lActions = kActionMessage | kActionAboutText;
+  std::vector<std::string> asRun = Run();
+  const auto iMessage = std::find(asRun.begin(), asRun.end(), "* message");
+  ASSERT_NE(iMessage, asRun.end());
+  EXPECT_EQ(iMessage[-1], "Execute secondary special actions");
+  EXPECT_EQ(iMessage[1], "Display main");
+  EXPECT_THAT(m_oHost.aoShown,
+              ElementsAre(ShownMessage{"The servers rest on Sunday.", 64, "Information"}));
+
+  m_oHost.aoShown.clear();
+  g_lActionFlags = ~kActionMessage;
+  ExecuteSpecialActions(1);
+  g_lActionFlags = kActionMessage;
+  ExecuteSpecialActions(0);
+  EXPECT_TRUE(m_oHost.aoShown.empty());
+}
+
+TEST_F(Start, AMissingPriceFileIsTriedFiveTimesThenClosesTheProgramAndMainRunsToItsEnd) {
+  UsePrices(nullptr);
+  std::int64_t nTicksAtFirstLook = 0;
+  m_oApplication.fnOnShow = [&] {
+    nTicksAtFirstLook = m_oHost.nTicks;
+    (void)Prices();
+  };
+  const std::vector<std::string> asRun = Run();
+  EXPECT_THAT(std::vector(asRun.end() - 6, asRun.end()),
+              ElementsAre("* main shown", "* message", "* splash hidden", "* splash unloaded",
+                          "* main unloaded", "End startup"));
+  EXPECT_THAT(m_oHost.aoShown, ElementsAre(ShownMessage{"Error opening file " + m_oFolder.sPath +
+                                                            "/" + UpdateFileName(true) + "\n\n" +
+                                                            EditionName() + " must close.",
+                                                        16, EditionName()}));
+  EXPECT_EQ(m_oHost.nTicksAtMessage - nTicksAtFirstLook, 5 * 100);
+  EXPECT_EQ(g_frmMain, nullptr);
+  EXPECT_EQ(Prices().Table().Size(), 0U);  // made once, and not tried again
+  EXPECT_EQ(m_oHost.aoShown.size(), 1U);
+}
+
+TEST_F(Start, APriceFileWithAKeyTwiceSaysTheSameAndKeepsWhatCameBefore) {
+  UsePrices(nullptr);
+  WriteTestFile(m_oFolder / UpdateFileName(true), "Bold,1\nFinal,2\nFINAL,3\nBorder,4\n");
+  EXPECT_EQ(Prices().Table().Size(), 2U);
+  ASSERT_EQ(m_oHost.aoShown.size(), 1U);
+  EXPECT_TRUE(m_oHost.aoShown[0].sPrompt.starts_with("Error opening file "));
+  EXPECT_EQ(m_oHost.nTicks, 1);  // the pumping of CloseApplication: a file that opens isn't retried
+}
+
+TEST_F(Start, ClosingTheProgramDuringTheSplashsWaitIsSafe) {
+  ManageSplash(true, false);
+  EXPECT_NE(g_frmSplash, nullptr);
+  m_oHost.fnOnPump = [this, n = 0]() mutable {
+    if (++n == 3) {
+      m_oHost.fnOnPump = nullptr;
+      m_oHost.nPumped += 100;  // the movie's end
+      CloseApplication();
+    }
+  };
+  ManageSplash(false, true);
+  EXPECT_EQ(g_frmSplash, nullptr);
+}
+
+TEST_F(Start, TheGridStepIsAWholeNumberOr120) {
+  struct Row {
+    std::optional<std::string> sStored;
+    std::int32_t nStep;
+    const char* sAfterwards;
+  };
+  const Row aoRows[] = {
+      {std::nullopt, 120, "120"}, {"60", 60, "60"},  {"abc", 120, "abc"}, {"", 120, ""},
+      {"2.5", 2, "2.5"},          {"3.5", 4, "3.5"}, {"-30", -30, "-30"}, {"1E10", 120, "1E10"}};
+  const MemoryHive::Key oKey{HiveRoot::User, RegistryRoot() + "\\Config", "SnapToGrid"};
+  for (const Row& oRow : aoRows) {
+    SCOPED_TRACE(oRow.sStored.value_or("missing"));
+    m_oHive.asValues.clear();
+    if (oRow.sStored) {
+      m_oHive.asValues[oKey] = *oRow.sStored;
+    }
+    SetSystemDefaults();
+    EXPECT_EQ(g_lSnapToGrid, oRow.nStep);
+    EXPECT_EQ(m_oHive.asValues[oKey], oRow.sAfterwards);
+    EXPECT_EQ(m_oHive.asValues.size(), 1U);  // the about text isn't created
+    EXPECT_FALSE(g_sAboutText.empty());
+  }
+  m_oHive.asValues[{HiveRoot::Machine, RegistryRoot() + "\\Config", "About"}] = "Hello";
+  SetSystemDefaults();
+  EXPECT_EQ(g_sAboutText, "Hello");
+}
+
+TEST(AboutText, EachBackslashAndNIsALineBreak) {
+  EXPECT_EQ(ExpandAboutText("a\\nb\\\\n\\N\n\\n"), "a<br>b\\<br>\\N\n<br>");
+}
+
+}  // namespace
+}  // namespace quillet

@@ -1,0 +1,91 @@
+#include "base/clsRegistryAccess.h"
+
+#include <gtest/gtest.h>
+
+#include "base/basCommon.h"
+#include "support/MemoryHive.h"
+
+namespace quillet {
+namespace {
+
+constexpr HiveRoot kUser = HiveRoot::User;
+
+class RegistryAccess : public ::testing::Test {
+ protected:
+  RegistryAccess() { m_oRegistry.SetFullApplicationRegKey("Software\\App"); }
+
+  std::string& Value(const std::string& sPath) { return m_oHive.asValues[{kUser, sPath, "Name"}]; }
+
+  MemoryHive m_oHive;
+  clsRegistryAccess m_oRegistry{m_oHive};
+  std::string m_sResult = "before";
+};
+
+TEST_F(RegistryAccess, ASectionsPathIsTheApplicationsKeyAndTheSectionUnlessItIsAbsolute) {
+  struct Row {
+    const char* sSection;
+    bool bAbsolute;
+    const char* sPath;
+  };
+  for (const Row& oRow :
+       {Row{"Config", false, "Software\\App\\Config"}, Row{"", false, "Software\\App"},
+        Row{"Controls\\ctlPostage", false, "Software\\App\\Controls\\ctlPostage"},
+        Row{"Other\\FTP", true, "Other\\FTP"}}) {
+    m_oHive.asValues.clear();
+    EXPECT_TRUE(m_oRegistry.SetRegSetting(kUser, oRow.sSection, "Name", "v", oRow.bAbsolute));
+    EXPECT_EQ(m_oHive.asValues.count({kUser, oRow.sPath, "Name"}), 1U) << oRow.sPath;
+    EXPECT_TRUE(m_oRegistry.GetRegSetting(kUser, oRow.sSection, "Name", m_sResult, "d", false,
+                                          oRow.bAbsolute));
+    EXPECT_EQ(m_sResult, "v");
+    EXPECT_FALSE(m_oRegistry.GetRegSetting(HiveRoot::Machine, oRow.sSection, "Name", m_sResult, "d",
+                                           false, oRow.bAbsolute));
+    EXPECT_EQ(m_sResult, "d");
+    m_oRegistry.DeleteValue(kUser, oRow.sSection, "Name", oRow.bAbsolute);
+    m_oRegistry.DeleteValue(kUser, oRow.sSection, "Name", oRow.bAbsolute);
+    EXPECT_TRUE(m_oHive.asValues.empty());
+  }
+}
+
+TEST_F(RegistryAccess, AMissingValueIsTheDefaultAndFalseUnlessItCouldBeCreated) {
+  EXPECT_FALSE(m_oRegistry.GetRegSettingString(kUser, m_sResult, "Name", "Config", "d"));
+  EXPECT_EQ(m_sResult, "d");
+  EXPECT_TRUE(m_oHive.asValues.empty());
+  m_oHive.bWritable = false;
+  EXPECT_FALSE(m_oRegistry.GetRegSetting(kUser, "Config", "Name", m_sResult, "d", true, false));
+  EXPECT_FALSE(m_oRegistry.SetRegSettingString(kUser, "v", "Name", "Config"));
+  m_oHive.bWritable = true;
+  EXPECT_TRUE(m_oRegistry.GetRegSetting(kUser, "Config", "Name", m_sResult, "d", true, false));
+  EXPECT_EQ(Value("Software\\App\\Config"), "d");
+  EXPECT_TRUE(m_oRegistry.SetRegSettingString(kUser, "", "Name", "Config"));
+  EXPECT_TRUE(m_oRegistry.GetRegSettingString(kUser, m_sResult, "Name", "Config", "d"));
+  EXPECT_EQ(m_sResult, "");  // an empty value is a value
+}
+
+TEST_F(RegistryAccess, BinaryValuesAreKeptAsHexadecimalText) {
+  const auto fnGet = [this](bool bCreate) {
+    return m_oRegistry.GetRegSettingBin(kUser, "Config", "Name", m_sResult, "0041", bCreate, false);
+  };
+  EXPECT_FALSE(fnGet(false));
+  EXPECT_EQ(m_sResult, "0041");  // a default isn't converted
+  EXPECT_FALSE(fnGet(true));
+  EXPECT_EQ(m_sResult, "0041");
+  EXPECT_EQ(Value("Software\\App\\Config"), "0041");
+  EXPECT_TRUE(m_oRegistry.SetRegSettingBin(kUser, "Config", "Name", "£1", false));
+  EXPECT_EQ(Value("Software\\App\\Config"), "00A30031");
+  EXPECT_TRUE(fnGet(false));
+  EXPECT_EQ(m_sResult, "£1");
+  Value("Software\\App\\Config") = "broken";
+  EXPECT_FALSE(fnGet(false));
+  EXPECT_EQ(m_sResult, "0041");
+}
+
+TEST_F(RegistryAccess, TheSharedRegistryLiesUnderTheEdition) {
+  SetRegistryHive(m_oHive);
+  EXPECT_EQ(Registry().GetOrCreate(settings::kStartMode), "0");
+  EXPECT_EQ(m_oHive.asValues.count({kUser, RegistryRoot() + "\\Config", "StartMode"}), 1U);
+  EXPECT_EQ(Registry().Get(settings::kTotalColour), "12648384");
+  EXPECT_EQ(m_oHive.asValues.size(), 1U);
+}
+
+}  // namespace
+}  // namespace quillet

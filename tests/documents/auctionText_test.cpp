@@ -1,0 +1,165 @@
+// The text of an auction: what is written, what is read, and what damage does.
+#include <gtest/gtest.h>
+
+#include "engine/clsCalculate.h"
+#include "support/Prices.h"
+#include "support/TestHost.h"
+
+namespace quillet {
+namespace {
+
+const std::string kFresh =
+    "[TYPE]000|False|False|0|0|0|0|False[TYPE][OUTLAY]0|0|0|0|0|False[OUTLAY]"
+    "[FEATURES]0|0[FEATURES][PAYPAL]False|0|1|False[PAYPAL]"
+    "[POSTAGE]False|0|0|0|0|False|False|False|0|False[POSTAGE]";
+
+// Every field differs from its neighbours, so that two places that are swapped show.
+const std::string kFull =
+    "[TYPE]002|True|False|5|4|1|3|True[TYPE][OUTLAY]12.5|0.99|0.1|1E+07|-4|True[OUTLAY]"
+    "[FEATURES]1114113|7[FEATURES][PAYPAL]True|2|5|True[PAYPAL]"
+    "[POSTAGE]True|0.25|3|4.45|2|True|False|True|1.5|True[POSTAGE]";
+
+std::string TextOf(clsCalculate& oAuction) {
+  std::string sText;
+  oAuction.Serialize(sText, true);
+  return sText;
+}
+
+/// What an auction that held kFull holds after `sText` was read into it.
+std::string AfterReading(std::string sText) {
+  clsCalculate oAuction;
+  std::string sFull = kFull;
+  oAuction.Serialize(sFull, false);
+  oAuction.Serialize(sText, false);
+  return TextOf(oAuction);
+}
+
+std::string With(std::string sText, const std::string& sOld, const std::string& sNew) {
+  const std::size_t nAt = sText.find(sOld);
+  EXPECT_NE(nAt, std::string::npos) << sOld;
+  return nAt == std::string::npos ? sText : sText.replace(nAt, sOld.size(), sNew);
+}
+
+TEST(AuctionText, IsWrittenInFiveSectionsBehindWhatIsThere) {
+  clsCalculate oAuction;
+  std::string sText = "before";
+  oAuction.Serialize(sText, true);
+  EXPECT_EQ(sText, "before" + kFresh);
+  // Places: read into the fields, and written from them.
+  std::string sFull = kFull;
+  oAuction.Serialize(sFull, false);
+  EXPECT_EQ(TextOf(oAuction), kFull);
+  EXPECT_EQ(oAuction.m_oAuctionType.m_eShopDuration, 5);
+  EXPECT_EQ(oAuction.m_oAuctionType.m_eMotorType, 4);
+  EXPECT_EQ(oAuction.m_oAuctionType.m_eRealEstateSaleFormat, 3);
+  EXPECT_TRUE(oAuction.m_oAuctionType.m_bBuyItNowOnly);
+  EXPECT_FALSE(oAuction.m_oAuctionType.m_bShopInventory);
+  EXPECT_EQ(oAuction.m_oOutlay.m_fStartingPrice, Single(.99));
+  EXPECT_EQ(oAuction.m_oOutlay.m_fReservePrice.Float(), .1F);
+  EXPECT_EQ(oAuction.m_oOutlay.m_fEstimatedEndPrice, 1E7);
+  EXPECT_TRUE(oAuction.m_oSellingFeatures.HasFeature(0x110001));
+  EXPECT_EQ(oAuction.m_oPayPal.m_eAccountType, 2);
+  EXPECT_EQ(oAuction.m_oPostage.m_fManualPostage, Single(4.45));
+  EXPECT_EQ(oAuction.m_oPostage.m_fProfit, 1.5);
+  EXPECT_TRUE(oAuction.m_oPostage.m_bRecordedDelivery);
+}
+
+TEST(AuctionText, FollowsTheUsersSeparator) {
+  ScopedHost oHost;
+  clsCalculate oAuction;
+  oAuction.m_oOutlay.m_fOutlay = 12.5;
+  oHost.sDecimalSeparator = ",";
+  EXPECT_EQ(TextOf(oAuction), With(kFresh, "[OUTLAY]0", "[OUTLAY]12,5"));
+  std::string sText = With(kFresh, "[OUTLAY]0", "[OUTLAY]7,25");
+  oAuction.Serialize(sText, false);
+  EXPECT_EQ(oAuction.m_oOutlay.m_fOutlay, 7.25);
+}
+
+TEST(AuctionText, AValueThatDoesNotConvertLeavesItsFieldAlone) {
+  struct Row {
+    const char* sSection;  ///< as it is read
+    const char* sAfter;    ///< as it is then written
+  };
+  const Row aoRows[] = {
+      {"[TYPE]002[TYPE]", "[TYPE]002|True|False|5|4|1|3|True[TYPE]"},
+      {"[TYPE]255|false|TRUE|0|0|0|0|0[TYPE]", "[TYPE]255|False|True|0|0|0|0|False[TYPE]"},
+      {"[TYPE]256|2|0|256|-1|2.5|x|-1[TYPE]", "[TYPE]002|True|False|5|4|1|3|True[TYPE]"},
+      {"[TYPE][TYPE]", "[TYPE]002|True|False|5|4|1|3|True[TYPE]"},
+      {"[OUTLAY]1|2|3|4|many|False[OUTLAY]", "[OUTLAY]1|2|3|4|-4|False[OUTLAY]"},
+      {"[OUTLAY]1||3|4|5|False[OUTLAY]", "[OUTLAY]1|3|4|5|-4|True[OUTLAY]"},
+      {"[OUTLAY]1e39|nan|0x10|-|2147483648|no[OUTLAY]",
+       "[OUTLAY]12.5|0.99|0.1|1E+07|-4|True[OUTLAY]"},
+      {"[OUTLAY] 1 |-0|1E-46|1,5|-2147483648|0|9|9[OUTLAY]",
+       "[OUTLAY]1|0|0|1E+07|-2147483648|False[OUTLAY]"},
+      {"[FEATURES]abc|3[FEATURES]", "[FEATURES]1114113|3[FEATURES]"},
+      {"[FEATURES]2147483648|-2147483648[FEATURES]", "[FEATURES]1114113|-2147483648[FEATURES]"},
+      {"[PAYPAL]False|1[PAYPAL]", "[PAYPAL]False|1|5|True[PAYPAL]"},
+      {"[PAYPAL]False||2|False[PAYPAL]", "[PAYPAL]False|2|5|True[PAYPAL]"},
+      {"[PAYPAL]0|32767|-32768|0.0[PAYPAL]", "[PAYPAL]False|32767|-32768|False[PAYPAL]"},
+      {"[PAYPAL]|32768|-32769|[PAYPAL]", "[PAYPAL]True|2|5|True[PAYPAL]"},
+      {"[POSTAGE]1|1|32768|2|32767|0|1|0|3|False[POSTAGE]",
+       "[POSTAGE]True|1|3|2|32767|False|True|False|3|False[POSTAGE]"},
+  };
+  for (const Row& oRow : aoRows) {
+    const std::string sSection = oRow.sSection;
+    const std::string sMarker = sSection.substr(0, sSection.find(']') + 1);
+    const std::size_t nFrom = kFull.find(sMarker);
+    const std::string sOld =
+        kFull.substr(nFrom, kFull.find(sMarker, nFrom + 1) + sMarker.size() - nFrom);
+    ScopedHost oHost;
+    EXPECT_EQ(AfterReading(With(kFull, sOld, sSection)), With(kFull, sOld, oRow.sAfter))
+        << sSection;
+    EXPECT_TRUE(oHost.aoShown.empty()) << sSection;
+  }
+}
+
+TEST(AuctionText, ASectionTooLongToSplitLeavesItsFieldsAlone) {
+  ScopedHost oHost;
+  const std::string sLong = "[OUTLAY]" + std::string(40000, '1') + "[OUTLAY]";
+  EXPECT_EQ(AfterReading(With(kFresh, "[OUTLAY]0|0|0|0|0|False[OUTLAY]", sLong)),
+            With(kFresh, "[OUTLAY]0|0|0|0|0|False[OUTLAY]",
+                 "[OUTLAY]12.5|0.99|0.1|1E+07|-4|True[OUTLAY]"));
+  EXPECT_TRUE(oHost.aoShown.empty());
+}
+
+TEST(AuctionText, AMissingSectionEndsTheReadingOrIsPassedOver) {
+  const std::string sType = kFresh.substr(0, kFresh.find("[OUTLAY]"));
+  const std::string sOutlay = "[OUTLAY]0|0|0|0|0|False[OUTLAY]";
+  struct Row {
+    std::string sText;
+    const char* sShown;    ///< the section that the message names
+    const char* sChanged;  ///< the first letters of the sections that were read
+  };
+  const Row aoRows[] = {
+      {"", "[OUTLAY]", ""},
+      {kFresh, "", "TOFPP"},
+      {"garbage before" + kFresh + "garbage behind", "", "TOFPP"},
+      {With(kFresh, "[TYPE]", ""), "", "OFPP"},  // one marker left of two
+      {With(kFresh, "[TYPE]", "[type]"), "", "OFPP"},
+      {With(kFresh, "[FEATURES]", ""), "", "TOPP"},
+      {With(kFresh, "[OUTLAY]", ""), "[OUTLAY]", "T"},
+      {With(kFresh, "[OUTLAY]", "[outlay]"), "[OUTLAY]", "T"},
+      {sType + sOutlay, "[PAYPAL]", "TO"},
+      {With(kFresh, "[PAYPAL]", ""), "[PAYPAL]", "TOF"},
+      {With(kFresh, "[POSTAGE]", ""), "[POSTAGE]", "TOFP"},
+  };
+  for (const Row& oRow : aoRows) {
+    SCOPED_TRACE(oRow.sText);
+    ScopedHost oHost;
+    const std::string sAfter = AfterReading(oRow.sText);
+    std::string sChanged;
+    for (const char* sFresh :
+         {"[TYPE]000", "[OUTLAY]0|", "[FEATURES]0|", "[PAYPAL]F", "[POSTAGE]F"}) {
+      sChanged += sAfter.find(sFresh) != std::string::npos ? std::string(1, sFresh[1]) : "";
+    }
+    EXPECT_EQ(sChanged, oRow.sChanged);
+    const std::string sShown = oRow.sShown;
+    const std::vector<ShownMessage> aoExpected =
+        sShown.empty() ? std::vector<ShownMessage>{}
+                       : std::vector<ShownMessage>{{"Failure loading section " + sShown, 0, ""}};
+    EXPECT_EQ(oHost.aoShown, aoExpected);
+  }
+}
+
+}  // namespace
+}  // namespace quillet

@@ -1,0 +1,159 @@
+#include "engine/clsAuctionType.h"
+
+#include <gtest/gtest.h>
+
+#include "base/failure.h"
+#include "engine/AuctionTypeSchedule.h"
+#include "support/ByRegion.h"
+
+namespace quillet {
+namespace {
+
+struct TypeRow {
+  const char* sRule;
+  std::int32_t eType;
+  const char*
+      sFlags;  ///< B fixed price, S shop, and a digit: the duration for S, the kind of motor
+  // Starting, reserve and end price, quantity.
+  double fStart, fReserve, fEnd;
+  std::int32_t lQuantity;
+  // Listing, reserve and final value fee: United Kingdom, United States.
+  std::array<double, 3> afUk, afUs;
+};
+
+clsAuctionType TypeOf(const TypeRow& oRow) {
+  clsAuctionType oType;
+  oType.m_eAuctionType = oRow.eType;
+  for (const char c : std::string(oRow.sFlags)) {
+    oType.m_bBuyItNowOnly |= c == 'B';
+    oType.m_bShopInventory |= c == 'S';
+    if (c >= '0' && c <= '9') {
+      (oType.m_bShopInventory ? oType.m_eShopDuration : oType.m_eMotorType) = c - '0';
+    }
+  }
+  return oType;
+}
+
+clsOutlay OutlayOf(const TypeRow& oRow) {
+  clsOutlay oOutlay;
+  oOutlay.m_fStartingPrice = oRow.fStart;
+  oOutlay.m_fReservePrice = oRow.fReserve;
+  oOutlay.m_fEstimatedEndPrice = oRow.fEnd;
+  oOutlay.m_lQuantity = oRow.lQuantity;
+  return oOutlay;
+}
+
+TEST(AuctionType, TheThreeFeesByRegion) {
+  const TypeRow aoRows[] = {
+      {"one item opens at its start", 0, "", 5, 0, 0, 1, {.4, 0, 0}, {.4, 0, 0}},
+      {"one item opens at its reserve", 0, "", 5, 20, 25, 1, {.6, 0, 1.25}, {.6, 0, 1.25}},
+      {"several open at their starts", 0, "", 3, 20, 10, 3, {.4, 0, 1.5}, {.4, 0, 1.5}},
+      {"fixed price opens at the end price", 0, "B", 99, 20, .5, 1, {.2, 0, .025}, {.2, 0, .025}},
+      {"several at a fixed price", 0, "B", .1, 20, 4, 3, {.6, 0, .6}, {.6, 0, .6}},
+      {"an opening value in a gap", 0, "", .995, 0, 0, 1, {0, 0, 0}, {0, 0, 0}},
+      {"nothing at all", 0, "", 0, 0, 0, 0, {0, 0, 0}, {0, 0, 0}},
+      {"negative quantity", 0, "", 5, 20, 10, -2, {0, 0, -1}, {0, 0, -1}},
+      // 25 x 5 % + 975 x 2.5 % = 25.625, and 1 % of what lies above 1000.
+      {"slices up to a tier's end", 0, "", 5, 0, 1000, 2, {.6, 0, 51.25}, {.6, 0, 51.25}},
+      {"slices of all tiers", 0, "", 5, 0, 2000, 1, {.4, 0, 35.625}, {.4, 0, 35.625}},
+      // Quantity 0: the reserve costs. Tier 2 is a percentage there, tier 3 here.
+      {"reserve, tier 1", 0, "", 5, 20, 30, 0, {0, 1, 0}, {0, 1, 0}},
+      {"reserve, tier 2", 0, "", 5, 60, 30, 0, {0, 1.2, 0}, {0, 2, 0}},
+      {"reserve, tier 3", 0, "", 5, 300, 30, 0, {0, 3, 0}, {0, 9, 0}},
+      {"reserve, tier 3 above the cap", 0, "", 5, 1000, 30, 0, {0, 3, 0}, {0, 20, 0}},
+      {"reserve, tier 4", 0, "", 5, 3000, 30, 0, {0, 0, 0}, {0, 0, 0}},
+      {"reserve in a gap", 0, "", 5, 49.995, 30, 0, {0, 0, 0}, {0, 0, 0}},
+      {"no reserve", 0, "", 5, 0, 30, 0, {0, 0, 0}, {0, 0, 0}},
+      {"reserve in a shop", 0, "S1", 5, 20, 30, 0, {.15, 1, 0}, {.15, 0, 0}},
+      {"a shop's fee in place of the other", 0, "S1", 5, 0, 30, 1, {.15, 0, 3}, {.15, 0, 3}},
+      {"a shop without a duration", 0, "S3", 5, 0, 30, 1, {.07, 0, 3}, {.07, 0, 3}},
+      {"a duration without a fee", 0, "S2", 5, 0, 30, 1, {.4, 0, 3}, {.4, 0, 3}},
+      {"a duration with a surcharge only", 0, "S4", 20, 0, 30, 1, {1.1, 0, 3}, {1.1, 0, 3}},
+      {"motor", 1, "", 5, 20, 50, 2, {16, 0, 40}, {92, 0, 0}},
+      {"motor at a fixed price", 1, "B", 5, 20, 50, 3, {48, 0, 60}, {92, 0, 0}},
+      {"motor at a fixed price, none", 1, "B", 5, 0, 50, 0, {16, 0, 0}, {92, 61, 0}},
+      {"motor, reserve", 1, "", 5, 10, 50, 0, {16, 13, 0}, {92, 61, 0}},
+      {"motor, percentage tier", 1, "", 5, 0, 200, 2, {16, 0, 20}, {92, 0, 0}},
+      {"motor, shared end of two tiers", 1, "", 5, 0, 100, 1, {16, 0, 20}, {92, 0, 0}},
+      {"motor, tier 3", 1, "", 5, 0, 600, 1, {16, 0, 30}, {92, 0, 0}},
+      {"motor above all tiers", 1, "", 5, 0, 950, 2, {16, 0, 60}, {92, 0, 0}},
+      {"motor below all tiers", 1, "", 5, 0, .5, 1, {16, 0, 30}, {92, 0, 0}},
+      {"motor in a shop", 1, "S1", 5, 10, 50, 0, {.15, 13, 0}, {.15, 0, 0}},
+      {"parts", 1, "5", 5, 20, 50, 1, {16, 0, 20}, {.6, 0, 0}},
+      {"parts, reserve", 1, "5", 5, 300, 50, 0, {16, 13, 0}, {0, 9, 0}},
+      {"unknown kind of motor", 1, "6", 5, 20, 50, 0, {16, 13, 0}, {0, 0, 0}},
+      {"real estate", 2, "", 5, 60, 90, 2, {35, 0, 55}, {100, 0, 0}},
+      {"real estate at a fixed price", 2, "B", 5, 0, 90, 2, {70, 0, 55}, {200, 0, 0}},
+      {"real estate at a fixed price, none", 2, "B", 5, 0, 90, 0, {35, 0, 55}, {100, 0, 0}},
+      {"real estate, reserve", 2, "", 5, 60, 90, 0, {35, 8, 55}, {100, 6, 0}},
+      {"real estate, reserve above the cap", 2, "", 5, 900, 90, 0, {35, 8, 55}, {100, 7, 0}},
+      {"real estate, no reserve", 2, "", 5, 0, 90, 0, {35, 0, 55}, {100, 0, 0}},
+      {"business", 3, "", 5, 0, 90, 2, {0, 0, 0}, {21, 0, .9}},
+      {"business, none, no reserve", 3, "", 5, 0, 90, 0, {0, 0, 0}, {21, 22, .9}},
+      {"unknown type", 7, "", 5, 20, 90, 0, {0, 0, 0}, {0, 0, 0}},
+      {"unknown type in a shop", 7, "S3", 5, 20, 90, 1, {.07, 0, 0}, {.07, 0, 0}},
+  };
+  UseAuctionTypeSchedule();
+  for (const TypeRow& oRow : aoRows) {
+    SCOPED_TRACE(oRow.sRule);
+    const std::array<double, 3> afExpected = ByRegion(oRow.afUk, oRow.afUs);
+    clsAuctionType oType = TypeOf(oRow);
+    const clsOutlay oOutlay = OutlayOf(oRow);
+    const Single fListing = afExpected[0];
+    const Single fReserve = afExpected[1];
+    const Single fFinal = afExpected[2];
+    EXPECT_EQ(oType.DoCalcListingFee(oOutlay), fListing);
+    EXPECT_EQ(oType.DoCalcReserveFee(oOutlay), fReserve);
+    EXPECT_EQ(oType.DoCalcFinalValueFee(oOutlay), fFinal);
+    EXPECT_EQ(oType.DoCalcAuto(), Single(fReserve + fListing + fFinal));
+  }
+}
+
+TEST(AuctionType, AFeeRoundsAtEachTier) {
+  UseSchedule(Tiers("Final", {{"0", "25", "5.25"}, {"25", "1000", "3.25"}, {"1000", "-1", "1.5"}}));
+  // Worked out step by step in 32 bits, apart from this program.
+  const std::tuple<double, std::int32_t, float> aoRows[] = {
+      {11.55, 3, 0x1.d1b230p+0F}, {47.74, 7, 0x1.cb8c18p+3F}, {1234.56, 3, 0x1.b63888p+6F}};
+  for (const auto& [fEnd, lQuantity, fExpected] : aoRows) {
+    const clsOutlay oOutlay = OutlayOf({"", 0, "", 0, 0, fEnd, lQuantity, {}, {}});
+    EXPECT_EQ(clsAuctionType().DoCalcFinalValueFee(oOutlay).Float(), fExpected) << fEnd;
+  }
+}
+
+TEST(AuctionType, SlicesSkipAGapAndATierThatStartsAtThePrice) {
+  UseSchedule(Tiers("Final", {{"0", "10", "5"}, {"20", "30", "10"}, {"30", "-1", "50"}}));
+  for (const auto& [fEnd, fExpected] :
+       {std::pair{15.0, .5}, {20.0, .5}, {25.0, 1.0}, {30.0, 1.5}, {32.0, 2.5}, {-5.0, 0.0}}) {
+    const clsOutlay oOutlay = OutlayOf({"", 0, "", 0, 0, fEnd, 1, {}, {}});
+    EXPECT_EQ(clsAuctionType().DoCalcFinalValueFee(oOutlay), Single(fExpected)) << fEnd;
+  }
+}
+
+TEST(AuctionType, WhatTheScheduleLacksIsZeroButForTierTables) {
+  UseSchedule("");
+  clsAuctionType oType;
+  clsOutlay oOutlay;
+  EXPECT_THROW((void)oType.DoCalcAuto(), Failure);
+  EXPECT_EQ(oType.DoCalcFinalValueFee(oOutlay), 0);
+  EXPECT_THROW((void)oType.DoCalcListingFee(oOutlay), Failure);
+  EXPECT_THROW((void)oType.DoCalcReserveFee(oOutlay), Failure);
+  EXPECT_THROW((void)oType.DoCalc(oOutlay), Failure);
+  oType.m_eAuctionType = kAuctionRealEstate;
+  EXPECT_EQ(oType.DoCalc(oOutlay), 0);
+}
+
+TEST(AuctionType, PartsAreAVehicleWhereTheCallerSaysSo) {
+  for (std::int32_t eType = -1; eType <= 4; ++eType) {
+    for (std::int32_t eMotor = -1; eMotor <= 6; ++eMotor) {
+      clsAuctionType oType;
+      oType.m_eAuctionType = eType;
+      oType.m_eMotorType = eMotor;
+      const bool bKind = eType == 1 && eMotor >= 0 && eMotor <= 4;
+      EXPECT_EQ(oType.IsVehicle(false), bKind) << eType << ", " << eMotor;
+      EXPECT_EQ(oType.IsVehicle(true), bKind || (eType == 1 && eMotor == 5)) << eMotor;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace quillet

@@ -1,0 +1,135 @@
+#include "engine/clsCalculate.h"
+
+#include <gtest/gtest.h>
+
+#include "base/failure.h"
+#include "support/ByRegion.h"
+#include "support/Prices.h"
+#include "support/TestHost.h"
+
+namespace quillet {
+namespace {
+
+const std::string kOpening = Tiers("Opening", {{"0.01", "9.99", "0.25"}, {"10", "-1", "0.5"}});
+const std::string kFinal = Tiers("Final", {{"0", "25", "5"}, {"25", "-1", "2.5"}});
+
+TEST(Calculate, AStandardAuction) {
+  UseSchedule(kOpening + kFinal);
+  clsCalculate oAuction;
+  oAuction.m_oOutlay.m_fOutlay = 10;
+  oAuction.m_oOutlay.m_fStartingPrice = 1;
+  oAuction.m_oOutlay.m_fEstimatedEndPrice = 50;
+  oAuction.m_oOutlay.m_lQuantity = 1;
+  oAuction.DoCalc();
+  EXPECT_EQ(oAuction.m_fListingCost, .25);
+  EXPECT_EQ(oAuction.m_fReserveCost, 0);
+  EXPECT_EQ(oAuction.m_fFinalValueFee, 1.875);  // 25 x 5 % + 25 x 2.5 %
+  EXPECT_EQ(oAuction.m_fSellCost, 12.125);
+  EXPECT_EQ(oAuction.m_fProfit, 37.875);
+}
+
+TEST(Calculate, EveryTotalOfABusyAuctionBitForBit) {
+  UseSchedule(Tiers("Opening", {{"0.01", "9.99", "0.4"}, {"10", "-1", "0.6"}}) +
+              Tiers("Final", {{"0", "25", "5.25"}, {"25", "1000", "3.25"}, {"1000", "-1", "1.5"}}) +
+              "LocalTax,8.25\nFeatureBold,1.1\nFeatureItemSubtitle,0.3\nFeatureGallery,0.35\n"
+              "FeatureExtraImage,0.15\nFeatureListIn2Categories,1.3\nFeatureScheduledListings,0.1\n"
+              "InsuranceBandValue1,0.07\nPersonalRatePounds%,2.9\nPersonalRatePoundsFixed,0.3\n"
+              "CurrencyFormat,0.00\n");
+  clsCalculate oAuction;
+  std::string sText =
+      "[TYPE]000|False|False|3|0|0|0|False[TYPE][OUTLAY]12.34|5.55|0|47.74|3|True[OUTLAY]"
+      "[FEATURES]824|4[FEATURES][PAYPAL]True|0|1|True[PAYPAL]"
+      "[POSTAGE]True|0|3|4.45|0|False|False|True|0.65|True[POSTAGE]";
+  oAuction.Serialize(sText, false);
+  oAuction.DoCalc();
+  // Each line of the calculation rounded to 32 bits in its turn, apart from this program.
+  EXPECT_EQ(oAuction.m_fListingCost.Float(), 0x1.333334p-1F);    // 0.6, for 3 x 5.55
+  EXPECT_EQ(oAuction.m_fFinalValueFee.Float(), 0x1.89e5ccp+2F);  // 6.15465
+  EXPECT_EQ(oAuction.m_fPostageCost.Float(), 0x1.b1eb84p+3F);    // 3 x 4.52
+  EXPECT_EQ(oAuction.m_fPostageProfit.Float(), 0x1.f33332p+0F);  // 3 x 0.65
+  EXPECT_EQ(oAuction.m_fPayPayCost.Float(), 5.5F);               // 158.73 x 2.9 % + 3 x 0.3
+  EXPECT_EQ(oAuction.m_fSellCost.Float(), 0x1.bbded2p+5F);       // 55.4838
+  EXPECT_EQ(oAuction.m_fProfit.Float(), 0x1.66beaep+6F);         // 89.6862
+}
+
+TEST(Calculate, WithoutAnythingSoldTheFinalValueFeeIsHiddenAndYetPaid) {
+  UseSchedule("FinalRealEstate,40\nFinalRealEstateTimeshare,35\n");
+  clsCalculate oAuction;
+  oAuction.m_oAuctionType.m_eAuctionType = kAuctionRealEstate;
+  oAuction.m_oAuctionType.m_bRealEstateBinding = true;
+  const double fFee = ByRegion(40, 35);
+  for (const auto& [lQuantity, fShown] : {std::pair{0, 0.0}, {-1, 0.0}, {1, fFee}}) {
+    oAuction.m_oOutlay.m_lQuantity = lQuantity;
+    oAuction.DoCalc();
+    EXPECT_EQ(oAuction.m_fFinalValueFee, fShown) << lQuantity;
+    EXPECT_EQ(oAuction.m_fSellCost, fFee) << lQuantity;
+    EXPECT_EQ(oAuction.m_fProfit, -fFee) << lQuantity;
+  }
+}
+
+TEST(Calculate, AMissingTableOfTiersReachesTheCaller) {
+  UseSchedule(kFinal);
+  clsCalculate oAuction;
+  oAuction.m_oOutlay.m_fOutlay = 3;
+  oAuction.m_oOutlay.m_lQuantity = 1;
+  EXPECT_THROW(oAuction.DoCalc(), Failure);
+  EXPECT_EQ(oAuction.m_fSellCost, 3);  // as far as it came
+}
+
+TEST(Calculate, AFreshAuctionCostsNothing) {
+  UseShippedSchedule();
+  clsCalculate oAuction;
+  oAuction.DoCalc();
+  for (const Single& fTotal :
+       {oAuction.m_fSellCost, oAuction.m_fProfit, oAuction.m_fListingCost, oAuction.m_fReserveCost,
+        oAuction.m_fFinalValueFee, oAuction.m_fPayPayCost, oAuction.m_fPostageCost}) {
+    EXPECT_EQ(fTotal, 0);
+  }
+}
+
+TEST(Calculate, IsDirtyIfAnyModelIs) {
+  clsCalculate oAuction;
+  for (bool* const pDirty : {&oAuction.m_oAuctionType.m_bDirty, &oAuction.m_oOutlay.m_bDirty,
+                             &oAuction.m_oPayPal.m_bDirty, &oAuction.m_oPostage.m_bDirty,
+                             &oAuction.m_oSellingFeatures.m_bDirty}) {
+    oAuction.SetDirty(false);
+    EXPECT_FALSE(oAuction.IsDirty());
+    *pDirty = true;
+    EXPECT_TRUE(oAuction.IsDirty());
+    *pDirty = false;
+    oAuction.SetDirty(true);
+    EXPECT_TRUE(*pDirty);
+  }
+}
+
+TEST(Calculate, CopyAndClearTakeTheInputsAndLeaveTheRest) {
+  UseSchedule(kOpening + kFinal);
+  clsCalculate oSource("source");
+  oSource.m_oOutlay.m_fOutlay = 7;
+  oSource.m_oPayPal.m_nBusinessBand = 3;
+  oSource.m_oSellingFeatures.AddFeature(kFeatureBold);
+  oSource.SetDirty(true);
+  clsCalculate oAuction("target");
+  oAuction.m_fProfit = 99;
+  oAuction.Copy(oSource);
+  EXPECT_EQ(oAuction.m_oOutlay.m_fOutlay, 7);
+  EXPECT_EQ(oAuction.m_oPayPal.m_nBusinessBand, 3);
+  EXPECT_TRUE(oAuction.m_oSellingFeatures.HasFeature(kFeatureBold));
+  EXPECT_EQ(oAuction.m_sName, "target");
+  EXPECT_EQ(oAuction.m_fProfit, 99);
+  EXPECT_FALSE(oAuction.IsDirty());
+
+  oAuction.SetDirty(true);
+  oAuction.Clear();
+  std::string sCleared;
+  std::string sFresh;
+  oAuction.Serialize(sCleared, true);
+  clsCalculate().Serialize(sFresh, true);
+  EXPECT_EQ(sCleared, sFresh);
+  EXPECT_TRUE(oAuction.IsDirty());
+  EXPECT_EQ(oAuction.m_fProfit, 99);
+  EXPECT_EQ(WorkingAuction().m_sName + DefaultAuction().m_sName, "Working DocDefault Auction");
+}
+
+}  // namespace
+}  // namespace quillet

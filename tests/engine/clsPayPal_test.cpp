@@ -1,0 +1,127 @@
+#include "engine/clsPayPal.h"
+
+#include <gtest/gtest.h>
+
+#include "base/failure.h"
+#include "support/Prices.h"
+#include "support/TestHost.h"
+
+namespace quillet {
+namespace {
+
+const std::string kCents = "CurrencyFormat,0.00\n";
+
+clsPayPal Account(std::int32_t eType, std::int32_t nBand = 1) {
+  clsPayPal oPayPal;
+  oPayPal.m_bEnabled = true;
+  oPayPal.m_eAccountType = eType;
+  oPayPal.m_nBusinessBand = nBand;
+  return oPayPal;
+}
+
+TEST(PayPal, AnExactHalfOfASmallestUnitGoesDown) {
+  struct Row {
+    const char* sFormat;
+    const char* sFee;  ///< before the rounding
+    float fExpected;
+  };
+  const Row aoRows[] = {
+      {"0.00", "2.675", 2.67F},  // its float lies below the half, its text doesn't
+      {"0.00", "2.6751", 2.68F},
+      {"0.00", "2.67", 2.67F},
+      {"0.00", "8.425", 8.42F},
+      {"0.00", "0.125", 0.12F},
+      {"0.00", "0.005", 0.0F},
+      {"0.00", "0.0051", 0.01F},
+      {"0.00", "0.004", 0.0F},
+      {"0.00", "-2.675", -2.67F},  // towards zero, since whole units are cut off
+      // The text of 12345.675 has seven digits, 12345.67 or .68: its float is 12345.6748.
+      {"0.00", "12345.675", 12345.67F},
+      // 1.234568E+07 x 100 lies between two floats, of which 1234567936 is the even one.
+      {"0.00", "12345678", 12345679.0F},
+      {"0", "2.5", 2.0F},
+      {"0", "2.51", 3.0F},
+      {"0.000", "1.2345", 1.234F},
+  };
+  for (const Row& oRow : aoRows) {
+    UseSchedule("CurrencyFormat," + std::string(oRow.sFormat) + "\nPersonalRatePoundsFixed," +
+                oRow.sFee);
+    EXPECT_EQ(Account(kAccountPersonal).DoCalc(1, nullptr).Float(), oRow.fExpected) << oRow.sFee;
+  }
+  ScopedHost oHost;
+  oHost.sDecimalSeparator = ",";
+  UseSchedule(kCents + "PersonalRatePounds%,3\n");
+  EXPECT_EQ(Account(kAccountPersonal).DoCalc(50.5, nullptr).Float(), 1.51F);  // of 1,515
+}
+
+TEST(PayPal, IsAPercentageAndAFixedChargeForEachPayment) {
+  UseSchedule(kCents + "PersonalRatePounds%,3.4\nPersonalRatePoundsFixed,0.2\n");
+  struct Row {
+    double fAmount;
+    std::int32_t lQuantity;
+    bool bIndividually;
+    double fExpected;
+  };
+  const Row aoRows[] = {
+      {100, 1, false, 3.6}, {100, 3, false, 3.6}, {100, 3, true, 4.0},  {100, 2, true, 3.8},
+      {100, 1, true, 3.6},  {100, 0, true, 3.6},  {100, -3, true, 3.6}, {0, 3, true, 0},
+      {-100, 3, true, 0},   {.01, 1, false, .2},
+  };
+  for (const Row& oRow : aoRows) {
+    clsOutlay oOutlay;
+    oOutlay.m_lQuantity = oRow.lQuantity;
+    clsPayPal oPayPal = Account(kAccountPersonal);
+    oPayPal.m_bPayIndividually = oRow.bIndividually;
+    EXPECT_EQ(oPayPal.DoCalc(oRow.fAmount, &oOutlay), Single(oRow.fExpected))
+        << oRow.fAmount << " x " << oRow.lQuantity << oRow.bIndividually;
+    EXPECT_EQ(oPayPal.m_oLastOutlay, &oOutlay);
+    EXPECT_EQ(oPayPal.DoCalcAuto(), Single(oRow.fExpected));
+  }
+  clsPayPal oPayPal = Account(kAccountPersonal);
+  oPayPal.m_bPayIndividually = true;
+  EXPECT_EQ(oPayPal.DoCalc(100, nullptr), Single(3.6));
+  oPayPal.m_bEnabled = false;
+  EXPECT_EQ(oPayPal.DoCalc(200, nullptr), 0);
+  oPayPal.m_bEnabled = true;
+  EXPECT_EQ(oPayPal.DoCalcAuto(), 7);  // the amount was kept all the same
+  for (const std::int32_t eType : {0, 1, 2}) {
+    EXPECT_EQ(Account(eType, 0).DoCalc(100, nullptr), 0);  // band 0 frees every account
+  }
+  UseSchedule(kCents);
+  EXPECT_EQ(Account(kAccountPersonal).DoCalc(100, nullptr), 0);
+}
+
+TEST(PayPal, TheBandsOwnValueSelectsTheRates) {
+  UseSchedule(
+      kCents + Tiers("BusinessRatePounds%", {{"0", "1500", "3.4"}, {"1500.01", "6000", "2.9"}}) +
+      Tiers("BusinessRatePoundsFixed", {{"0", "6000", "0.2"}, {"6001", "-1", "0.5"}}) +
+      "BusinessRateBand1Value,1500\nBusinessRateBand2Value,1501\nBusinessRateBand2Name,Two\n"
+      "BusinessRateBand3Value,7000\nBusinessRateBand4Value,much\n"
+      "BusinessRateBand-1Value,1\n");
+  for (const std::int32_t eType : {kAccountPremier, kAccountBusiness}) {
+    EXPECT_EQ(Account(eType, 1).DoCalc(1000, nullptr), Single(34.2));
+    EXPECT_EQ(Account(eType, 2).DoCalc(1000, nullptr), Single(29.2));
+    EXPECT_EQ(Account(eType, 2).DoCalc(100000, nullptr), Single(2900.2));
+    EXPECT_EQ(Account(eType, 3).DoCalc(1000, nullptr), .5);  // no tier holds it: no percentage
+    EXPECT_EQ(Account(eType, -1).DoCalc(1000, nullptr), Single(34.2));
+    for (const std::int32_t nBand : {4, 5, 32768, -32769}) {
+      EXPECT_THROW((void)Account(eType, nBand).DoCalc(1000, nullptr), Failure) << nBand;
+    }
+  }
+  EXPECT_THROW((void)Account(3, 1).DoCalc(1000, nullptr), Failure);  // asks for "Pounds%Ranges"
+
+  std::int32_t nBand = 0;
+  EXPECT_EQ(Account(kAccountBusiness, 2).GetBusinessRateBandAttribute(0, nBand), "Two");
+  EXPECT_EQ(nBand, 2);
+  nBand = 1;
+  EXPECT_EQ(Account(kAccountBusiness, 2).GetBusinessRateBandAttribute(7, nBand), "1500");
+  EXPECT_EQ(Account(kAccountBusiness, 2).GetBusinessRateBandAttribute(0, nBand), "");
+
+  UseSchedule("BusinessRateBand1Value,1");
+  EXPECT_THROW((void)Account(kAccountPremier).DoCalc(1000, nullptr), Failure);  // no tier table
+  EXPECT_TRUE(Account(kAccountPremier).CanHaveMerchantRate());
+  EXPECT_FALSE(Account(kAccountPersonal).CanHaveMerchantRate());
+}
+
+}  // namespace
+}  // namespace quillet

@@ -1,0 +1,172 @@
+#include "engine/clsPostage.h"
+
+#include <gtest/gtest.h>
+
+#include "base/failure.h"
+#include "support/ByRegion.h"
+#include "support/Prices.h"
+
+namespace quillet {
+namespace {
+
+const std::string kSchedule =
+    Tiers("FirstClass", {{"0.05", "0.5", "2"}, {"0.6", "1", "3"}}) +
+    Tiers("SecondClass", {{"0", "0.75", "1.5"}}) + Tiers("Parcel", {{"0", "10", "6"}}) +
+    "FirstClassOverWeightStep,0.25\nFirstClassOverWeightStepValue,0.85\n"
+    "InsuranceBandValue1,0.125\nInsuranceBandValue2,1\nInsuranceBandValue3,2\n"
+    "InsuranceBandValue4,4\nRecordedSignedFor,0.75\nProofOfDelivery,2.25\n";
+
+clsPostage Parcel(std::int32_t eClass, double fWeight) {
+  clsPostage oPostage;
+  oPostage.m_bEnabled = true;
+  oPostage.m_ePostageClass = eClass;
+  oPostage.m_fWeight = fWeight;
+  return oPostage;
+}
+
+TEST(Postage, FirstClassCountsPartStepsWholeBeyondItsLastBand) {
+  UseSchedule(kSchedule);
+  const std::pair<double, double> aoRows[] = {{0, 0},
+                                              {0.04, 0},
+                                              {0.05, 2},
+                                              {0.5, 2},
+                                              {0.55, 0},  // below the first band, and in a
+                                                          // gap
+                                              {1, 3},
+                                              {1.1, 3.85},
+                                              {1.25, 3.85},
+                                              {1.26, 4.7},
+                                              {2, 6.4},
+                                              {3, 9.8}};
+  for (const auto& [fWeight, fCost] : aoRows) {
+    EXPECT_EQ(Parcel(3, fWeight).DoCalcOnWeight(kPostageFirstClass), Single(fCost)) << fWeight;
+  }
+}
+
+TEST(Postage, TheNumberOfStepsRoundsOnce) {
+  // (0.3 - 0.1) / 0.05 with the three as floats is 4.000000149, which a float holds as 4. The
+  // difference rounded by itself would be a little more than 0.2, and so a fifth step.
+  UseSchedule(Tiers("FirstClass", {{"0", "0.1", "1"}}) +
+              "FirstClassOverWeightStep,0.05\nFirstClassOverWeightStepValue,1");
+  EXPECT_EQ(Parcel(0, 0.3).DoCalcOnWeight(kPostageFirstClass), 5);
+  EXPECT_EQ(Parcel(0, 2.15).DoCalcOnWeight(kPostageFirstClass), 42);
+}
+
+TEST(Postage, FirstClassWithoutItsNumbers) {
+  struct Row {
+    std::string sSchedule;
+    double fWeight, fCost;
+    bool bFailure;
+  };
+  const std::string sTier = Tiers("FirstClass", {{"0", "1", "3"}});
+  const Row aoRows[] = {
+      {"FirstClassRanges,0", 5, 0, false},
+      {"FirstClassRanges,-1", 5, 0, false},
+      {"FirstClassRanges,1\nFirstClassRangeEnd1,1\n", 5, 0, false},  // the tier lacks numbers
+      {sTier + "FirstClassOverWeightStep,1", 5, 3, false},
+      {sTier, 1, 3, false},
+      {sTier, 5, 0, true},  // a step of 0
+      {"", 5, 0, true},
+      // In the gap before an open tier, 5 lies six steps above its end of -1.
+      {Tiers("FirstClass", {{"0", "1", "3"}, {"9", "-1", "7"}}) +
+           "FirstClassOverWeightStep,1\nFirstClassOverWeightStepValue,2",
+       5, 19, false},
+  };
+  for (const Row& oRow : aoRows) {
+    SCOPED_TRACE(oRow.sSchedule);
+    UseSchedule(oRow.sSchedule);
+    const clsPostage oPostage = Parcel(0, oRow.fWeight);
+    if (oRow.bFailure) {
+      EXPECT_THROW((void)oPostage.DoCalcOnWeight(kPostageFirstClass), Failure);
+    } else {
+      EXPECT_EQ(oPostage.DoCalcOnWeight(kPostageFirstClass), oRow.fCost);
+    }
+  }
+}
+
+TEST(Postage, IsTheClassAndTheServicesThatItAllows) {
+  struct Row {
+    std::int32_t eClass, eBand;
+    bool bRecorded, bProof;
+    double fWeight, fCost;
+  };
+  const Row aoRows[] = {
+      {0, 0, false, false, 1, 3.125}, {0, 0, true, false, 1, 3.875}, {0, 0, true, true, 1, 6.125},
+      {0, 0, false, true, 1, 3.125},  {0, 2, false, false, 1, 3},    {1, 0, true, true, .75, 4.625},
+      {1, 1, true, false, .76, .75},  {2, 0, true, true, 1, 6.125},  {2, 1, false, false, 10, 7},
+      {2, 2, false, false, 1, 8},     {2, 3, true, true, 10.01, 4},  {2, 4, false, false, 1, 6},
+      {3, 0, true, true, 1, 9.125},   {3, 2, false, false, 1, 9},    {7, 0, true, true, 1, .125},
+      {-1, -1, true, true, 1, 0},
+  };
+  UseSchedule(kSchedule);
+  for (const Row& oRow : aoRows) {
+    clsPostage oPostage = Parcel(oRow.eClass, oRow.fWeight);
+    oPostage.m_fManualPostage = 9;
+    oPostage.m_eInsuranceBand = oRow.eBand;
+    oPostage.m_bRecordedDelivery = oRow.bRecorded;
+    oPostage.m_bProofOfDelivery = oRow.bProof;
+    EXPECT_EQ(oPostage.DoCalc(nullptr), Single(oRow.fCost)) << oRow.eClass << ", " << oRow.eBand;
+    EXPECT_EQ(oPostage.m_bProofOfDelivery, oRow.bProof);
+    oPostage.m_bEnabled = false;
+    EXPECT_EQ(oPostage.DoCalc(nullptr), 0);
+  }
+  UseSchedule("");
+  EXPECT_EQ(Parcel(kPostageManual, 1).DoCalc(nullptr), 0);
+  EXPECT_THROW((void)Parcel(kPostageSecondClass, 1).DoCalc(nullptr), Failure);
+  EXPECT_THROW((void)Parcel(kPostageParcel, 1).DoCalc(nullptr), Failure);
+}
+
+TEST(Postage, SendingIndividuallyMultipliesCostAndProfit) {
+  UseSchedule(kSchedule);
+  clsOutlay oOutlay;
+  for (const auto& [lQuantity, nTimes] : {std::pair{3, 3}, {2, 2}, {1, 1}, {0, 1}, {-3, 1}}) {
+    oOutlay.m_lQuantity = lQuantity;
+    clsPostage oPostage = Parcel(2, 1);
+    oPostage.m_fProfit = 0.5;
+    oPostage.m_bSendIndividually = true;
+    EXPECT_EQ(oPostage.DoCalc(&oOutlay), Single(Single(6.125) * nTimes)) << lQuantity;
+    EXPECT_EQ(oPostage.DoCalcProfit(), 0);
+    oPostage.m_bMakeProfit = true;
+    EXPECT_EQ(oPostage.DoCalcProfit(), 0.5 * nTimes);
+    oPostage.m_bEnabled = false;  // a profit counts all the same
+    EXPECT_EQ(oPostage.DoCalc(&oOutlay), 0);
+    EXPECT_EQ(oPostage.DoCalcProfit(), 0.5 * nTimes);
+    EXPECT_EQ(oPostage.DoCalc(nullptr), 0);
+    EXPECT_EQ(oPostage.DoCalcProfit(), 0.5);
+    oPostage.m_bSendIndividually = false;
+    oPostage.m_bEnabled = true;
+    EXPECT_EQ(oPostage.DoCalc(&oOutlay), Single(6.125));
+  }
+}
+
+TEST(Postage, AClassIsOfferedInTheUnitedKingdomWhereTheWeightHasAPrice) {
+  UseSchedule(kSchedule);
+  struct Row {
+    double fWeight;
+    std::array<bool, 3> abUk;
+  };
+  for (const Row& oRow :
+       {Row{0, {false, true, true}}, Row{0.55, {false, true, true}}, Row{0.75, {true, true, true}},
+        Row{0.76, {true, false, true}}, Row{10.01, {true, false, false}}}) {
+    const clsPostage oPostage = Parcel(0, oRow.fWeight);
+    for (std::int32_t eClass = 0; eClass < 3; ++eClass) {
+      const bool bUk = oRow.abUk.at(static_cast<std::size_t>(eClass));
+      EXPECT_EQ(oPostage.CanHaveClass(eClass), ByRegion(bUk, false)) << oRow.fWeight << eClass;
+    }
+    EXPECT_TRUE(oPostage.CanHaveClass(kPostageManual));
+    EXPECT_FALSE(oPostage.CanHaveClass(4));
+    EXPECT_FALSE(oPostage.CanHaveClass(-1));
+  }
+}
+
+TEST(Postage, TheNextClassWrapsToOneAndTheNextBandToZero) {
+  constexpr std::int32_t kLargest = 2147483647;
+  for (const auto& [nFrom, nClass, nBand] :
+       {std::tuple{0, 1, 1}, {1, 2, 2}, {2, 3, 3}, {3, 1, 0}, {9, 1, 0}, {kLargest, 1, 0}}) {
+    EXPECT_EQ(clsPostage::GetNextClass(nFrom), nClass) << nFrom;
+    EXPECT_EQ(clsPostage::GetNextInsurance(nFrom), nBand) << nFrom;
+  }
+}
+
+}  // namespace
+}  // namespace quillet

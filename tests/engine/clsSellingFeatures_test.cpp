@@ -1,0 +1,159 @@
+#include "engine/clsSellingFeatures.h"
+
+#include <gtest/gtest.h>
+
+#include "base/failure.h"
+#include "support/ByRegion.h"
+#include "support/Prices.h"
+
+namespace quillet {
+namespace {
+
+class SellingFeatures : public ::testing::Test {
+ protected:
+  SellingFeatures() { m_oType.m_eShopDuration = kShopNone; }
+
+  Single Fee(std::int32_t lFeatures, std::int32_t lImages = 0) {
+    m_oFeatures.Clear();
+    m_oFeatures.AddFeature(lFeatures);
+    m_oFeatures.m_lExtraImageCount = lImages;
+    return m_oFeatures.DoCalc(&m_oType, &m_oOutlay);
+  }
+
+  clsAuctionType m_oType;
+  clsOutlay m_oOutlay;
+  clsSellingFeatures m_oFeatures;
+};
+
+TEST_F(SellingFeatures, EachBitCostsThePriceOfItsKey) {
+  struct Row {
+    std::int32_t lBit;
+    const char* sKey;
+  };
+  const Row aoRows[] = {
+      {0x1, "HomePage"},
+      {0x2, "Plus"},
+      {0x4, "Highlight"},
+      {0x8, "ItemSubtitle"},
+      {0x10, "Bold"},
+      {0x20, "Gallery"},
+      {0x40, "FeaturedGallery"},
+      {0x80, "BuyItNow"},
+      {0x100, "ScheduledListings"},
+      {0x400, "SlideShow"},
+      {0x800, "SupersizePictures"},
+      {0x2000, "ListingDesigner"},
+      {0x4000, "FeaturedInSearch"},
+      {0x8000, "10DayDuration"},
+      {0x10000, "GiftServices"},
+      {0x20000, "PreviewPicture"},
+      {0x40000, "Border"},
+      {0x80000, "ListingItem"},
+      {0x100000, "CarAd"},
+  };
+  std::string sSchedule = "FeatureBuyItNowRanges,0\n";
+  for (const Row& oRow : aoRows) {
+    sSchedule += "Feature" + std::string(oRow.sKey) + "," + std::to_string(oRow.lBit) + "\n";
+  }
+  UseSchedule(sSchedule);
+  for (const Row& oRow : aoRows) {
+    EXPECT_EQ(Fee(oRow.lBit), oRow.lBit) << oRow.sKey;
+  }
+  EXPECT_EQ(Fee(0x40000000), 0);  // unused
+}
+
+TEST_F(SellingFeatures, TwoCategoriesMultiplyAllButHomePageAndSchedule) {
+  UseSchedule(
+      "FeatureBold,1\nFeatureExtraImage,0.15\nFeatureListIn2Categories,2\n"
+      "FeatureScheduledListings,0.1\nFeatureHomePage,40\nFeatureHomePageMulti,80\n" +
+      Tiers("FeaturePicturePack", {{"1", "6", "5"}, {"7", "12", "9"}}));
+  EXPECT_EQ(Fee(0x10 | 0x200 | 0x100, 3), 3);  // (1 + 3 x 0.15) x 2 + 0.1
+  EXPECT_EQ(Fee(0x200 | 0x1), 40);
+  EXPECT_EQ(Fee(0x200), 0);
+  EXPECT_EQ(Fee(0, 5), .75);  // no bit guards the charge for images
+  EXPECT_EQ(Fee(0, -2), -Single(.3));
+  EXPECT_EQ(Fee(0x1000, 6), 5);  // the pack in place of the images
+  EXPECT_EQ(Fee(0x1000 | 0x200, 7), 18);
+  EXPECT_EQ(Fee(0x1000, 0), 0);
+  EXPECT_EQ(Fee(0x1000, 13), 0);
+  UseSchedule("FeatureBold,1");
+  EXPECT_THROW((void)Fee(0x1000, 5), Failure);  // no table of packs
+}
+
+TEST_F(SellingFeatures, TheHomePageCostsMoreForSeveralInTheUnitedStates) {
+  UseSchedule("FeatureHomePage,40\nFeatureHomePageMulti,80\n");
+  for (const auto& [lQuantity, fUs] : {std::pair{0, 40}, {1, 40}, {2, 80}}) {
+    m_oOutlay.m_lQuantity = lQuantity;
+    EXPECT_EQ(Fee(0x1), ByRegion(40, fUs)) << lQuantity;
+  }
+  clsSellingFeatures oFresh;
+  oFresh.AddFeature(0x1);
+  EXPECT_THROW((void)oFresh.DoCalc(nullptr, nullptr), Failure);  // no kind of listing yet
+  if (RegionCode() == 1) {
+    EXPECT_THROW((void)oFresh.DoCalc(&m_oType, nullptr), Failure);
+  } else {
+    EXPECT_EQ(oFresh.DoCalc(&m_oType, nullptr), 40);
+  }
+}
+
+TEST_F(SellingFeatures, BuyItNowGoesByTheEndPriceInTheUnitedStatesWhateverTheDuration) {
+  const std::string sFlat = "FeatureBuyItNow,7\nFeatureBuyItNow90,8\n";
+  UseSchedule(sFlat + Tiers("FeatureBuyItNow", {{"1", "9.99", "0.05"}, {"10", "-1", "0.25"}}) +
+              Tiers("FeatureBuyItNow90", {{"0", "-1", "99"}}));
+  m_oType.m_eShopDuration = kShop90Days;
+  for (const auto& [fEnd, fUs] : {std::pair{9.99, .05}, {9.995, 8.0}, {0.0, 8.0}, {10.0, .25}}) {
+    m_oOutlay.m_fEstimatedEndPrice = fEnd;
+    EXPECT_EQ(Fee(0x80), Single(ByRegion(8.0, fUs))) << fEnd;
+  }
+  clsSellingFeatures oFresh;
+  oFresh.AddFeature(0x80);
+  EXPECT_EQ(oFresh.DoCalc(&m_oType, nullptr), 8);  // no outlay: the flat price
+  UseSchedule(sFlat);
+  if (RegionCode() == 1) {
+    EXPECT_THROW((void)Fee(0x80), Failure);  // no table
+  } else {
+    EXPECT_EQ(Fee(0x80), 8);
+  }
+}
+
+TEST_F(SellingFeatures, ThePrefixFollowsTheKindOfListingInTheUnitedStates) {
+  UseSchedule(
+      "FeatureBold,1\nFeatureMotorBold,2\nFeatureMotorPoketBikesBold,3\nFeatureMotorPartsBold,4\n"
+      "FeatureRealEstateBold,5\nFeatureBold60,6\n");
+  struct Row {
+    std::int32_t eType, eMotor;
+    double fUs;
+  };
+  for (const Row& oRow : {Row{0, 3, 1}, Row{1, 0, 2}, Row{1, 3, 3}, Row{1, 5, 4}, Row{1, 9, 2},
+                          Row{2, 5, 5}, Row{3, 0, 1}, Row{9, 0, 1}}) {
+    m_oType.m_eAuctionType = oRow.eType;
+    m_oType.m_eMotorType = oRow.eMotor;
+    EXPECT_EQ(Fee(0x10), ByRegion(1.0, oRow.fUs)) << oRow.eType << ", " << oRow.eMotor;
+  }
+  m_oType = clsAuctionType();
+  m_oType.m_eShopDuration = kShop60Days;
+  EXPECT_EQ(Fee(0x10), 6);
+  // No such price: what was read for the listing before stays, even over a Clear.
+  m_oType.m_eShopDuration = kShop120Days;
+  EXPECT_EQ(Fee(0x10), 6);
+  m_oFeatures.Clear();
+  EXPECT_EQ(m_oFeatures.m_fBold, 6);
+  EXPECT_EQ(m_oFeatures.DoCalc(nullptr, nullptr), 0);
+}
+
+TEST(SellingFeatureBits, GoTogetherOrNotAtAll) {
+  clsSellingFeatures oFeatures;
+  EXPECT_TRUE(oFeatures.HasFeature(0));
+  oFeatures.SetFeature(1, true);
+  oFeatures.RemoveFeature(3);
+  EXPECT_TRUE(oFeatures.HasFeature(1));
+  oFeatures.SetFeature(2, true);
+  EXPECT_TRUE(oFeatures.HasFeature(3));
+  oFeatures.SetFeature(3, false);
+  oFeatures.SetFeature(3, false);
+  EXPECT_FALSE(oFeatures.HasFeature(1));
+  EXPECT_FALSE(oFeatures.HasFeature(2));
+}
+
+}  // namespace
+}  // namespace quillet

@@ -1,0 +1,15 @@
+// What a test expects where the two regions differ.
+#pragma once
+
+#include <utility>
+
+#include "base/region.h"
+
+namespace quillet {
+
+template <typename Value>
+Value ByRegion(Value oUnitedKingdom, Value oUnitedStates) {
+  return RegionCode() == 1 ? std::move(oUnitedStates) : std::move(oUnitedKingdom);
+}
+
+}  // namespace quillet
