@@ -1,0 +1,73 @@
+#include "sections/ctlRealEstateOptions.h"
+
+#include <array>
+
+#include "sections/controlHelpers.h"
+#include "sections/ctlRealEstateOptionsLand.h"
+#include "sections/ctlRealEstateOptionsSale.h"
+
+namespace quillet {
+namespace {
+
+using enum ControlKind;
+
+constexpr std::array kInnerPanels = {"ctlRealEstateOptionsLand1", "ctlRealEstateOptionsSale1"};
+
+constexpr std::array kControls = std::to_array<ControlDesign>({
+    {"ctlRealEstateOptionsLand1", kSubControl, "", 0, 0, 2775, 560, "", nullptr,
+     [](QWidget* p) -> SectionPanel* { return new ctlRealEstateOptionsLand(p); }},
+    {"ctlRealEstateOptionsSale1", kSubControl, "", 0, 560, 2775, 1120, "", nullptr,
+     [](QWidget* p) -> SectionPanel* { return new ctlRealEstateOptionsSale(p); }},
+    {"chkRealEstateBinding", kCheckBox, "Binding", 0, 1680, 1575, 255},
+    {"chkShowRealEstateBinding", kCheckBox, "Show", 1800, 1680, 855, 255, "RealEstateBinding"},
+});
+
+constexpr PanelDesign kDesign = {.sTypeName = "ctlRealEstateOptions",
+                                 .sTitle = "Real Estate",
+                                 .sSectionKey = "RealEstateOptions",
+                                 .sReferenceBox = "chkShowRealEstateBinding",
+                                 .sVisibilityList = "RealEstateOptions",
+                                 .bAddingComplete = true,
+                                 .bRowsByLabel = false,
+                                 .nWidth = 2760,
+                                 .nHeight = 2010,
+                                 .aoControls = kControls};
+
+}  // namespace
+
+ctlRealEstateOptions::ctlRealEstateOptions(QWidget* pParent) : SectionPanel(kDesign, pParent) {}
+
+/// No write is guarded. In particular a box that goes grey is unticked, and its click takes the
+/// flag from the listing too.
+void ctlRealEstateOptions::ApplyAuctionType(clsAuctionType& oAuctionType) {
+  m_oAuctionType = &oAuctionType;
+  for (const char* const sName : kInnerPanels) {
+    The<AuctionOptionsPanel>(sName).ApplyAuctionType(oAuctionType);
+  }
+  SetValueOf("chkRealEstateBinding", oAuctionType.m_bRealEstateBinding ? 1 : 0);
+  SetControlActive(IsRealEstate(oAuctionType), *Find("chkRealEstateBinding"), false);
+}
+
+void ctlRealEstateOptions::UpdateModel() {
+  if (m_bApplying || m_oAuctionType == nullptr) {
+    return;
+  }
+  m_oAuctionType->m_bRealEstateBinding = ValueOf("chkRealEstateBinding") != 0;
+  m_oAuctionType->m_bDirty = true;
+  ApplyAuctionType(*m_oAuctionType);
+  emit Changed();
+}
+
+/// The inner panels have no Show boxes, and would be rows that no list names.
+bool ctlRealEstateOptions::AddOwnNames(clsTokeniser& oList) const {
+  bool bAdded = false;
+  for (const char* const sName : kInnerPanels) {
+    if (!oList.Exists(sName, false)) {
+      oList.AddToArray(sName);
+      bAdded = true;
+    }
+  }
+  return bAdded;
+}
+
+}  // namespace quillet
