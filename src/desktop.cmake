@@ -2,6 +2,8 @@
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets)
 
 add_library(quillet_desktop STATIC
+  platform/qt/QtHost.cpp
+  platform/qt/QtSettingsHive.cpp
   platform/qt/Theme.cpp
   sections/AuctionOptionsPanel.cpp
   sections/Control.cpp

@@ -1,6 +1,7 @@
 #include "sections/SectionPanel.h"
 
 #include <QPainter>
+#include <QShowEvent>
 #include <algorithm>
 
 #include "base/failure.h"

@@ -1,0 +1,158 @@
+#include "documents/lifecycle.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <utility>
+
+#include "base/basCommon.h"
+#include "base/clsRegistryAccess.h"
+#include "base/failure.h"
+#include "base/text.h"
+#include "documents/lastFolder.h"
+#include "engine/clsCalculate.h"
+#include "platform/Files.h"
+
+namespace quillet {
+namespace {
+
+constexpr std::size_t kLargestFile = std::size_t{1} << 20U;  // an auction takes some 200 bytes
+
+void RaiseIfFailed(const std::error_code& oError) {
+  if (oError) {
+    throw Failure(FailureNumber::FileAccess, oError.message());
+  }
+}
+
+/// What stands behind the last separator of a path.
+std::string TitleOf(const std::string& sPath) {
+  return sPath.substr(sPath.find_last_of(NativePath("\\") + "/") + 1);
+}
+
+}  // namespace
+
+DocumentLifecycle::DocumentLifecycle(DocumentView& oView, std::string sCaption)
+    : m_oView(oView), m_sCaption(std::move(sCaption)) {}
+
+bool DocumentLifecycle::PromptSaveWorkingDoc() {
+  if (!WorkingAuction().IsDirty()) {
+    return true;
+  }
+  switch (ShowMessage("The current auction has been modified but not saved. Save now?",
+                      kMessageQuestion, m_sCaption)) {
+    case Answer::Cancel:
+      return false;
+    case Answer::Yes:
+      return SaveOrLoadAuction(true);
+    default:
+      return true;
+  }
+}
+
+bool DocumentLifecycle::SaveOrLoadAuction(bool bSave) {
+  FileDialog oDialog{.bSave = bSave,
+                     .sTypeName = EditionName() + " files",
+                     .sPattern = std::string("*") + kAuctionExtension,
+                     .sInitDir = LastFolder(),
+                     .sFileName = m_sFileName};
+  if (bSave && m_sFileName.empty()) {
+    oDialog.sFileName = NextNewAuctionName(oDialog.sInitDir);
+  }
+  const auto sPath = TheHost().ChooseFile(oDialog);
+  if (!sPath) {
+    return false;
+  }
+  m_sFileName = TitleOf(*sPath);
+  SetLastFolder(sPath->substr(0, sPath->size() - m_sFileName.size()));
+  try {
+    if (bSave) {
+      SaveAuction(*sPath);
+    } else {
+      LoadAuction(*sPath);
+    }
+    WorkingAuction().SetDirty(false);
+    m_oView.SetWindowTitle(m_sFileName, false);
+  } catch (const Failure& oFailure) {
+    ShowMessage(oFailure.what(), kMessageWarning, "");
+  }
+  // A file that failed counts as done, so that what asked for the save carries on.
+  return true;
+}
+
+/// The text is built before the file is touched.
+void DocumentLifecycle::SaveAuction(const std::string& sPath) {
+  std::string sText;
+  WorkingAuction().Serialize(sText, true);
+  RaiseIfFailed(ReplaceFile(sPath, sText + "\n"));
+}
+
+/// The file is read whole before any field of the auction changes.
+void DocumentLifecycle::LoadAuction(const std::string& sPath) {
+  std::string sText;
+  RaiseIfFailed(ReadWholeFile(sPath, kLargestFile, sText));
+  sText = DecodeText(std::move(sText));
+  WorkingAuction().Serialize(sText, false);
+  m_oView.RefreshCalculator();
+}
+
+void DocumentLifecycle::SaveOrLoadDefaultAuction(bool bSave) {
+  std::string sText;
+  if (bSave) {
+    DefaultAuction().Serialize(sText, true);
+    Registry().Set(settings::kDefaultAuction, sText);
+  } else if (Registry().GetRegSettingString(
+                 settings::kDefaultAuction.eRoot, sText, settings::kDefaultAuction.sName,
+                 settings::kDefaultAuction.sSection, settings::kDefaultAuction.sDefault)) {
+    DefaultAuction().Serialize(sText, false);
+  }
+  DefaultAuction().SetDirty(false);
+  m_oView.SetWindowTitle(kDefaultAuctionTitle, false);
+}
+
+void DocumentLifecycle::NewAuction() {
+  if (!PromptSaveWorkingDoc()) {
+    return;
+  }
+  WorkingAuction().Copy(DefaultAuction());
+  m_sFileName.clear();
+  m_oView.ShowCalculator();
+}
+
+void DocumentLifecycle::StartWizard() {
+  if (!PromptSaveWorkingDoc()) {
+    return;
+  }
+  WorkingAuction().Clear();
+  WorkingAuction().m_oOutlay.m_lQuantity = 1;
+  m_oView.ShowWizard();
+}
+
+bool DocumentLifecycle::PromptBeforeExit() {
+  if (!PromptSaveWorkingDoc()) {
+    return false;
+  }
+  if (DefaultAuction().IsDirty()) {
+    switch (ShowMessage("The default auction has been modified but not saved. Save now?",
+                        kMessageQuestion, m_sCaption)) {
+      case Answer::Cancel:
+        return false;
+      case Answer::Yes:
+        SaveOrLoadDefaultAuction(true);
+        break;
+      default:
+        break;
+    }
+  }
+  return true;
+}
+
+std::string DocumentLifecycle::NextNewAuctionName(const std::string& sFolder) {
+  for (std::int32_t n = 0;; ++n) {
+    const std::string sName =
+        "NewAuction" + (n > 0 ? std::to_string(n) : std::string()) + kAuctionExtension;
+    if (!FileExists(NativePath(sFolder + "\\" + sName))) {
+      return sName;
+    }
+  }
+}
+
+}  // namespace quillet
