@@ -197,6 +197,20 @@ QList<QWidget*> SectionPanel::InputsInReadingOrder() const {
   return aoInputs;
 }
 
+void SectionPanel::SetChosen(std::span<const OptionCode> aoOptions, std::int32_t nCode) {
+  for (const OptionCode& oOption : aoOptions) {
+    SetValueOf(oOption.sOption, oOption.nCode == nCode ? 1 : 0);
+  }
+}
+
+std::int32_t SectionPanel::ChosenOf(std::span<const OptionCode> aoOptions,
+                                    std::int32_t nNone) const {
+  const auto pChosen =
+      std::find_if(aoOptions.begin(), aoOptions.end(),
+                   [this](const OptionCode& oOption) { return ValueOf(oOption.sOption) != 0; });
+  return pChosen == aoOptions.end() ? nNone : pChosen->nCode;
+}
+
 void SectionPanel::SetRowCaption(Control& oNamed, const QString& sCaption) {
   if (oNamed.Caption() != sCaption) {
     oNamed.SetCaption(sCaption);

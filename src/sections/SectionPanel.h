@@ -8,6 +8,7 @@
 #pragma once
 
 #include <QWidget>
+#include <cstdint>
 #include <memory>
 #include <span>
 #include <string>
@@ -68,6 +69,12 @@ struct PanelDesign {
   std::span<const ControlDesign> aoControls;
 };
 
+/// An option, and the code that it stands for in the model.
+struct OptionCode {
+  const char* sOption;
+  std::int32_t nCode;
+};
+
 class SectionPanel : public QWidget, public Control {
   Q_OBJECT
 
@@ -122,6 +129,12 @@ class SectionPanel : public QWidget, public Control {
   }
   [[nodiscard]] int ValueOf(std::string_view sName) const { return The<Choice>(sName).Value(); }
   void SetValueOf(std::string_view sName, int nValue) { The<Choice>(sName).SetValue(nValue); }
+
+  /// Sets the option of a code and unsets the others, in their order.
+  void SetChosen(std::span<const OptionCode> aoOptions, std::int32_t nCode);
+  /// The code of the option that is set, or `nNone`.
+  [[nodiscard]] std::int32_t ChosenOf(std::span<const OptionCode> aoOptions,
+                                      std::int32_t nNone) const;
 
   /// Sets the caption that a row goes by, and with it what its input and its Show box are called.
   void SetRowCaption(Control& oNamed, const QString& sCaption);

@@ -47,9 +47,10 @@ constexpr PanelDesign kDesign = {.sTypeName = "ctlPayPal",
                                  .nHeight = 3510,
                                  .aoControls = kControls};
 
-/// The options, by the account that each stands for.
-constexpr std::array kAccounts = {"optPersonalAccount", "optPremierAccount", "optBusinessAccount"};
-constexpr int kAccountCount = static_cast<int>(kAccounts.size());
+constexpr std::array kAccounts =
+    std::to_array<OptionCode>({{"optPersonalAccount", kAccountPersonal},
+                               {"optPremierAccount", kAccountPremier},
+                               {"optBusinessAccount", kAccountBusiness}});
 
 }  // namespace
 
@@ -75,9 +76,7 @@ void ctlPayPal::ApplyFeatures(clsPayPal& oPayPal, const clsOutlay* oOutlay) {
   The<ctlPaypalBusinessTypes>(kBusinessTypes).ApplyFeatures(oPayPal);
   SetValueOf("chkUsePayPal", oPayPal.m_bEnabled ? 1 : 0);
   SetValueOf("chkPayInduvidually", oPayPal.m_bPayIndividually ? 1 : 0);
-  for (int i = 0; i < kAccountCount; ++i) {
-    SetValueOf(kAccounts[i], oPayPal.m_eAccountType == i ? 1 : 0);
-  }
+  SetChosen(kAccounts, oPayPal.m_eAccountType);
   SetControlActive(oOutlay->m_lQuantity >= 2, *Find("chkPayInduvidually"), true);
   ShowSectionTotal(The<Label>("lblTotal"), oPayPal.DoCalcAuto());
 }
@@ -88,11 +87,7 @@ void ctlPayPal::UpdateModel() {
   }
   m_oPayPal->m_bEnabled = ValueOf("chkUsePayPal") != 0;
   m_oPayPal->m_bPayIndividually = ValueOf("chkPayInduvidually") != 0;
-  for (int i = 0; i < kAccountCount; ++i) {
-    if (ValueOf(kAccounts[i]) != 0) {
-      m_oPayPal->m_eAccountType = i;
-    }
-  }
+  m_oPayPal->m_eAccountType = ChosenOf(kAccounts, m_oPayPal->m_eAccountType);
   m_oPayPal->m_bDirty = true;
   ApplyFeatures(*m_oPayPal, m_oPayPal->m_oLastOutlay);
   emit Changed();

@@ -33,8 +33,8 @@ constexpr PanelDesign kDesign = {.sTypeName = "ctlPaypalBusinessTypes",
                                  .nHeight = 1740,
                                  .aoControls = kControls};
 
-constexpr std::array kBands = {"optBand1", "optBand2", "optBand3", "optBand4", "optBand5"};
-constexpr int kBandCount = static_cast<int>(kBands.size());
+constexpr std::array kBands = std::to_array<OptionCode>(
+    {{"optBand1", 1}, {"optBand2", 2}, {"optBand3", 3}, {"optBand4", 4}, {"optBand5", 5}});
 
 }  // namespace
 
@@ -44,14 +44,12 @@ ctlPaypalBusinessTypes::ctlPaypalBusinessTypes(QWidget* pParent) : SectionPanel(
 /// changes.
 void ctlPaypalBusinessTypes::ApplyFeatures(clsPayPal& oPayPal) {
   m_oPayPal = &oPayPal;
-  for (int i = 0; i < kBandCount; ++i) {
-    SetValueOf(kBands[i], oPayPal.m_nBusinessBand == i + 1 ? 1 : 0);
-  }
-  for (int i = 0; i < kBandCount; ++i) {
-    Control& oBand = *Find(kBands[i]);
-    SetControlActive(oPayPal.CanHaveMerchantRate(), oBand, false);
-    std::int32_t nBand = i + 1;
-    SetRowCaption(oBand, QString::fromStdString(oPayPal.GetBusinessRateBandAttribute(0, nBand)));
+  SetChosen(kBands, oPayPal.m_nBusinessBand);
+  for (const OptionCode& oBand : kBands) {
+    Control& oOption = *Find(oBand.sOption);
+    SetControlActive(oPayPal.CanHaveMerchantRate(), oOption, false);
+    std::int32_t nBand = oBand.nCode;
+    SetRowCaption(oOption, QString::fromStdString(oPayPal.GetBusinessRateBandAttribute(0, nBand)));
   }
 }
 
@@ -59,11 +57,7 @@ void ctlPaypalBusinessTypes::UpdateModel() {
   if (m_bApplying || m_oPayPal == nullptr) {
     return;
   }
-  for (int i = 0; i < kBandCount; ++i) {
-    if (ValueOf(kBands[i]) != 0) {
-      m_oPayPal->m_nBusinessBand = i + 1;
-    }
-  }
+  m_oPayPal->m_nBusinessBand = ChosenOf(kBands, m_oPayPal->m_nBusinessBand);
   m_oPayPal->m_bDirty = true;
   ApplyFeatures(*m_oPayPal);
   emit Changed();

@@ -76,18 +76,11 @@ constexpr PanelDesign kDesign = {.sTypeName = "ctlPostage",
                                  .nHeight = 4935,
                                  .aoControls = kControls};
 
-struct ClassOption {
-  ePostageClass eClass;
-  const char* sOption;
-};
-
 /// In the order in which the options are set and read.
-constexpr std::array kClasses = std::to_array<ClassOption>({
-    {kPostageSecondClass, "optSecondClass"},
-    {kPostageFirstClass, "optFirstClass"},
-    {kPostageParcel, "optParcelService"},
-    {kPostageManual, "optManual"},
-});
+constexpr std::array kClasses = std::to_array<OptionCode>({{"optSecondClass", kPostageSecondClass},
+                                                           {"optFirstClass", kPostageFirstClass},
+                                                           {"optParcelService", kPostageParcel},
+                                                           {"optManual", kPostageManual}});
 
 }  // namespace
 
@@ -113,9 +106,7 @@ void ctlPostage::ApplyFeatures(clsPostage& oPostage, const clsOutlay* oOutlay) {
 void ctlPostage::ShowChoices(const clsPostage& oPostage) {
   SetValueOf("chkUsePostage", oPostage.m_bEnabled ? 1 : 0);
   The<ctlNumericText>("txtWeight").SetText(SingleText(oPostage.m_fWeight));
-  for (const ClassOption& oClass : kClasses) {
-    SetValueOf(oClass.sOption, oPostage.m_ePostageClass == oClass.eClass ? 1 : 0);
-  }
+  SetChosen(kClasses, oPostage.m_ePostageClass);
   The<ctlNumericText>("txtManual").SetText(FormatMoney(oPostage.m_fManualPostage));
   SetValueOf("chkRecordedDelivery", oPostage.m_bRecordedDelivery ? 1 : 0);
   SetValueOf("chkProofOfDelivery", oPostage.m_bProofOfDelivery ? 1 : 0);
@@ -140,8 +131,8 @@ void ctlPostage::ShowPrices(const clsPostage& oPostage) {
 /// What is grey still takes a click, but for the profit's amount and what stands in a Frame:
 /// UpdateModel undoes the choice.
 void ctlPostage::ShowWhatIsOpen(const clsPostage& oPostage, const clsOutlay& oOutlay) {
-  for (const ClassOption& oClass : kClasses) {
-    SetControlActive(oPostage.CanHaveClass(oClass.eClass), *Find(oClass.sOption), false);
+  for (const OptionCode& oClass : kClasses) {
+    SetControlActive(oPostage.CanHaveClass(oClass.nCode), *Find(oClass.sOption), false);
   }
   SetControlActive(oPostage.CanHaveRecordedDelivery(), *Find("chkRecordedDelivery"), false);
   SetControlActive(oPostage.CanHaveProofOfDelivery(), *Find("chkProofOfDelivery"), false);
@@ -156,7 +147,12 @@ void ctlPostage::UpdateModel() {
   clsPostage& oPostage = *m_oPostage;
   oPostage.m_bEnabled = ValueOf("chkUsePostage") != 0;
   oPostage.m_fWeight = The<ctlNumericText>("txtWeight").Value();
-  ReadClass();
+  // A class that has no price at this weight is passed over; manual postage always has one.
+  std::int32_t& eClass = oPostage.m_ePostageClass;
+  eClass = ChosenOf(kClasses, eClass);
+  while (!oPostage.CanHaveClass(eClass)) {
+    eClass = clsPostage::GetNextClass(eClass);
+  }
   oPostage.m_fManualPostage = The<ctlNumericText>("txtManual").Value();
   oPostage.m_bRecordedDelivery =
       ValueOf("chkRecordedDelivery") != 0 && oPostage.CanHaveRecordedDelivery();
@@ -169,20 +165,6 @@ void ctlPostage::UpdateModel() {
   oPostage.m_bDirty = true;
   ApplyFeatures(oPostage, oPostage.m_oLastOutlay);
   emit Changed();
-}
-
-/// A class that has no price at this weight is passed over; manual postage always has one.
-void ctlPostage::ReadClass() {
-  std::int32_t& eClass = m_oPostage->m_ePostageClass;
-  for (const ClassOption& oClass : kClasses) {
-    if (ValueOf(oClass.sOption) != 0) {
-      eClass = oClass.eClass;
-      break;
-    }
-  }
-  while (!m_oPostage->CanHaveClass(eClass)) {
-    eClass = clsPostage::GetNextClass(eClass);
-  }
 }
 
 /// The words of three rows don't name them as the region knows them: those boxes are hidden with

@@ -24,7 +24,6 @@ class ctlPostage : public SectionPanel {
   void ShowChoices(const clsPostage& oPostage);
   void ShowPrices(const clsPostage& oPostage);
   void ShowWhatIsOpen(const clsPostage& oPostage, const clsOutlay& oOutlay);
-  void ReadClass();
 
   clsPostage* m_oPostage = nullptr;
 };

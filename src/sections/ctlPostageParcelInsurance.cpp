@@ -32,8 +32,8 @@ constexpr PanelDesign kDesign = {.sTypeName = "ctlPostageParcelInsurance",
                                  .nHeight = 1470,
                                  .aoControls = kControls};
 
-constexpr std::array kBands = {"optBand1", "optBand2", "optBand3", "optBand4"};
-constexpr int kBandCount = static_cast<int>(kBands.size());
+constexpr std::array kBands =
+    std::to_array<OptionCode>({{"optBand1", 0}, {"optBand2", 1}, {"optBand3", 2}, {"optBand4", 3}});
 
 }  // namespace
 
@@ -44,16 +44,13 @@ ctlPostageParcelInsurance::ctlPostageParcelInsurance(QWidget* pParent)
 /// changes.
 void ctlPostageParcelInsurance::ApplyAuctionType(clsPostage& oPostage) {
   m_oPostage = &oPostage;
-  for (int i = 0; i < kBandCount; ++i) {
-    SetValueOf(kBands[i], oPostage.m_eInsuranceBand == i ? 1 : 0);
-  }
-  for (int i = 0; i < kBandCount; ++i) {
-    SetControlActive(oPostage.CanHaveInsurance(i), *Find(kBands[i]), false);
-  }
-  for (int i = 0; i < kBandCount; ++i) {
-    PriceKey oKey = "InsuranceBandName";
-    if (std::string_view sName; Prices().GetData(oKey.Append(i + 1), sName)) {
-      SetRowCaption(*Find(kBands[i]), QString::fromStdString(std::string(sName)));
+  SetChosen(kBands, oPostage.m_eInsuranceBand);
+  for (const OptionCode& oBand : kBands) {
+    Control& oOption = *Find(oBand.sOption);
+    SetControlActive(oPostage.CanHaveInsurance(oBand.nCode), oOption, false);
+    PriceKey oKey("InsuranceBandName");  // its numbers are one above the bands'
+    if (std::string_view sName; Prices().GetData(oKey.Append(oBand.nCode + 1), sName)) {
+      SetRowCaption(oOption, QString::fromStdString(std::string(sName)));
     }
   }
 }
@@ -63,11 +60,7 @@ void ctlPostageParcelInsurance::UpdateModel() {
     return;
   }
   std::int32_t& eBand = m_oPostage->m_eInsuranceBand;
-  for (int i = 0; i < kBandCount; ++i) {
-    if (ValueOf(kBands[i]) != 0) {
-      eBand = i;
-    }
-  }
+  eBand = ChosenOf(kBands, eBand);
   while (!m_oPostage->CanHaveInsurance(eBand)) {
     eBand = clsPostage::GetNextInsurance(eBand);
   }
