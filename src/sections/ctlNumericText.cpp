@@ -90,7 +90,9 @@ std::string ctlNumericText::Text() const {
 
 void ctlNumericText::SetText(const std::string& sText) {
   if (!IsNumeric(sText)) {
-    m_pText->setText(QString::fromStdString(sText));
+    if (sText != Text()) {  // else the caret stays where a step has put it
+      m_pText->setText(QString::fromStdString(sText));
+    }
     return;
   }
   const std::optional<Single> fValue = ToSingle(sText);
