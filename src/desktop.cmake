@@ -27,6 +27,8 @@ add_library(quillet_desktop STATIC
   sections/ctlSellingFeatures.cpp
   sections/ctlShopDurations.cpp
   sections/ctlSubControlExample.cpp
+  shell/SectionSet.cpp
+  shell/ctlCalculator.cpp
   shell/formPosition.cpp
   shell/zoomSteps.cpp
   )

@@ -1,0 +1,239 @@
+#include "shell/ctlCalculator.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QShowEvent>
+#include <algorithm>
+#include <cmath>
+
+#include "base/basMain.h"
+#include "base/clsRegistryAccess.h"
+#include "base/conversions.h"
+#include "base/failure.h"
+#include "platform/qt/Theme.h"
+
+namespace quillet {
+namespace {
+
+struct Place {
+  Control* pControl;
+  int nLeft;
+  int nTop;
+  int nWidth;
+  int nHeight;
+};
+
+constexpr int kDesignWidth = 12075;
+constexpr int kDesignHeight = 12510;
+
+/// The rule below the summary, which the summary's card ends with.
+constexpr int kLineTop = 1200;
+constexpr int kLineLeft = 120;
+
+constexpr int kAbsent = -1;  // an entry of this value counts as none
+
+std::string SectionOf(const SectionPanel& oSection) {
+  return std::string("Controls\\") + oSection.SectionKey();
+}
+
+void DrawCard(QPainter& oPainter, const QRectF& oCard) {
+  constexpr double kRadius = 7.0;
+  oPainter.setPen(QPen(InkColour(Ink::Hairline), 1.0));
+  oPainter.setBrush(InkColour(Ink::Panel));
+  oPainter.drawRoundedRect(oCard.adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+}
+
+QRectF CardOf(const Control& oControl) {
+  constexpr int kSides = 105;
+  constexpr int kAbove = 60;
+  constexpr int kBelow = 120;
+  return {QPointF(Pixels(oControl.Left() - kSides), Pixels(oControl.Top() - kAbove)),
+          QPointF(Pixels(oControl.Left() + oControl.Width() + kSides),
+                  Pixels(oControl.Top() + oControl.Height() + kBelow))};
+}
+
+bool Holds(const SectionPanel& oSection, const QWidget* pWidget) {
+  return pWidget != nullptr && (pWidget == &oSection || oSection.isAncestorOf(pWidget));
+}
+
+}  // namespace
+
+ctlCalculator::ctlCalculator(QWidget* pParent)
+    : QWidget(pParent), Control(static_cast<QWidget&>(*this)), m_oSet(*this) {
+  const std::array aoPlaces = std::to_array<quillet::Place>({
+      {&m_oSet.ctlSellingCostsSection, 120, 120, 10755, 960},
+      {&m_oSet.ctlOutlaySection, 240, 1560, 5550, 1935},
+      {&m_oSet.ctlPayPalSection, 5760, 1560, 3150, 3615},
+      {&m_oSet.ctlAuctionTypeSection, 9000, 1560, 3030, 7455},
+      {&m_oSet.ctlSellingFeaturesSection, 120, 3600, 3750, 6975},
+      {&m_oSet.ctlPostageSection, 4440, 5640, 4350, 5055},
+  });
+  for (const auto& [pControl, nLeft, nTop, nWidth, nHeight] : aoPlaces) {
+    pControl->Place(nLeft, nTop, nWidth, nHeight);
+  }
+  Place(0, 0, kDesignWidth, kDesignHeight);
+  m_oSet.ctlSellingCostsSection.SetMode(0);
+  for (SectionPanel* const pSection : m_oSet.Sections()) {
+    connect(pSection, &SectionPanel::Changed, this, [this] { RefreshSums(true); });
+    connect(pSection, &SectionPanel::Moved, this, [this, pSection](float fX, float fY) {
+      IgnoreFailure([&] { MoveSection(*pSection, fX, fY); });
+    });
+  }
+  connect(qApp, &QApplication::focusChanged, this, &ctlCalculator::FollowFocus);
+}
+
+void ctlCalculator::SetConfigMode(bool bConfigMode) {
+  m_bConfigMode = bConfigMode;
+  UserControl_Show();
+}
+
+void ctlCalculator::ResetControlPositions() {
+  const auto fnDesign = [this](const std::string& sKey) {
+    const auto pEntry = m_colDesignPositions.find(sKey);
+    return pEntry == m_colDesignPositions.end() ? kAbsent : pEntry->second;
+  };
+  for (SectionPanel* const pSection : PlacedInOrder()) {
+    const int nLeft = fnDesign(pSection->SectionKey() + std::string("_Left"));
+    const int nTop = fnDesign(pSection->SectionKey() + std::string("_Top"));
+    pSection->SetLeft(nLeft == kAbsent ? pSection->Left() : nLeft);
+    pSection->SetTop(nTop == kAbsent ? pSection->Top() : nTop);
+  }
+  SaveSectionPositions();
+  update();
+}
+
+void ctlCalculator::RefreshSums(bool bUpdateControlDisplays, clsCalculate* pDocument) {
+  if (m_oSet.IsRefreshing()) {
+    return;
+  }
+  m_oDocument = pDocument != nullptr ? pDocument : m_oDocument;
+  clsCalculate& oDocument = m_oDocument != nullptr ? *m_oDocument : WorkingAuction();
+  m_oSet.RefreshSums(oDocument, bUpdateControlDisplays,
+                     [this](bool bDocDirty) { emit Changed(bDocDirty); });
+}
+
+void ctlCalculator::CalcMinSize(int& nWidth, int& nHeight) const {
+  nWidth = 0;
+  nHeight = 0;
+  for (const Control* const pControl : std::initializer_list<const Control*>{
+           &m_oSet.ctlOutlaySection, &m_oSet.ctlSellingFeaturesSection,
+           &m_oSet.ctlSellingCostsSection, &m_oSet.ctlPayPalSection, &m_oSet.ctlPostageSection}) {
+    GrowToHold(nWidth, nHeight, *pControl);
+  }
+}
+
+void ctlCalculator::WholeSize(int& nWidth, int& nHeight) const {
+  CalcMinSize(nWidth, nHeight);
+  GrowToHold(nWidth, nHeight, m_oSet.ctlAuctionTypeSection);
+}
+
+void ctlCalculator::GrowToHold(int& nWidth, int& nHeight, const Control& oControl) const {
+  nWidth = std::max(nWidth, oControl.Left() + oControl.Width());
+  nHeight = std::max(nHeight, oControl.Top() + oControl.Height());
+}
+
+void ctlCalculator::showEvent(QShowEvent* pEvent) {
+  QWidget::showEvent(pEvent);
+  if (!pEvent->spontaneous()) {
+    IgnoreFailure([this] { UserControl_Show(); });
+  }
+}
+
+/// The cards behind the sections, and the summary's, which ends at the rule below it.
+void ctlCalculator::paintEvent(QPaintEvent* /*pEvent*/) {
+  constexpr int kAbove = 30;
+  constexpr int kBelowLine = 60;
+  constexpr int kSides = 45;
+  QPainter oPainter(this);
+  oPainter.setRenderHint(QPainter::Antialiasing);
+  oPainter.fillRect(rect(), InkColour(Ink::Ground));
+  DrawCard(oPainter, {QPointF(Pixels(kLineLeft - kSides), Pixels(kLineLeft - kAbove)),
+                      QPointF(width() - Pixels(kLineLeft), Pixels(kLineTop + kBelowLine))});
+  for (const SectionPanel* const pSection : m_oSet.Sections()) {
+    if (pSection->Height() > 0) {
+      DrawCard(oPainter, CardOf(*pSection));
+    }
+  }
+}
+
+void ctlCalculator::UserControl_Show() {
+  for (SectionPanel* const pSection : m_oSet.Sections()) {
+    pSection->SetShowConfig(m_bConfigMode);
+  }
+  LoadSectionPositions();
+  RefreshSums(true);
+  update();
+}
+
+/// The focus is a section's when any control inside it has it.
+void ctlCalculator::FollowFocus(const QWidget* pOld, const QWidget* pNow) {
+  for (SectionPanel* const pSection : m_oSet.Sections()) {
+    const bool bBefore = Holds(*pSection, pOld);
+    const bool bNow = Holds(*pSection, pNow);
+    if (bNow && !bBefore) {
+      pSection->GotFocus();
+    } else if (bBefore && !bNow) {
+      pSection->LostFocus();
+    }
+  }
+}
+
+void ctlCalculator::MoveSection(SectionPanel& oSection, float fX, float fY) {
+  SnapSection(oSection, oSection.Left() + double{fX}, oSection.Top() + double{fY});
+  SaveSectionPositions();
+  update();
+}
+
+/// To the nearest point of the grid, an exact half to the even one. No place is out of bounds.
+void ctlCalculator::SnapSection(SectionPanel& oSection, Single fLeft, Single fTop) {
+  const auto fnSnap = [](Single fWanted) {
+    return RoundToLong(std::nearbyint(fWanted / g_lSnapToGrid) * g_lSnapToGrid);
+  };
+  const int nLeft = fnSnap(fLeft);
+  const int nTop = fnSnap(fTop);
+  oSection.raise();
+  oSection.SetLeft(nLeft);
+  oSection.SetTop(nTop);
+}
+
+std::array<SectionPanel*, 5> ctlCalculator::PlacedInOrder() const {
+  return {&m_oSet.ctlAuctionTypeSection, &m_oSet.ctlSellingFeaturesSection,
+          &m_oSet.ctlOutlaySection, &m_oSet.ctlPayPalSection, &m_oSet.ctlPostageSection};
+}
+
+void ctlCalculator::SaveSectionPositions() const {
+  for (const SectionPanel* const pSection : std::initializer_list<const SectionPanel*>{
+           &m_oSet.ctlSellingFeaturesSection, &m_oSet.ctlAuctionTypeSection,
+           &m_oSet.ctlOutlaySection, &m_oSet.ctlPayPalSection, &m_oSet.ctlPostageSection}) {
+    const std::string sSection = SectionOf(*pSection);
+    Registry().SetRegSettingString(HiveRoot::User, std::to_string(pSection->Top()), "Top",
+                                   sSection);
+    Registry().SetRegSettingString(HiveRoot::User, std::to_string(pSection->Left()), "Left",
+                                   sSection);
+  }
+}
+
+/// The first time, remembers where the design has the sections. A stored place that is no number
+/// is a Failure.
+void ctlCalculator::LoadSectionPositions() {
+  const auto fnStored = [](const SectionPanel& oSection, const char* sName, int nPlace) {
+    std::string sText;
+    if (!Registry().GetRegSettingString(HiveRoot::User, sText, sName, SectionOf(oSection), "")) {
+      return nPlace;
+    }
+    const auto nStored = ToLong(sText);
+    if (!nStored) {
+      throw Failure(FailureNumber::TypeMismatch, "A stored place isn't a number: " + sText);
+    }
+    return *nStored;
+  };
+  for (SectionPanel* const pSection : PlacedInOrder()) {
+    m_colDesignPositions.try_emplace(pSection->SectionKey() + std::string("_Left"),
+                                     pSection->Left());
+    m_colDesignPositions.try_emplace(pSection->SectionKey() + std::string("_Top"), pSection->Top());
+    pSection->SetTop(fnStored(*pSection, "Top", pSection->Top()));
+    pSection->SetLeft(fnStored(*pSection, "Left", pSection->Left()));
+  }
+}
+
+}  // namespace quillet

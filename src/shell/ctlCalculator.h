@@ -1,0 +1,64 @@
+// The free-layout view: all sections and the summary on one panel. In config mode it shows the
+// default auction, with the boxes that choose the rows on view and with sections to be dragged.
+#pragma once
+
+#include <QWidget>
+#include <map>
+#include <string>
+
+#include "sections/Control.h"
+#include "shell/SectionSet.h"
+
+namespace quillet {
+
+class ctlCalculator : public QWidget, public Control {
+  Q_OBJECT
+
+ public:
+  explicit ctlCalculator(QWidget* pParent);
+  [[nodiscard]] const char* TypeName() const override { return "ctlCalculator"; }
+
+  /// Every write lays all sections out anew, puts them where they are stored and refreshes them.
+  [[nodiscard]] bool ConfigMode() const { return m_bConfigMode; }
+  void SetConfigMode(bool bConfigMode);
+
+  /// Puts the sections back where the design has them, and stores that.
+  void ResetControlPositions();
+
+  /// Calculates and shows a document, which is kept; without one, the one kept before, or else the
+  /// working auction.
+  void RefreshSums(bool bUpdateControlDisplays, clsCalculate* pDocument = nullptr);
+
+  /// The size, in twips, that holds the summary and all sections but the auction type's, which
+  /// doesn't count for the window's smallest size.
+  void CalcMinSize(int& nWidth, int& nHeight) const;
+
+  /// The size, in twips, that holds everything.
+  void WholeSize(int& nWidth, int& nHeight) const;
+
+  [[nodiscard]] SectionSet& Set() { return m_oSet; }
+
+ signals:
+  void Changed(bool bDocDirty);
+
+ protected:
+  void showEvent(QShowEvent* pEvent) override;
+  void paintEvent(QPaintEvent* pEvent) override;
+
+ private:
+  void UserControl_Show();
+  void FollowFocus(const QWidget* pOld, const QWidget* pNow);
+  void MoveSection(SectionPanel& oSection, float fX, float fY);
+  void SnapSection(SectionPanel& oSection, Single fLeft, Single fTop);
+  [[nodiscard]] std::array<SectionPanel*, 5> PlacedInOrder() const;
+  void SaveSectionPositions() const;
+  void LoadSectionPositions();
+  void GrowToHold(int& nWidth, int& nHeight, const Control& oControl) const;
+
+  SectionSet m_oSet;
+  bool m_bConfigMode = false;
+  clsCalculate* m_oDocument = nullptr;
+  std::map<std::string, int> m_colDesignPositions;  ///< by SectionKey + "_Left" or "_Top", twips
+};
+
+}  // namespace quillet
