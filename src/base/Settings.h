@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "base/servers.h"
 #include "platform/SettingsHive.h"
 
 namespace quillet {
@@ -32,6 +33,15 @@ inline constexpr Setting kMusicId{HiveRoot::User, "Config", "MusicID", "music=0"
 inline constexpr Setting kMusicMute{HiveRoot::User, "Config", "MusicMute", "mute=false"};
 /// Day number of the update attempt in progress; deleted when it succeeds.
 inline constexpr Setting kFtpSkipFlag{HiveRoot::User, "Config", "FTPSkipFlag", ""};
+/// The update's servers, each "host" or "host:port". Read only.
+inline constexpr Setting kWebServer{HiveRoot::Machine, "Config", "WebServer", kBuiltInWebServer};
+inline constexpr Setting kFtpServer{HiveRoot::Machine, "Config", "FtpServer", kBuiltInFtpServer};
+/// What tells this installation from others: random text, made once.
+inline constexpr Setting kCode{HiveRoot::User, "Config", "Code", ""};
+/// The way to the Internet, "host" or "host:port"; none for the user's own settings. Read only. The
+/// section looks absolute, but lies under RegistryRoot like every other.
+inline constexpr Setting kProxyName{HiveRoot::Machine, "Software\\Velmor\\Gavel Ledger\\FTP",
+                                    "ProxyName", ""};
 /// Size of the interface in percent.
 inline constexpr Setting kZoom{HiveRoot::User, "Config", "Zoom", ""};
 /// The scrolling message of the about page.

@@ -6,6 +6,7 @@
 #include "base/region.h"
 #include "base/text.h"
 #include "platform/Files.h"
+#include "platform/UserData.h"
 
 namespace quillet {
 namespace {
@@ -19,6 +20,18 @@ bool IsPrintableToken(char cToken) {
 std::string_view TrimSpaces(std::string_view sText) {
   const std::size_t nFirst = std::min(sText.find_first_not_of(' '), sText.size());
   return sText.substr(nFirst, sText.find_last_not_of(' ') + 1 - nFirst);
+}
+
+/// Where a file lies that comes with the program and changes later.
+std::string PathOfChangingFile(const std::string& sName) {
+  const std::string sBelow = NativePath("\\" + sName);
+  const std::string sShipped = TheHost().ProgramFolder() + sBelow;
+  const std::string sOwn = TheHost().DataFolder() + sBelow;
+  if (sOwn == sShipped) {
+    return sShipped;
+  }
+  (void)SeedFile(sShipped, sOwn);
+  return FileExists(sOwn) ? sOwn : sShipped;
 }
 
 bool IsControlCharacter(char cToken) {
@@ -45,7 +58,7 @@ std::string RegistryRoot() {
 
 std::string UpdateFileName(bool bNameOnly) {
   const std::string sName = RegionCode() == 1 ? "UpdateUS_v0101.dat" : "UpdateUK_v0101.dat";
-  return bNameOnly ? sName : TheHost().ProgramFolder() + NativePath("\\" + sName);
+  return bNameOnly ? sName : PathOfChangingFile(sName);
 }
 
 std::int32_t MaxLong(std::int32_t nLeft, std::int32_t nRight) {

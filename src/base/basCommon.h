@@ -15,7 +15,9 @@ namespace quillet {
 /// The key under which all of this edition's settings lie.
 [[nodiscard]] std::string RegistryRoot();
 
-/// The fee schedule of the region, as the bare name or as a path in the program's folder.
+/// The fee schedule of the region, as the bare name or as a path in the program's folder. Where
+/// that folder can't be written it is a path in the user's data folder; a copy of the program's
+/// file is put there first if there is none or an older one.
 [[nodiscard]] std::string UpdateFileName(bool bNameOnly);
 
 [[nodiscard]] std::int32_t MaxLong(std::int32_t nLeft, std::int32_t nRight);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -13,6 +14,12 @@ namespace quillet {
 
 /// True if a file or folder of that name exists.
 [[nodiscard]] bool FileExists(const std::string& sPath);
+
+/// Size of a file in bytes; 0 if there is none.
+[[nodiscard]] std::uint64_t FileSize(const std::string& sPath);
+
+/// Removes a file; an error if there is none.
+[[nodiscard]] std::error_code RemoveFile(const std::string& sPath);
 
 /// Reads a whole file into `sContent`. A folder is an error, and so is a file of more than
 /// `nLimit` bytes (file_too_large); `sContent` is then left alone.

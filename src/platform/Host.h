@@ -52,6 +52,10 @@ class Host {
   /// Native path of the folder that holds the program's own files, without a closing separator.
   [[nodiscard]] virtual std::string ProgramFolder() const = 0;
 
+  /// The same for the files of the program that change. Another folder where the program's own
+  /// can't be written; it may not exist yet.
+  [[nodiscard]] virtual std::string DataFolder() const { return ProgramFolder(); }
+
   /// Native path of the user's documents, without a closing separator.
   [[nodiscard]] virtual std::string DocumentsFolder() const = 0;
 

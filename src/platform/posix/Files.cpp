@@ -78,6 +78,16 @@ bool FileExists(const std::string& sPath) {
   return ::access(sPath.c_str(), F_OK) == 0;
 }
 
+std::uint64_t FileSize(const std::string& sPath) {
+  struct stat oStatus {};
+  const bool bFile = ::stat(sPath.c_str(), &oStatus) == 0 && S_ISREG(oStatus.st_mode);
+  return bFile ? static_cast<std::uint64_t>(oStatus.st_size) : 0;
+}
+
+std::error_code RemoveFile(const std::string& sPath) {
+  return ::unlink(sPath.c_str()) == 0 ? std::error_code{} : LastError();
+}
+
 std::error_code ReadWholeFile(const std::string& sPath, std::size_t nLimit, std::string& sContent) {
   const Descriptor oFile(::open(sPath.c_str(), O_RDONLY | O_CLOEXEC));
   if (!oFile.IsOpen()) {

@@ -9,6 +9,8 @@
 #include <langinfo.h>
 #include <locale.h>
 
+#include "platform/UserData.h"
+
 namespace quillet {
 
 Answer TerminalHost::ShowMessage(const std::string& sPrompt, int nButtons,
@@ -34,6 +36,10 @@ std::string TerminalHost::ProgramFolder() const {
   std::error_code oError;
   const auto oProgram = std::filesystem::read_symlink("/proc/self/exe", oError);
   return oError ? "." : oProgram.parent_path().string();
+}
+
+std::string TerminalHost::DataFolder() const {
+  return FolderForChanges(ProgramFolder());
 }
 
 std::string TerminalHost::DocumentsFolder() const {

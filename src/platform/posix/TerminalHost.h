@@ -20,6 +20,7 @@ class TerminalHost : public Host {
   [[nodiscard]] std::int64_t TickCount() const override;
   [[nodiscard]] std::string CommandLine() const override { return m_sCommandLine; }
   [[nodiscard]] std::string ProgramFolder() const override;
+  [[nodiscard]] std::string DataFolder() const override;
   [[nodiscard]] std::string DocumentsFolder() const override;
   void OpenLink(const std::string& sTarget) override;
   [[nodiscard]] const std::string& DecimalSeparator() const override { return m_sDecimalSeparator; }
