@@ -1,0 +1,89 @@
+// What the update asks of the Internet: an FTP and an HTTP client behind a few blocking calls.
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+namespace quillet {
+
+/// Something that an Internet has opened; 0 is nothing.
+using InternetHandle = std::uintptr_t;
+
+// The platform's numbers.
+enum class InternetAccess : int { Preconfigured = 0, Proxy = 3 };
+enum class InternetService : int { Ftp = 1, Http = 3 };
+enum class TransferType : int { Ascii = 1, Binary = 2 };
+
+/// When a call gives up. Every bound holds for one call.
+struct InternetLimits {
+  std::chrono::milliseconds oConnect{10'000};  ///< until the server is reached and lets the user in
+  std::chrono::milliseconds oStall{20'000};    ///< without a byte of the file or answer
+  std::chrono::milliseconds oWhole{120'000};   ///< until all of it has come
+  std::size_t nLargest = 8U << 20U;            ///< bytes of a file or answer
+};
+
+/// Calls block until they are done or a limit is reached, and pump the host's events meanwhile. No
+/// call throws; after one that gives false or 0, the three texts below tell why. All text is UTF-8.
+class Internet {
+ public:
+  Internet() = default;
+  Internet(const Internet&) = delete;
+  Internet& operator=(const Internet&) = delete;
+  virtual ~Internet() = default;
+
+  /// True if this machine has a connection at all, be it to a local network only. Asks nobody.
+  [[nodiscard]] virtual bool IsConnected() = 0;
+
+  /// Opens an Internet session, one at a time; contacts nobody. `sProxy` is "host" or "host:port",
+  /// and counts with InternetAccess::Proxy only; else the user's own proxy settings hold.
+  [[nodiscard]] virtual InternetHandle Open(const std::string& sAgent, InternetAccess eAccess,
+                                            const std::string& sProxy) = 0;
+
+  /// Opens a session with a server. By FTP it logs in, and gives 0 if the server can't be reached
+  /// or refuses; by HTTP it contacts nobody yet and so gives a session with any name, even none.
+  [[nodiscard]] virtual InternetHandle Connect(InternetHandle hInternet, const std::string& sHost,
+                                               std::uint16_t nPort, const std::string& sUser,
+                                               const std::string& sPassword,
+                                               InternetService eService) = 0;
+
+  /// Makes a folder of the FTP server, seen from the one that now holds, the current one.
+  [[nodiscard]] virtual bool SetDirectory(InternetHandle hFtp, const std::string& sDirectory) = 0;
+
+  /// Stores a remote file under a local path, whole or not at all: a file that stands there is
+  /// replaced on success and left alone on failure.
+  [[nodiscard]] virtual bool GetFile(InternetHandle hFtp, const std::string& sRemoteFile,
+                                     const std::string& sLocalFile, TransferType eType) = 0;
+
+  /// The size of a remote file in bytes; false and 0 if there is none or it can't be asked for.
+  [[nodiscard]] virtual bool FindFile(InternetHandle hFtp, const std::string& sRemoteFile,
+                                      std::uint64_t& nSize) = 0;
+
+  /// Prepares a GET by HTTP/1.0, past every cache. `sRequest` is path and query without the "/" in
+  /// front.
+  [[nodiscard]] virtual InternetHandle OpenRequest(InternetHandle hHttp,
+                                                   const std::string& sRequest) = 0;
+
+  /// Sends it and takes in the body of the answer, whatever its status. False, with nothing to
+  /// read, if there is no answer, if it breaks off or if it is too large.
+  [[nodiscard]] virtual bool SendRequest(InternetHandle hRequest) = 0;
+
+  /// How many bytes the next Read can give at once; 0 at the end.
+  [[nodiscard]] virtual std::size_t DataAvailable(InternetHandle hRequest) = 0;
+
+  /// Hands out at most `nSize` more bytes of the body: how many. 0 at the end.
+  [[nodiscard]] virtual std::size_t Read(InternetHandle hRequest, char* pBuffer,
+                                         std::size_t nSize) = 0;
+
+  /// True if the latest failure is the server's own answer, whose words LastResponse gives.
+  [[nodiscard]] virtual bool IsExtendedError() const = 0;
+  [[nodiscard]] virtual std::string LastResponse() const = 0;
+  /// The platform's description of the latest failure.
+  [[nodiscard]] virtual std::string LastErrorText() const = 0;
+
+  /// Closes what was opened, with all that was opened from it. 0 is allowed.
+  virtual void Close(InternetHandle hHandle) = 0;
+};
+
+}  // namespace quillet

@@ -1,0 +1,197 @@
+#include "platform/posix/CurlInternet.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <ifaddrs.h>
+#include <net/if.h>
+#include <sys/socket.h>
+
+#include "platform/Files.h"
+
+namespace quillet {
+namespace {
+
+constexpr std::size_t kPiece = 65536;  // bytes that Read can give at once
+
+/// A path for a URL: each part between the "/" escaped; one in front is part of the path.
+std::string EscapePath(const std::string& sPath) {
+  std::string sEscaped = sPath.starts_with('/') ? "%2F" : "";
+  std::size_t nStart = sPath.starts_with('/') ? 1 : 0;
+  while (nStart <= sPath.size()) {
+    const std::size_t nEnd = std::min(sPath.find('/', nStart), sPath.size());
+    if (nEnd > nStart) {
+      const std::unique_ptr<char, decltype(&curl_free)> oPart(
+          curl_easy_escape(nullptr, &sPath[nStart], static_cast<int>(nEnd - nStart)), &curl_free);
+      sEscaped += oPart.get();
+    }
+    sEscaped += nEnd < sPath.size() ? "/" : "";
+    nStart = nEnd + 1;
+  }
+  return sEscaped;
+}
+
+bool HasAddress(const ifaddrs& oInterface) {
+  return oInterface.ifa_addr != nullptr &&
+         (oInterface.ifa_addr->sa_family == AF_INET || oInterface.ifa_addr->sa_family == AF_INET6);
+}
+
+}  // namespace
+
+bool CurlInternet::IsConnected() {
+  ifaddrs* pFirst = nullptr;
+  if (::getifaddrs(&pFirst) != 0) {
+    return true;  // not known: the attempt will show
+  }
+  const std::unique_ptr<ifaddrs, decltype(&::freeifaddrs)> oInterfaces(pFirst, &::freeifaddrs);
+  bool bOutside = false;
+  bool bInside = false;
+  bool bOnlyInside = true;
+  for (const ifaddrs* p = pFirst; p != nullptr; p = p->ifa_next) {
+    const bool bLoopback = (p->ifa_flags & IFF_LOOPBACK) != 0;
+    const bool bWorks =
+        HasAddress(*p) && (p->ifa_flags & IFF_UP) != 0 && (p->ifa_flags & IFF_RUNNING) != 0;
+    bOutside = bOutside || (bWorks && !bLoopback);
+    bInside = bInside || (bWorks && bLoopback);
+    // The system's ends of tunnels and the like have IFF_NOARP; nobody plugs a cable into those.
+    bOnlyInside = bOnlyInside && (bLoopback || (p->ifa_flags & IFF_NOARP) != 0);
+  }
+  return bOutside || (bInside && bOnlyInside);
+}
+
+InternetHandle CurlInternet::Open(const std::string& sAgent, InternetAccess eAccess,
+                                  const std::string& sProxy) {
+  m_sAgent = sAgent;
+  m_sProxy = eAccess == InternetAccess::Proxy ? sProxy : "";
+  m_hInternet = ++m_hLast;
+  return m_hInternet;
+}
+
+InternetHandle CurlInternet::Connect(InternetHandle /*hInternet*/, const std::string& sHost,
+                                     std::uint16_t nPort, const std::string& sUser,
+                                     const std::string& sPassword, InternetService eService) {
+  const InternetHandle hSession = ++m_hLast;
+  Session& oSession = m_aoSessions[hSession];
+  oSession.oBase = {(eService == InternetService::Ftp ? "ftp://" : "http://") + sHost + ":" +
+                        std::to_string(nPort) + "/",
+                    sUser, sPassword, m_sAgent, m_sProxy};
+  if (eService == InternetService::Ftp && !SetDirectory(hSession, "")) {
+    m_aoSessions.erase(hSession);
+    return 0;
+  }
+  return hSession;
+}
+
+template <typename Change>
+TransferResult CurlInternet::Run(InternetHandle hSession, Change&& fnChange) {
+  const auto iSession = m_aoSessions.find(hSession);
+  if (iSession == m_aoSessions.end()) {
+    Fail("The session isn't open.");
+    return {};
+  }
+  TransferRequest oRequest = iSession->second.oBase;
+  std::forward<Change>(fnChange)(oRequest);
+  TransferResult oResult = iSession->second.oConnections.Run(oRequest, m_oLimits);
+  if (!oResult.bDone) {
+    Fail(oResult.sError);
+    m_bExtendedError = oResult.bRefused;
+    m_sLastResponse = oResult.sResponse;
+  }
+  return oResult;
+}
+
+void CurlInternet::Fail(const std::string& sError) {
+  m_bExtendedError = false;
+  m_sLastResponse.clear();
+  m_sLastError = sError;
+}
+
+bool CurlInternet::SetDirectory(InternetHandle hFtp, const std::string& sDirectory) {
+  std::string sUrl;
+  const TransferResult oResult = Run(hFtp, [&](TransferRequest& oRequest) {
+    oRequest.sUrl += EscapePath(sDirectory);
+    oRequest.sUrl += oRequest.sUrl.ends_with('/') ? "" : "/";
+    oRequest.bBody = false;
+    sUrl = oRequest.sUrl;
+  });
+  if (oResult.bDone) {
+    m_aoSessions.at(hFtp).oBase.sUrl = sUrl;
+  }
+  return oResult.bDone;
+}
+
+bool CurlInternet::GetFile(InternetHandle hFtp, const std::string& sRemoteFile,
+                           const std::string& sLocalFile, TransferType eType) {
+  const TransferResult oResult = Run(hFtp, [&](TransferRequest& oRequest) {
+    oRequest.sUrl += EscapePath(sRemoteFile);
+    oRequest.bAsciiType = eType == TransferType::Ascii;
+  });
+  if (!oResult.bDone) {
+    return false;
+  }
+  const std::error_code oError = ReplaceFile(sLocalFile, oResult.sBody);
+  if (oError) {
+    Fail(oError.message());
+  }
+  return !oError;
+}
+
+bool CurlInternet::FindFile(InternetHandle hFtp, const std::string& sRemoteFile,
+                            std::uint64_t& nSize) {
+  const TransferResult oResult = Run(hFtp, [&](TransferRequest& oRequest) {
+    oRequest.sUrl += EscapePath(sRemoteFile);
+    oRequest.bBody = false;
+  });
+  const bool bFound = oResult.bDone && oResult.nSize >= 0;
+  nSize = bFound ? static_cast<std::uint64_t>(oResult.nSize) : 0;
+  return bFound;
+}
+
+InternetHandle CurlInternet::OpenRequest(InternetHandle hHttp, const std::string& sRequest) {
+  m_aoRequests[++m_hLast] = {hHttp, sRequest, {}, 0};
+  return m_hLast;
+}
+
+bool CurlInternet::SendRequest(InternetHandle hRequest) {
+  const auto iRequest = m_aoRequests.find(hRequest);
+  if (iRequest == m_aoRequests.end()) {
+    Fail("The request isn't open.");
+    return false;
+  }
+  TransferResult oResult = Run(iRequest->second.hHttp, [&](TransferRequest& oRequest) {
+    oRequest.sUrl += iRequest->second.sPath;
+  });
+  iRequest->second.sAnswer = std::move(oResult.sBody);
+  iRequest->second.nGiven = 0;
+  return oResult.bDone;
+}
+
+std::size_t CurlInternet::DataAvailable(InternetHandle hRequest) {
+  const auto iRequest = m_aoRequests.find(hRequest);
+  return iRequest == m_aoRequests.end()
+             ? 0
+             : std::min(iRequest->second.sAnswer.size() - iRequest->second.nGiven, kPiece);
+}
+
+std::size_t CurlInternet::Read(InternetHandle hRequest, char* pBuffer, std::size_t nSize) {
+  const auto iRequest = m_aoRequests.find(hRequest);
+  if (iRequest == m_aoRequests.end()) {
+    return 0;
+  }
+  const std::size_t nGiven = iRequest->second.sAnswer.copy(pBuffer, nSize, iRequest->second.nGiven);
+  iRequest->second.nGiven += nGiven;
+  return nGiven;
+}
+
+void CurlInternet::Close(InternetHandle hHandle) {
+  m_aoRequests.erase(hHandle);
+  std::erase_if(m_aoRequests, [&](const auto& o) { return o.second.hHttp == hHandle; });
+  m_aoSessions.erase(hHandle);
+  if (hHandle == m_hInternet) {
+    m_aoRequests.clear();
+    m_aoSessions.clear();
+    m_hInternet = 0;
+  }
+}
+
+}  // namespace quillet

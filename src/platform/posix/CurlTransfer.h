@@ -1,0 +1,54 @@
+// One transfer by libcurl, and the connections that transfers with one server share.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <set>
+#include <string>
+
+#include <curl/curl.h>
+
+#include "platform/Internet.h"
+
+namespace quillet {
+
+struct TransferRequest {
+  std::string sUrl;  ///< ftp: or http:
+  std::string sUser;
+  std::string sPassword;
+  std::string sAgent;
+  std::string sProxy;       ///< empty for the one that the environment names
+  bool bBody = true;        ///< else only what can be known without it: size, or that it is there
+  bool bAsciiType = false;  ///< FTP's type for text
+};
+
+struct TransferResult {
+  bool bDone = false;
+  std::string sBody;
+  std::int64_t nSize = -1;  ///< of the remote file; -1 if the server doesn't tell
+  std::string sResponse;    ///< the FTP server's last words, without line break
+  bool bRefused = false;    ///< those words are the reason of the failure
+  std::string sError;       ///< description of the failure
+};
+
+class CurlConnections {
+ public:
+  CurlConnections();
+  CurlConnections(const CurlConnections&) = delete;
+  CurlConnections& operator=(const CurlConnections&) = delete;
+  ~CurlConnections();
+
+  /// Blocks within the limits; the host's events are pumped meanwhile.
+  [[nodiscard]] TransferResult Run(const TransferRequest& oRequest, const InternetLimits& oLimits);
+
+ private:
+  static curl_socket_t OpenSocket(void* pThis, curlsocktype ePurpose, curl_sockaddr* pAddress);
+  static int CloseSocket(void* pThis, curl_socket_t nSocket);
+
+  [[nodiscard]] CURLcode Perform(CURL* pTransfer);
+
+  std::unique_ptr<CURLM, decltype(&curl_multi_cleanup)> m_oMulti;
+  std::set<curl_socket_t> m_anSockets;
+};
+
+}  // namespace quillet
