@@ -22,26 +22,20 @@ class RegistryAccess : public ::testing::Test {
 };
 
 TEST_F(RegistryAccess, ASectionsPathIsTheApplicationsKeyAndTheSectionUnlessItIsAbsolute) {
-  struct Row {
-    const char* sSection;
-    bool bAbsolute;
-    const char* sPath;
-  };
-  for (const Row& oRow :
-       {Row{"Config", false, "Software\\App\\Config"}, Row{"", false, "Software\\App"},
-        Row{"Controls\\ctlPostage", false, "Software\\App\\Controls\\ctlPostage"},
-        Row{"Other\\FTP", true, "Other\\FTP"}}) {
-    m_oHive.asValues.clear();
-    EXPECT_TRUE(m_oRegistry.SetRegSetting(kUser, oRow.sSection, "Name", "v", oRow.bAbsolute));
-    EXPECT_EQ(m_oHive.asValues.count({kUser, oRow.sPath, "Name"}), 1U) << oRow.sPath;
-    EXPECT_TRUE(m_oRegistry.GetRegSetting(kUser, oRow.sSection, "Name", m_sResult, "d", false,
-                                          oRow.bAbsolute));
-    EXPECT_EQ(m_sResult, "v");
-    EXPECT_FALSE(m_oRegistry.GetRegSetting(HiveRoot::Machine, oRow.sSection, "Name", m_sResult, "d",
-                                           false, oRow.bAbsolute));
-    EXPECT_EQ(m_sResult, "d");
-    m_oRegistry.DeleteValue(kUser, oRow.sSection, "Name", oRow.bAbsolute);
-    m_oRegistry.DeleteValue(kUser, oRow.sSection, "Name", oRow.bAbsolute);
+  for (const auto& [sSection, bAbsolute, sPath] :
+       {std::tuple{"Config", false, "Software\\App\\Config"},
+        {"", false, "Software\\App"},
+        {"Other\\FTP", true, "Other\\FTP"},
+        {"Other\\FTP", false, "Software\\App\\Other\\FTP"}}) {
+    EXPECT_TRUE(m_oRegistry.SetRegSetting(kUser, sSection, "Name", sPath, bAbsolute));
+    EXPECT_EQ(Value(sPath), sPath);
+    EXPECT_TRUE(
+        m_oRegistry.GetRegSetting(kUser, sSection, "Name", m_sResult, "d", false, bAbsolute));
+    EXPECT_EQ(m_sResult, sPath);
+    EXPECT_FALSE(m_oRegistry.GetRegSetting(HiveRoot::Machine, sSection, "Name", m_sResult, "d",
+                                           false, bAbsolute));
+    m_oRegistry.DeleteValue(kUser, sSection, "Name", bAbsolute);
+    m_oRegistry.DeleteValue(kUser, sSection, "Name", bAbsolute);
     EXPECT_TRUE(m_oHive.asValues.empty());
   }
 }

@@ -86,7 +86,8 @@ TEST(Prices, APriceIsLookedUpWithTheSuffixOfItsDuration) {
     EXPECT_TRUE(oPrices.GetPrice("fee", fFee, nShop));
     EXPECT_EQ(fFee, Single(fExpected)) << nShop;
   }
-  for (const auto& [sKey, nShop] : {std::pair{"None", 3}, {"Bad", 0}, {"Bad", 3}, {"Bad", 1}}) {
+  for (const auto& [sKey, nShop] :
+       {std::pair<std::string_view, int>{"None", 3}, {"Bad", 0}, {"Bad", 3}, {"Bad", 1}}) {
     Single fFee = 5;
     EXPECT_FALSE(oPrices.GetPrice(sKey, fFee, nShop)) << sKey << nShop;
     EXPECT_EQ(fFee, 5);
@@ -140,7 +141,7 @@ TEST_F(TierLookUp, CountsWithoutTiers) {
   EXPECT_EQ(m_oTier.m_nCount, 32767);
   EXPECT_TRUE(m_oPrices.HitTestRanges("Holes", 0, m_oTier, kShopNone));  // missing numbers are 0
   EXPECT_EQ(m_oTier.m_fValue, 8);
-  for (const char* sName : {"Absent", "Word", "Large", "Part"}) {
+  for (const std::string_view sName : {"Absent", "Word", "Large", "Part"}) {
     EXPECT_THROW((void)m_oPrices.HitTestRanges(sName, 1, m_oTier, kShopNone), Failure) << sName;
   }
   EXPECT_THROW((void)m_oPrices.HitTestRanges("Fee", 1, m_oTier, kShop30Days), Failure);
