@@ -1,0 +1,147 @@
+#include "platform/qt/QtHost.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLocale>
+#include <QMessageBox>
+#include <QStandardPaths>
+#include <QThread>
+#include <QUrl>
+
+namespace quillet {
+namespace {
+
+QMessageBox::Icon IconOf(int nButtons) {
+  switch (nButtons) {
+    case kMessageCritical:
+      return QMessageBox::Critical;
+    case kMessageQuestion:
+      return QMessageBox::Question;
+    case kMessageWarning:
+      return QMessageBox::Warning;
+    case kMessageInformation:
+      return QMessageBox::Information;
+    default:
+      return QMessageBox::NoIcon;
+  }
+}
+
+Answer AnswerOf(int nButton) {
+  switch (nButton) {
+    case QMessageBox::Yes:
+      return Answer::Yes;
+    case QMessageBox::No:
+      return Answer::No;
+    case QMessageBox::Cancel:
+      return Answer::Cancel;
+    default:
+      return Answer::Ok;
+  }
+}
+
+/// The folder, or the nearest one above it that exists.
+QString ExistingFolder(const std::string& sFolder) {
+  QString sPath = QDir::cleanPath(QDir::fromNativeSeparators(QString::fromStdString(sFolder)));
+  while (!QFileInfo(sPath).isDir()) {
+    const QString sAbove = QFileInfo(sPath).path();
+    if (sAbove == sPath) {
+      break;
+    }
+    sPath = sAbove;
+  }
+  return sPath;
+}
+
+/// Lets the user choose; an empty text if the dialog was cancelled.
+QString RunDialog(QFileDialog& oDialog) {
+  return oDialog.exec() == QDialog::Accepted ? oDialog.selectedFiles().value(0) : QString();
+}
+
+bool MayReplace(const QString& sPath) {
+  QMessageBox oBox(
+      QMessageBox::Warning, {},
+      QString("%1 already exists.\nDo you want to replace it?").arg(QFileInfo(sPath).fileName()),
+      QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow());
+  oBox.setTextFormat(Qt::PlainText);
+  oBox.setDefaultButton(QMessageBox::No);
+  return oBox.exec() == QMessageBox::Yes;
+}
+
+/// Native dialogs differ in whether they ask about the name as typed or as completed, so the
+/// extension is added here, and what then exists is asked about.
+QString RunSaveDialog(QFileDialog& oDialog, const QString& sExtension) {
+  while (true) {
+    const QString sPath = RunDialog(oDialog);
+    if (sPath.isEmpty() || !QFileInfo(sPath).suffix().isEmpty()) {
+      return sPath;
+    }
+    const QString sCompleted = sPath + (sPath.endsWith('.') ? "" : ".") + sExtension;
+    if (!QFileInfo::exists(sCompleted) || MayReplace(sCompleted)) {
+      return sCompleted;
+    }
+  }
+}
+
+std::string NativeText(const QString& sPath) {
+  return QDir::toNativeSeparators(sPath).toStdString();
+}
+
+}  // namespace
+
+QtHost::QtHost() : m_sDecimalSeparator(QString(QLocale::system().decimalPoint()).toStdString()) {
+  m_oClock.start();
+}
+
+Answer QtHost::ShowMessage(const std::string& sPrompt, int nButtons, const std::string& sTitle) {
+  QMessageBox oBox(IconOf(nButtons), QString::fromStdString(sTitle),
+                   QString::fromStdString(sPrompt), QMessageBox::Ok, QApplication::activeWindow());
+  oBox.setTextFormat(Qt::PlainText);
+  if (nButtons == kMessageQuestion) {
+    oBox.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+    oBox.setDefaultButton(QMessageBox::Yes);
+    oBox.setEscapeButton(QMessageBox::Cancel);
+  }
+  return AnswerOf(oBox.exec());
+}
+
+std::optional<std::string> QtHost::ChooseFile(const FileDialog& oDialog) {
+  const QString sPattern = QString::fromStdString(oDialog.sPattern);
+  QFileDialog oWindow(QApplication::activeWindow());
+  oWindow.setAcceptMode(oDialog.bSave ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  oWindow.setFileMode(oDialog.bSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  oWindow.setNameFilter(
+      QString("%1 (%2)").arg(QString::fromStdString(oDialog.sTypeName), sPattern));
+  oWindow.setDirectory(ExistingFolder(oDialog.sInitDir));
+  if (!oDialog.sFileName.empty()) {
+    oWindow.selectFile(QString::fromStdString(oDialog.sFileName));
+  }
+  const QString sPath =
+      oDialog.bSave ? RunSaveDialog(oWindow, QFileInfo(sPattern).suffix()) : RunDialog(oWindow);
+  return sPath.isEmpty() ? std::nullopt : std::optional(NativeText(sPath));
+}
+
+void QtHost::PumpEvents() {
+  QCoreApplication::processEvents();
+  QThread::msleep(1);
+}
+
+std::string QtHost::CommandLine() const {
+  return QCoreApplication::arguments().mid(1).join(' ').toStdString();
+}
+
+std::string QtHost::ProgramFolder() const {
+  return NativeText(QCoreApplication::applicationDirPath());
+}
+
+std::string QtHost::DocumentsFolder() const {
+  return NativeText(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+}
+
+void QtHost::OpenLink(const std::string& sTarget) {
+  QDesktopServices::openUrl(QUrl::fromUserInput(QString::fromStdString(sTarget)));
+}
+
+}  // namespace quillet

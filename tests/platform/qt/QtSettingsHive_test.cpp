@@ -1,0 +1,220 @@
+#include "platform/qt/QtSettingsHive.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <iterator>
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "support/TestHost.h"
+
+namespace quillet {
+namespace {
+
+constexpr auto kUser = HiveRoot::User;
+constexpr auto kMachine = HiveRoot::Machine;
+const std::string kPath = "Software\\Velmor\\Quillet US\\Config";
+
+class QtSettingsHiveTest : public ::testing::Test {
+ protected:
+  [[nodiscard]] std::unique_ptr<QtSettingsHive> Open() const {
+    return std::make_unique<QtSettingsHive>(QString::fromStdString(m_oFolder / "user"),
+                                            QString::fromStdString(m_oFolder / "machine"));
+  }
+  [[nodiscard]] std::string UserFile() const { return m_oFolder / "user/velmor/quillet.ini"; }
+  [[nodiscard]] std::string Content() const {
+    std::ifstream oFile(UserFile(), std::ios::binary);
+    return {std::istreambuf_iterator<char>(oFile), {}};
+  }
+  [[nodiscard]] std::ptrdiff_t FilesInUserFolder() const {
+    return std::distance(std::filesystem::directory_iterator(m_oFolder / "user/velmor"), {});
+  }
+
+  TemporaryFolder m_oFolder;
+};
+
+/// Runs `oWork` in a process of its own; true if it gave true.
+bool InAnotherProcess(const std::function<bool()>& oWork) {
+  const pid_t nChild = ::fork();
+  if (nChild == 0) {
+    ::_exit(oWork() ? 0 : 1);
+  }
+  int nStatus = -1;
+  ::waitpid(nChild, &nStatus, 0);
+  return WIFEXITED(nStatus) && WEXITSTATUS(nStatus) == 0;
+}
+
+/// Lets no file of this process grow beyond `nBytes`, as on a full disk.
+class FullDisk {
+ public:
+  explicit FullDisk(rlim_t nBytes) : m_pBefore(std::signal(SIGXFSZ, SIG_IGN)) {
+    ::getrlimit(RLIMIT_FSIZE, &m_oBefore);
+    const rlimit oSmall{nBytes, m_oBefore.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &oSmall);
+  }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+  ~FullDisk() {
+    ::setrlimit(RLIMIT_FSIZE, &m_oBefore);
+    std::signal(SIGXFSZ, m_pBefore);
+  }
+
+ private:
+  rlimit m_oBefore{};
+  void (*m_pBefore)(int);
+};
+
+/// Runs the event loop until something has come true; false if it takes far too long.
+bool WaitUntil(const std::function<bool()>& oCondition) {
+  const QDeadlineTimer oLimit(20 * QtSettingsHive::kGatherMilliseconds);
+  while (!oCondition() && !oLimit.hasExpired()) {
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  }
+  return oCondition();
+}
+
+TEST_F(QtSettingsHiveTest, EveryTextComesBackExactlyInTheNextProgram) {
+  const std::string asTexts[] = {"",
+                                 " ",
+                                 "  both ends  ",
+                                 "\ttab\t",
+                                 "a,b",
+                                 ",",
+                                 "a, b",
+                                 "@Invalid()",
+                                 "@",
+                                 "@@",
+                                 "@ByteArray()",
+                                 "%20 100%",
+                                 "two\nlines\r\n",
+                                 "\"quoted\"",
+                                 "back\\slash\\",
+                                 "a;b#c=d",
+                                 "[OUTLAY]",
+                                 "£ € 価格",
+                                 "\xF0\x9F\x98\x80 face",
+                                 "\x01\x7F",
+                                 std::string("nul\0nul", 7),
+                                 "\xC2\x9F"
+                                 "9",
+                                 "true",
+                                 "007",
+                                 "1e3",
+                                 std::string(20000, 'x')};
+  {
+    const auto oHive = Open();
+    for (std::size_t n = 0; n < std::size(asTexts); ++n) {
+      EXPECT_TRUE(oHive->Write(kUser, kPath, "Value" + std::to_string(n), asTexts[n]));
+    }
+  }
+  const bool bSame = InAnotherProcess([&] {
+    const auto oHive = Open();
+    for (std::size_t n = 0; n < std::size(asTexts); ++n) {
+      const auto sRead = oHive->Read(kUser, kPath, "Value" + std::to_string(n));
+      EXPECT_EQ(sRead, asTexts[n]);
+    }
+    return !::testing::Test::HasFailure();
+  });
+  EXPECT_TRUE(bSame);
+}
+
+TEST_F(QtSettingsHiveTest, RootsPathsAndNamesAreKeptApart) {
+  const auto oHive = Open();
+  EXPECT_TRUE(oHive->Write(kUser, kPath, "Top", "1"));
+  EXPECT_TRUE(oHive->Write(kMachine, kPath, "Top", "2"));
+  EXPECT_TRUE(oHive->Write(kUser, kPath + "\\Deeper", "Top", "3"));
+  EXPECT_TRUE(oHive->Write(kUser, kPath, "Left", "4"));
+  EXPECT_EQ(oHive->Read(kUser, kPath, "Top"), "1");
+  EXPECT_EQ(oHive->Read(kMachine, kPath, "Top"), "2");
+  EXPECT_EQ(oHive->Read(kUser, kPath + "\\Deeper", "Top"), "3");
+  oHive->Delete(kUser, kPath, "Top");
+  oHive->Delete(kUser, kPath, "Never there");
+  EXPECT_EQ(oHive->Read(kUser, kPath, "Top"), std::nullopt);
+  EXPECT_EQ(oHive->Read(kUser, kPath, "Left"), "4");
+  EXPECT_EQ(oHive->Read(kUser, kPath, "Deeper"), std::nullopt);
+}
+
+TEST_F(QtSettingsHiveTest, AListTypedIntoTheFileWithoutQuotesIsOneText) {
+  std::filesystem::create_directories(m_oFolder / "user/velmor");
+  std::ofstream(UserFile()) << "[Software]\nVelmor\\Visible=optA,optB\n";
+  EXPECT_EQ(Open()->Read(kUser, "Software\\Velmor", "Visible"), "optA,optB");
+}
+
+TEST_F(QtSettingsHiveTest, TwoRunningProgramsSeeAndKeepEachOthersValues) {
+  const auto oHive = Open();
+  ASSERT_TRUE(oHive->Write(kUser, kPath, "Mine", "1"));
+  EXPECT_TRUE(InAnotherProcess([&] { return Open()->Write(kUser, kPath, "Theirs", "2"); }));
+  EXPECT_EQ(oHive->Read(kUser, kPath, "Theirs"), "2") << "although a change is being gathered";
+  ASSERT_TRUE(WaitUntil([&] { return Content().find("Mine") != std::string::npos; }));
+  EXPECT_TRUE(InAnotherProcess([&] {
+    const auto oOther = Open();
+    return oOther->Read(kUser, kPath, "Theirs") == "2" && oOther->Write(kUser, kPath, "Mine", "3");
+  }));
+  EXPECT_EQ(oHive->Read(kUser, kPath, "Mine"), "3");
+  EXPECT_EQ(oHive->Read(kUser, kPath, "Theirs"), "2");
+}
+
+TEST_F(QtSettingsHiveTest, ChangesOfADragAreReadAtOnceAndStoredTogether) {
+  const auto oHive = Open();
+  for (int n = 1; n <= 100; ++n) {
+    EXPECT_TRUE(oHive->Write(kUser, kPath, "Top", std::to_string(n)));
+    EXPECT_EQ(oHive->Read(kUser, kPath, "Top"), std::to_string(n));
+  }
+  EXPECT_EQ(Content(), "") << "while nothing else can happen";
+  EXPECT_TRUE(WaitUntil([&] { return Content() != ""; }));
+  EXPECT_TRUE(InAnotherProcess([&] { return Open()->Read(kUser, kPath, "Top") == "100"; }));
+}
+
+TEST_F(QtSettingsHiveTest, AFullDiskCostsTheChangeAndNothingElse) {
+  ASSERT_TRUE(Open()->Write(kUser, kPath, "Kept", "old"));
+  const std::string sBefore = Content();
+  for (const std::size_t nRoom : {std::size_t{0}, sBefore.size() + 1}) {
+    const auto oHive = Open();
+    {
+      const FullDisk oFull(nRoom);
+      EXPECT_FALSE(oHive->Write(kUser, kPath, "Kept", "new")) << nRoom;
+      EXPECT_FALSE(oHive->Write(kUser, kPath, "Other", "new")) << nRoom;
+    }
+    EXPECT_EQ(Content(), sBefore) << nRoom;
+    EXPECT_EQ(FilesInUserFolder(), 1) << "nothing but the settings, " << nRoom;
+    EXPECT_EQ(oHive->Read(kUser, kPath, "Kept"), "old") << nRoom;
+    EXPECT_EQ(oHive->Read(kUser, kPath, "Other"), std::nullopt) << nRoom;
+  }
+  EXPECT_TRUE(Open()->Write(kUser, kPath, "Second", "new"));
+  EXPECT_EQ(Open()->Read(kUser, kPath, "Other"), std::nullopt) << "a lost change stays lost";
+}
+
+TEST_F(QtSettingsHiveTest, GatheredChangesThatCantBeStoredAnyMoreAreForgotten) {
+  ASSERT_TRUE(Open()->Write(kUser, kPath, "Kept", "old"));
+  const std::string sBefore = Content();
+  const auto oHive = Open();
+  EXPECT_TRUE(oHive->Write(kUser, kPath, "Kept", "new"));
+  {
+    const FullDisk oFull(0);
+    EXPECT_TRUE(WaitUntil([&] { return oHive->Read(kUser, kPath, "Kept") == "old"; }));
+  }
+  EXPECT_EQ(Content(), sBefore);
+  EXPECT_TRUE(oHive->Write(kUser, kPath, "Kept", "newer"));
+}
+
+TEST_F(QtSettingsHiveTest, AFolderThatCantBeMadeIsTriedAgainAtEachWrite) {
+  const auto oHive = Open();
+  std::ofstream(m_oFolder / "user") << "a file in the folder's place";
+  EXPECT_FALSE(oHive->Write(kUser, kPath, "Top", "1"));
+  EXPECT_FALSE(oHive->Write(kUser, kPath, "Top", "1"));
+  EXPECT_EQ(oHive->Read(kUser, kPath, "Top"), std::nullopt);
+  EXPECT_TRUE(oHive->Write(kMachine, kPath, "Top", "1")) << "the other root isn't concerned";
+  std::filesystem::remove(m_oFolder / "user");
+  EXPECT_TRUE(oHive->Write(kUser, kPath, "Top", "2"));
+  EXPECT_EQ(oHive->Read(kUser, kPath, "Top"), "2");
+}
+
+}  // namespace
+}  // namespace quillet
