@@ -9,6 +9,8 @@ add_library(quillet_desktop STATIC
   sections/Control.cpp
   sections/Controls.cpp
   sections/GrandTotal.cpp
+  sections/ImageButton.cpp
+  sections/ScrollBar.cpp
   sections/SectionPanel.cpp
   sections/SpinButton.cpp
   sections/controlHelpers.cpp
@@ -28,7 +30,10 @@ add_library(quillet_desktop STATIC
   sections/ctlShopDurations.cpp
   sections/ctlSubControlExample.cpp
   shell/SectionSet.cpp
+  shell/WizardSteps.cpp
+  shell/card.cpp
   shell/ctlCalculator.cpp
+  shell/ctlWizard.cpp
   shell/formPosition.cpp
   shell/zoomSteps.cpp
   )

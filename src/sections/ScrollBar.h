@@ -1,0 +1,20 @@
+// A vertical scroll bar, drawn in the theme.
+#pragma once
+
+#include <QScrollBar>
+
+#include "sections/Control.h"
+
+namespace quillet {
+
+/// Raises valueChanged() once a drag of its thumb has ended, and else at each step.
+class ScrollBar : public QScrollBar, public Control {
+ public:
+  explicit ScrollBar(QWidget* pParent);
+  [[nodiscard]] const char* TypeName() const override { return "VScrollBar"; }
+
+ protected:
+  void paintEvent(QPaintEvent* pEvent) override;
+};
+
+}  // namespace quillet

@@ -1,0 +1,14 @@
+#include "shell/card.h"
+
+#include "platform/qt/Theme.h"
+
+namespace quillet {
+
+void DrawCard(QPainter& oPainter, const QRectF& oCard) {
+  constexpr double kRadius = 7.0;
+  oPainter.setPen(QPen(InkColour(Ink::Hairline), 1.0));
+  oPainter.setBrush(InkColour(Ink::Panel));
+  oPainter.drawRoundedRect(oCard.adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+}
+
+}  // namespace quillet

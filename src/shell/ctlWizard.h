@@ -1,0 +1,98 @@
+// The guided view: one section of the working auction at a time, with the summary below it. It has
+// sections of its own, which edit the same models as the calculator's.
+#pragma once
+
+#include <QWidget>
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "sections/Control.h"
+#include "shell/SectionSet.h"
+
+namespace quillet {
+
+class ImageButton;
+class PageFrame;
+class ScrollBar;
+class WizardSteps;
+
+/// One page of the wizard.
+struct WizardPage {
+  const char* sName;
+  std::int32_t lIndex;  ///< its place in the order of pages
+  std::int16_t nFrame;  ///< its frame, which is also the number of its text in the settings
+  SectionPanel* oSection;
+  std::string sInfo;  ///< the instruction above it
+  bool bFirst;        ///< nothing to go back to
+  bool bLast;         ///< going on finishes
+};
+
+class ctlWizard : public QWidget, public Control {
+  Q_OBJECT
+
+ public:
+  explicit ctlWizard(QWidget* pParent);
+  [[nodiscard]] const char* TypeName() const override { return "ctlWizard"; }
+
+  /// Calculates the working auction and shows it.
+  void RefreshSums(bool bUpdateControlDisplays);
+
+  /// The page on view; none before the view was first shown, when it starts at the first one, as it
+  /// does each time.
+  [[nodiscard]] const std::optional<WizardPage>& Current() const { return m_tCurrent; }
+
+  [[nodiscard]] SectionSet& Set() { return m_oSet; }
+
+ signals:
+  void Changed(bool bDocDirty);
+  /// Finished or cancelled, which is the same: what was entered stays.
+  void WizardComplete();
+
+ protected:
+  void showEvent(QShowEvent* pEvent) override;
+  void paintEvent(QPaintEvent* pEvent) override;
+  void keyPressEvent(QKeyEvent* pEvent) override;
+  void wheelEvent(QWheelEvent* pEvent) override;
+  void Placed() override;
+
+ private:
+  [[nodiscard]] std::array<WizardPage, 5> MakePages() const;
+  void MakeFrames();
+  void MakeButtons();
+  void MakeKeys();
+
+  void UserControl_Show();
+  void UserControl_Resize();
+  void ShowPage(std::int16_t nPage);
+  void TurnTo(const WizardPage& tPage);
+  void CentreFrame();
+  void UpdateScrollBar();
+  void vsbVert_Change();
+  void imgBack_Click();
+  void imgNext_Click();
+  void FinishWizard();
+
+  void LeaveInput();
+  void FocusFirstInput();
+  void ScrollTo(const QWidget* pInput);
+
+  SectionSet m_oSet;
+  std::array<WizardPage, 5> m_aPages;
+  std::optional<WizardPage> m_tCurrent;
+  Label* m_pInfo;
+  WizardSteps* m_pSteps;
+  Frame* m_pViewPort;
+  ScrollBar* m_pVert;
+  Frame* m_pButtons;
+  ImageButton* m_pBack;
+  ImageButton* m_pNext;
+  ImageButton* m_pCancel;
+  std::array<PageFrame*, 5> m_apPages{};
+  int m_lLineTop = 0;  ///< of the rule above the summary, twips
+  int m_lLaidWidth = -1;
+  int m_lLaidHeight = -1;
+};
+
+}  // namespace quillet
