@@ -19,6 +19,13 @@ class Single {
     return static_cast<double>(m_fValue);
   }
 
+  /// `fValue` itself, which is neither an infinity nor a NaN.
+  [[nodiscard]] static constexpr Single OfFinite(float fValue) {
+    Single fResult;
+    fResult.m_fValue = fValue;
+    return fResult;
+  }
+
   [[nodiscard]] constexpr float Float() const { return m_fValue; }
 
  private:

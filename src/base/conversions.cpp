@@ -13,7 +13,7 @@ namespace quillet {
 namespace {
 
 bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
+  return static_cast<unsigned char>(c - '0') <= 9;
 }
 
 bool TakeSign(std::string_view& sText) {
@@ -120,33 +120,42 @@ struct Exact {
   }();
 };
 
-/// The way of nearly every price: a few digits with a separator among them, and nothing else. False
-/// for any other text, be it a number or not.
+/// Takes the digits at the front of the text onto the number.
+inline std::size_t TakePlainDigits(std::string_view& sText, std::uint32_t& uDigits) {
+  const char* pAt = sText.data();
+  const char* const pEnd = pAt + sText.size();
+  for (; pAt != pEnd && IsDigit(*pAt); ++pAt) {
+    uDigits = uDigits * 10 + static_cast<std::uint32_t>(*pAt - '0');
+  }
+  const auto nTaken = static_cast<std::size_t>(pAt - sText.data());
+  sText.remove_prefix(nTaken);
+  return nTaken;
+}
+
+/// The way of nearly every price: a few digits, with a sign and a separator at most, and nothing
+/// else. False for any other text, be it a number or not.
 template <typename Float>
 bool ConvertPlain(std::string_view sText, const std::string& sSeparator, Float& fValue) {
-  constexpr std::size_t kLongest = 8;  // of that many digits none can get lost
-  if (sText.empty() || sText.size() > kLongest || sSeparator.size() != 1) {
-    return false;
-  }
+  constexpr std::size_t kMostDigits = 9;  // so many fit without a look at each
+  const bool bNegative = sText.starts_with('-');
+  sText.remove_prefix(bNegative ? 1 : 0);
   std::uint32_t uDigits = 0;
-  std::size_t nBehind = 0;  // 0 before the separator, then one more than the digits behind it
-  for (const char c : sText) {
-    if (IsDigit(c)) {
-      uDigits = uDigits * 10 + static_cast<std::uint32_t>(c - '0');
-      nBehind += nBehind != 0 ? 1U : 0U;
-    } else if (c == sSeparator.front() && nBehind == 0) {
-      nBehind = 1;
-    } else {
+  std::size_t nDigits = TakePlainDigits(sText, uDigits);
+  std::size_t nDecimals = 0;
+  if (!sText.empty()) {
+    if (sSeparator.size() != 1 || sText.front() != sSeparator.front()) {
       return false;
     }
+    sText.remove_prefix(1);
+    nDecimals = TakePlainDigits(sText, uDigits);
+    nDigits += nDecimals;
   }
-  if ((nBehind != 0 && sText.size() == 1) || uDigits > Exact<Float>::kInteger) {
+  if (!sText.empty() || nDigits == 0 || nDigits > kMostDigits || uDigits > Exact<Float>::kInteger) {
     return false;
   }
-  fValue = static_cast<Float>(uDigits);
-  if (nBehind > 1) {
-    fValue /= Exact<Float>::kPowers[nBehind - 1];
-  }
+  const auto fWhole = static_cast<Float>(static_cast<std::int32_t>(uDigits));
+  const Float fResult = nDecimals == 0 ? fWhole : fWhole / Exact<Float>::kPowers[nDecimals];
+  fValue = bNegative ? -fResult : fResult;
   return true;
 }
 
@@ -173,20 +182,11 @@ std::optional<Float> ConvertAny(std::string_view sText, const std::string& sSepa
   return fValue;
 }
 
-/// False, and `fValue` left alone, if the text is no number.
-template <typename Float>
-bool Convert(std::string_view sText, Float& fValue) {
-  const std::string& sSeparator = TheHost().DecimalSeparator();
-  if (ConvertPlain(sText, sSeparator, fValue)) {
-    return true;
-  }
-  const std::optional<Float> fFound = ConvertAny<Float>(sText, sSeparator);
-  fValue = fFound.value_or(fValue);
-  return fFound.has_value();
-}
-
 template <typename Integer>
 std::optional<Integer> ConvertInteger(std::string_view sText) {
+  if (sText.size() == 1 && IsDigit(sText.front())) {
+    return static_cast<Integer>(sText.front() - '0');  // nearly every one of them
+  }
   sText = Trim(sText);
   if (sText.starts_with('+')) {
     sText.remove_prefix(1);
@@ -202,6 +202,49 @@ std::optional<Integer> ConvertInteger(std::string_view sText) {
     return std::nullopt;
   }
   return static_cast<Integer>(nValue);
+}
+
+/// SingleText of a number from a ten-thousandth to below ten millions, where seven digits scale
+/// exactly in a double. False for any other.
+bool WritePlain(Single fValue, std::string& sText) {
+  constexpr double kLeast = 1e-4;
+  constexpr double kEightDigits = 9'999'999.5;  // what rounds to them
+  double fScaled = std::abs(double{fValue});
+  if (!(fScaled >= kLeast && fScaled < kEightDigits)) {
+    return false;
+  }
+  std::size_t nDecimals = 0;
+  if (fScaled != std::trunc(fScaled)) {
+    for (; fScaled * 10 < kEightDigits; fScaled *= 10) {
+      ++nDecimals;
+    }
+  }
+  auto uDigits = static_cast<std::uint32_t>(std::nearbyint(fScaled));
+  for (; nDecimals > 0 && uDigits % 10 == 0; uDigits /= 10) {
+    --nDecimals;
+  }
+  std::array<char, 16> acDigits{};
+  const auto oEnd = std::to_chars(acDigits.data(), acDigits.data() + acDigits.size(), uDigits);
+  const std::string_view sDigits(acDigits.data(), oEnd.ptr);
+  sText = fValue < 0 ? "-" : "";
+  if (nDecimals == 0) {
+    sText += sDigits;
+    return true;
+  }
+  const std::size_t nWhole = sDigits.size() > nDecimals ? sDigits.size() - nDecimals : 0;
+  sText.append(nWhole == 0 ? "0" : sDigits.substr(0, nWhole)).append(TheHost().DecimalSeparator());
+  sText.append(nDecimals - (sDigits.size() - nWhole), '0').append(sDigits.substr(nWhole));
+  return true;
+}
+
+/// Kept out of line, so that plain prices pay nothing for it.
+[[gnu::noinline]] bool ReadAnySingle(std::string_view sText, const std::string& sSeparator,
+                                     Single& fValue) {
+  const std::optional<float> fFound = ConvertAny<float>(sText, sSeparator);
+  if (fFound) {
+    fValue = Single::OfFinite(*fFound);
+  }
+  return fFound.has_value();
 }
 
 /// What a pattern of FormatNumber asks for.
@@ -260,8 +303,9 @@ void InsertGroups(std::string& sWhole, std::string_view sGroup) {
 }  // namespace
 
 std::optional<double> ToDouble(std::string_view sText) {
+  const std::string& sSeparator = TheHost().DecimalSeparator();
   double fValue = 0;
-  return Convert(sText, fValue) ? std::optional<double>(fValue) : std::nullopt;
+  return ConvertPlain(sText, sSeparator, fValue) ? fValue : ConvertAny<double>(sText, sSeparator);
 }
 
 bool IsNumeric(std::string_view sText) {
@@ -269,12 +313,13 @@ bool IsNumeric(std::string_view sText) {
 }
 
 bool ReadSingle(std::string_view sText, Single& fValue) {
-  float fRead = 0;
-  if (!Convert(sText, fRead)) {
-    return false;
+  const std::string& sSeparator = TheHost().DecimalSeparator();
+  float fPlain = 0;
+  if (ConvertPlain(sText, sSeparator, fPlain)) {
+    fValue = Single::OfFinite(fPlain);
+    return true;
   }
-  fValue = static_cast<double>(fRead);
-  return true;
+  return ReadAnySingle(sText, sSeparator, fValue);
 }
 
 std::optional<Single> ToSingle(std::string_view sText) {
@@ -318,10 +363,14 @@ std::string SingleText(Single fValue) {
   if (fValue == 0) {
     return "0";
   }
+  std::string sText;
+  if (WritePlain(fValue, sText)) {
+    return sText;
+  }
   std::array<char, 32> acText{};
   const auto oResult = std::to_chars(acText.data(), acText.data() + acText.size(), double{fValue},
                                      std::chars_format::general, 7);
-  std::string sText = UpperCase({acText.data(), oResult.ptr});
+  sText = UpperCase({acText.data(), oResult.ptr});
   if (const std::size_t nPoint = sText.find('.'); nPoint != std::string::npos) {
     sText.replace(nPoint, 1, TheHost().DecimalSeparator());
   }

@@ -7,9 +7,9 @@
 
 namespace quillet {
 
-Single PriceOrZero(std::string_view sKey) {
+Single PriceOrZero(const KeyText& oKey) {
   Single fPrice;
-  Prices().GetPrice(sKey, fPrice, kShopNone);
+  Prices().GetPrice(oKey, fPrice, kShopNone);
   return fPrice;
 }
 
@@ -137,14 +137,16 @@ Single clsAuctionType::OpeningFee(const clsOutlay& oOutlay) const {
 
 /// Each tier's percentage of the slice of the price that lies in the tier, times the quantity.
 Single clsAuctionType::ProgressiveFinalValueFee(const clsOutlay& oOutlay) const {
-  const PriceKey oKey = m_bShopInventory ? "ShopFinal" : "Final";
+  const KeyText oKey = m_bShopInventory ? KeyText("ShopFinal") : KeyText("Final");
   const Single fPrice = oOutlay.m_fEstimatedEndPrice;
   Single fFee;
   clsPriceRange oTier;
   Prices().GetRange(oKey, 1, oTier, kShopNone);
   const std::int32_t nCount = oTier.m_nCount;
   for (std::int32_t i = 1; i <= nCount; ++i) {
-    Prices().GetRange(oKey, static_cast<std::int16_t>(i), oTier, kShopNone);
+    if (i > 1) {
+      Prices().GetRange(oKey, static_cast<std::int16_t>(i), oTier, kShopNone);
+    }
     Single fWidth = oTier.m_fEnd - oTier.m_fStart;
     if (oTier.m_fEnd == clsPriceRange::kNoUpperLimit) {
       fWidth = fPrice - oTier.m_fStart;

@@ -3,10 +3,10 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 
 #include "base/Single.h"
 #include "engine/clsOutlay.h"
+#include "prices/PriceKey.h"
 #include "prices/shopDuration.h"
 
 namespace quillet {
@@ -96,6 +96,6 @@ class clsAuctionType {
 };
 
 /// The amount under a key without a suffix; 0 if the schedule lacks it.
-[[nodiscard]] Single PriceOrZero(std::string_view sKey);
+[[nodiscard]] Single PriceOrZero(const KeyText& oKey);
 
 }  // namespace quillet

@@ -10,9 +10,9 @@ namespace quillet {
 namespace {
 
 struct VehicleKeys {
-  const char* sListing;
-  const char* sTransaction;
-  const char* sReserve;
+  KeyText oListing;
+  KeyText oTransaction;
+  KeyText oReserve;
 };
 
 /// By eMotorType, parts excepted.
@@ -32,12 +32,12 @@ const VehicleKeys* KeysOfVehicle(const clsAuctionType& oType) {
 
 /// A code outside the lists adds nothing to the key.
 PriceKey RealEstateFeeKey(std::int32_t eRealEstateType, std::int32_t eSaleFormat) {
-  constexpr std::array<const char*, 2> kTypes = {"Timeshare", "Other"};
-  constexpr std::array<const char*, 4> kFormats = {"Auction10", "Auction30", "Ad30", "Ad90"};
-  PriceKey oKey = "AuctionTypeRealEstate";
-  const auto fnAppend = [&oKey](const auto& asNames, std::int32_t nCode) {
-    if (nCode >= 0 && static_cast<std::size_t>(nCode) < asNames.size()) {
-      oKey.Append(asNames.at(static_cast<std::size_t>(nCode)));
+  constexpr std::array<KeyText, 2> kTypes = {"Timeshare", "Other"};
+  constexpr std::array<KeyText, 4> kFormats = {"Auction10", "Auction30", "Ad30", "Ad90"};
+  PriceKey oKey = KeyText("AuctionTypeRealEstate");
+  const auto fnAppend = [&oKey](const auto& aoNames, std::int32_t nCode) {
+    if (nCode >= 0 && static_cast<std::size_t>(nCode) < aoNames.size()) {
+      oKey.Append(aoNames.at(static_cast<std::size_t>(nCode)));
     }
   };
   fnAppend(kTypes, eRealEstateType);
@@ -46,16 +46,16 @@ PriceKey RealEstateFeeKey(std::int32_t eRealEstateType, std::int32_t eSaleFormat
 }
 
 /// Tiers 1 and 2 are flat, tier 3 is a percentage up to a cap, which is 0 when it is missing.
-Single CappedTierFee(const char* sTierKey, const char* sCapKey, Single fReservePrice) {
+Single CappedTierFee(const KeyText& oTierKey, const KeyText& oCapKey, Single fReservePrice) {
   clsPriceRange oTier;
-  Prices().HitTestRanges(sTierKey, fReservePrice, oTier, kShopNone);
+  Prices().HitTestRanges(oTierKey, fReservePrice, oTier, kShopNone);
   switch (oTier.m_nIndex) {
     case 1:
     case 2:
       return oTier.m_fValue;
     case 3: {
       const Single fFee = (oTier.m_fValue / 100) * fReservePrice;
-      return MinSingle(fFee, PriceOrZero(sCapKey));
+      return MinSingle(fFee, PriceOrZero(oCapKey));
     }
     default:
       return 0;
@@ -72,14 +72,14 @@ Single clsAuctionType::DoCalcListingFee_US(const clsOutlay& oOutlay) const {
       break;
     case kAuctionMotor:
       if (const VehicleKeys* const pKeys = KeysOfVehicle(*this)) {
-        fFee = PriceOrZero(pKeys->sListing) + PriceOrZero(pKeys->sTransaction);
+        fFee = PriceOrZero(pKeys->oListing) + PriceOrZero(pKeys->oTransaction);
       } else if (m_eMotorType == kMotorParts) {
         fFee = OpeningFee(oOutlay);
       }
       break;
     case kAuctionRealEstate: {
       const PriceKey oKey = RealEstateFeeKey(m_eRealEstateType, m_eRealEstateSaleFormat);
-      fFee = PerUnitIfFixedPrice(PriceOrZero(oKey.Text()), oOutlay);
+      fFee = PerUnitIfFixedPrice(PriceOrZero(oKey), oOutlay);
       break;
     }
     case kAuctionBusiness:
@@ -101,7 +101,7 @@ Single clsAuctionType::DoCalcReserveFee_US(const clsOutlay& oOutlay) const {
       return CappedTierFee("Reserve", "ReserveMax", oOutlay.m_fReservePrice);
     case kAuctionMotor:
       if (const VehicleKeys* const pKeys = KeysOfVehicle(*this)) {
-        return PriceOrZero(pKeys->sReserve);  // due for any reserve price, 0 included
+        return PriceOrZero(pKeys->oReserve);  // due for any reserve price, 0 included
       }
       return m_eMotorType == kMotorParts
                  ? CappedTierFee("Reserve", "ReserveMax", oOutlay.m_fReservePrice)

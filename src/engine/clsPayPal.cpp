@@ -11,7 +11,7 @@
 namespace quillet {
 namespace {
 
-const char* RateName(std::int32_t eAccountType) {
+KeyText RateName(std::int32_t eAccountType) {
   switch (eAccountType) {
     case kAccountPersonal:
       return "PersonalRate";
@@ -31,7 +31,7 @@ enum eCurrency : std::int32_t {
   kYen = 4,
 };
 
-const char* CurrencyName(std::int32_t eCurrency) {
+KeyText CurrencyName(std::int32_t eCurrency) {
   switch (eCurrency) {
     case kUSDollars:
       return "USDollars";
@@ -50,12 +50,12 @@ const char* CurrencyName(std::int32_t eCurrency) {
 
 /// The text's amount in whole smallest units; an exact half goes down.
 Single RoundFee(const std::string& sFee) {
-  const double fFee = ToDouble(sFee).value_or(0);
-  Single fUnits = fFee * CurrencyUnitsPerMajor();
+  const std::int32_t nUnitsPerMajor = CurrencyUnitsPerMajor();
+  Single fUnits = ToDouble(sFee).value_or(0) * nUnitsPerMajor;
   const Single fWhole = std::trunc(fUnits);
   const Single fFraction = fUnits - fWhole;
   fUnits = fFraction > 0.5 ? Single(fWhole + 1) : fWhole;
-  return fUnits / CurrencyUnitsPerMajor();
+  return fUnits / nUnitsPerMajor;
 }
 
 }  // namespace
@@ -100,15 +100,15 @@ std::string clsPayPal::GetBusinessRateBandAttribute(std::int32_t nAttribute,
       nBand > std::numeric_limits<std::int16_t>::max()) {
     throw Failure(FailureNumber::Overflow, "There is no such merchant rate band.");
   }
-  PriceKey oKey = "BusinessRateBand";
-  oKey.Append(nBand).Append(nAttribute == 0 ? "Name" : "Value");
+  PriceKey oKey = KeyText("BusinessRateBand");
+  oKey.Append(nBand).Append(nAttribute == 0 ? KeyText("Name") : KeyText("Value"));
   std::string_view sData;
   Prices().GetData(oKey, sData);
   return std::string(sData);
 }
 
 /// The rate of the chosen band. It is the band's own value that selects the tier, not the amount.
-Single clsPayPal::BandRate(const PriceKey& oKey) const {
+Single clsPayPal::BandRate(const KeyText& oKey) const {
   std::int32_t nBand = 0;
   const std::string sValue = GetBusinessRateBandAttribute(1, nBand);
   const auto fValue = ToSingle(sValue);

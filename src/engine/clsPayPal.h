@@ -50,7 +50,7 @@ class clsPayPal {
   const clsOutlay* m_oLastOutlay = nullptr;  ///< of the latest DoCalc; not owned
 
  private:
-  [[nodiscard]] Single BandRate(const PriceKey& oKey) const;
+  [[nodiscard]] Single BandRate(const KeyText& oKey) const;
   [[nodiscard]] Single ApplyIndividually(Single fAmount) const;
 
   Single m_fLastPrice;

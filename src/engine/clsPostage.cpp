@@ -9,9 +9,9 @@
 namespace quillet {
 namespace {
 
-std::optional<Single> TierValue(const char* sKey, Single fWeight) {
+std::optional<Single> TierValue(const KeyText& oKey, Single fWeight) {
   clsPriceRange oTier;
-  if (!Prices().HitTestRanges(sKey, fWeight, oTier, kShopNone)) {
+  if (!Prices().HitTestRanges(oKey, fWeight, oTier, kShopNone)) {
     return std::nullopt;
   }
   return oTier.m_fValue;
@@ -63,7 +63,7 @@ Single clsPostage::DoCalcOnWeight(std::int32_t ePostageClass) const {
 Single clsPostage::DoCalcOnInsurance(std::int32_t eBand) const {
   Single fPremium;
   if (CanHaveInsurance(eBand)) {
-    PriceKey oKey = "InsuranceBandValue";
+    PriceKey oKey = KeyText("InsuranceBandValue");
     Prices().GetPrice(oKey.Append(eBand + 1), fPremium, kShopNone);
   }
   return fPremium;

@@ -10,7 +10,7 @@ namespace quillet {
 namespace {
 
 struct FeaturePrice {
-  const char* sName;
+  KeyText oName;
   Single clsSellingFeatures::*fPrice;
 };
 
@@ -127,8 +127,8 @@ const clsAuctionType& clsSellingFeatures::AuctionType() const {
   return *m_oAuctionType;
 }
 
-PriceKey clsSellingFeatures::GetPriceKey(std::string_view sName) const {
-  PriceKey oKey = "Feature";
+PriceKey clsSellingFeatures::GetPriceKey(const KeyText& oName) const {
+  PriceKey oKey = KeyText("Feature");
   if (RegionCode() != 0) {
     if (AuctionType().m_eAuctionType == kAuctionMotor) {
       oKey.Append("Motor");
@@ -146,17 +146,16 @@ PriceKey clsSellingFeatures::GetPriceKey(std::string_view sName) const {
       oKey.Append("RealEstate");
     }
   }
-  return oKey.Append(sName);
+  return oKey.Append(oName);
 }
 
 /// A price that the schedule lacks stays what it was, be it that of another kind of listing.
 void clsSellingFeatures::RefreshPrices() {
   const std::int32_t nShop = AuctionType().m_eShopDuration;
   PriceKey oKey = GetPriceKey("");
-  const std::size_t nPrefixLength = oKey.Text().size();
   for (const FeaturePrice& oPrice : kFeaturePrices) {
-    Prices().GetPrice(oKey.Append(oPrice.sName), this->*oPrice.fPrice, nShop);
-    oKey.Truncate(nPrefixLength);
+    const KeyBranch oBranch(oKey);
+    Prices().GetPrice(oKey.Append(oPrice.oName), this->*oPrice.fPrice, nShop);
   }
 }
 

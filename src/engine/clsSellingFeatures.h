@@ -87,7 +87,7 @@ class clsSellingFeatures {
 
  private:
   [[nodiscard]] const clsAuctionType& AuctionType() const;
-  [[nodiscard]] PriceKey GetPriceKey(std::string_view sName) const;
+  [[nodiscard]] PriceKey GetPriceKey(const KeyText& oName) const;
   void RefreshPrices();
   [[nodiscard]] Single GetBuyItNowFee() const;
   [[nodiscard]] Single GetHomePageFee() const;

@@ -1,4 +1,4 @@
-// The key of a price, put together without touching the heap.
+// Keys of prices, put together and hashed without touching the heap.
 #pragma once
 
 #include <algorithm>
@@ -6,24 +6,69 @@
 #include <charconv>
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
+
+#include "base/text.h"
 
 namespace quillet {
 
-/// Text of at most 128 bytes. A key that grows beyond that is no key of any table: it reads as
-/// empty from then on.
+/// A key or a part of one, with its hash, which is the same for every case of A to Z. The hash of
+/// two parts joined follows from those of the parts; that of a literal is known to the compiler.
+class KeyText {
+ public:
+  template <std::size_t nSize>
+  consteval KeyText(const char (&acLiteral)[nSize])  // NOLINT: a text is a key
+      : KeyText(std::string_view(acLiteral, nSize - 1)) {}
+
+  constexpr KeyText(std::string_view sText) : m_sText(sText) {  // NOLINT: likewise
+    for (const char c : sText) {
+      m_nHash = m_nHash * kBase + static_cast<unsigned char>(LowerCase(c));
+      m_nPower *= kBase;
+    }
+  }
+
+  KeyText(const std::string& sText) : KeyText(std::string_view(sText)) {}  // NOLINT: likewise
+
+  [[nodiscard]] constexpr std::string_view Text() const { return m_sText; }
+  [[nodiscard]] constexpr std::uint64_t Hash() const { return m_nHash; }
+
+ private:
+  friend class PriceKey;
+  static constexpr std::uint64_t kBase = 0x9E3779B97F4A7C15;
+
+  KeyText(std::string_view sText, std::uint64_t nHash, std::uint64_t nPower)
+      : m_sText(sText), m_nHash(nHash), m_nPower(nPower) {}
+
+  std::string_view m_sText;
+  std::uint64_t m_nHash = 0;   ///< the characters as digits to kBase
+  std::uint64_t m_nPower = 1;  ///< kBase to the number of characters
+};
+
+/// A key of at most 128 bytes that is put together from parts. One that grows beyond that is no key
+/// of any table: it reads as empty from then on.
 class PriceKey {
  public:
-  PriceKey() = default;
-  PriceKey(std::string_view sText) { Append(sText); }                 // NOLINT: a text is a key
-  PriceKey(const char* sText) : PriceKey(std::string_view(sText)) {}  // NOLINT: likewise
+  PriceKey(const KeyText& oText) { Append(oText); }  // NOLINT: a text is a key
 
-  PriceKey& Append(std::string_view sText) {
-    m_bOverlong = m_bOverlong || sText.size() > m_acText.size() - m_nLength;
-    if (!m_bOverlong) {
-      std::copy(sText.begin(), sText.end(), m_acText.begin() + m_nLength);
-      m_nLength += sText.size();
+  template <std::size_t nSize>
+  PriceKey(const char (&acLiteral)[nSize])  // NOLINT: likewise
+      : PriceKey(KeyText(std::string_view(acLiteral, nSize - 1))) {}
+
+  operator KeyText() const {  // NOLINT: a key is a text
+    return {Text(), m_oState.nHash, m_oState.nPower};
+  }
+
+  PriceKey& Append(const KeyText& oText) {
+    const std::string_view sText = oText.Text();
+    if (m_oState.nLength + sText.size() > m_acText.size()) {
+      m_oState.nLength = kOverlong;
+      return *this;
     }
+    std::copy(sText.begin(), sText.end(), m_acText.begin() + m_oState.nLength);
+    m_oState.nLength += sText.size();
+    m_oState.nHash = m_oState.nHash * oText.m_nPower + oText.m_nHash;
+    m_oState.nPower *= oText.m_nPower;
     return *this;
   }
 
@@ -31,20 +76,39 @@ class PriceKey {
   PriceKey& Append(std::int32_t nNumber) {
     std::array<char, 12> acDigits{};
     const auto oEnd = std::to_chars(acDigits.data(), acDigits.data() + acDigits.size(), nNumber);
-    return Append({acDigits.data(), static_cast<std::size_t>(oEnd.ptr - acDigits.data())});
+    return Append(
+        std::string_view(acDigits.data(), static_cast<std::size_t>(oEnd.ptr - acDigits.data())));
   }
 
-  /// Goes back to the first `nLength` bytes.
-  void Truncate(std::size_t nLength) { m_nLength = std::min(m_nLength, nLength); }
-
   [[nodiscard]] std::string_view Text() const {
-    return m_bOverlong ? std::string_view{} : std::string_view(m_acText.data(), m_nLength);
+    return {m_acText.data(), m_oState.nLength == kOverlong ? 0 : m_oState.nLength};
   }
 
  private:
+  friend class KeyBranch;
+  static constexpr std::size_t kOverlong = ~std::size_t{0} / 2;
+
+  struct State {
+    std::size_t nLength = 0;
+    std::uint64_t nHash = 0;
+    std::uint64_t nPower = 1;
+  };
+
   std::array<char, 128> m_acText;
-  std::size_t m_nLength = 0;
-  bool m_bOverlong = false;
+  State m_oState;
+};
+
+/// Keeps a key as it is: what is appended meanwhile goes when this goes out of scope.
+class KeyBranch {
+ public:
+  explicit KeyBranch(PriceKey& oKey) : m_oKey(oKey), m_oState(oKey.m_oState) {}
+  KeyBranch(const KeyBranch&) = delete;
+  KeyBranch& operator=(const KeyBranch&) = delete;
+  ~KeyBranch() { m_oKey.m_oState = m_oState; }
+
+ private:
+  PriceKey& m_oKey;
+  PriceKey::State m_oState;
 };
 
 }  // namespace quillet

@@ -1,115 +1,120 @@
 #include "prices/PriceTable.h"
 
-#include <bit>
-#include <cstring>
+#include <algorithm>
+
+#include "base/text.h"
 
 namespace quillet {
 namespace {
 
 constexpr std::size_t kFirstSlots = 1024;
 
-/// Eight characters at once, A to Z in lower case. Adding what is missing to the highest bit marks
-/// the bytes from a limit upward; bytes beyond ASCII stay as they are.
-std::uint64_t LowerCaseOf(std::uint64_t nBytes) {
-  constexpr std::uint64_t kEach = 0x0101010101010101;
-  const std::uint64_t nSevenBits = nBytes & (0x7F * kEach);
-  const std::uint64_t nFromA = nSevenBits + (0x80 - 'A') * kEach;
-  const std::uint64_t nBeyondZ = nSevenBits + (0x7F - 'Z') * kEach;
-  const std::uint64_t nCapital = (nFromA ^ nBeyondZ) & ~nBytes & (0x80 * kEach);
-  return nBytes | (nCapital >> 2U);  // 0x80 becomes the 0x20 that tells "a" from "A"
+std::uint32_t SlotHash(const KeyText& oKey) {
+  constexpr std::uint64_t kMultiplier = 0xD6E8FEB86659FD93;  // spreads the last characters
+  return static_cast<std::uint32_t>((oKey.Hash() * kMultiplier) >> 32U);
 }
 
-std::uint64_t EightFrom(const char* pText) {
-  std::uint64_t nBytes = 0;
-  std::memcpy(&nBytes, pText, sizeof nBytes);
-  return LowerCaseOf(nBytes);
-}
-
-std::uint64_t FewerThanEightFrom(std::string_view sText) {
-  std::uint64_t nBytes = 0;
-  for (const char c : sText) {
-    nBytes = (nBytes << 8U) | static_cast<unsigned char>(c);
-  }
-  return LowerCaseOf(nBytes);
-}
-
-/// Eight characters at a time; the last eight may overlap with those before them.
-std::uint32_t HashOf(std::string_view sKey) {
-  constexpr std::uint64_t kMultiplier = 0x9E3779B97F4A7C15;
-  constexpr std::size_t kStep = sizeof(std::uint64_t);
-  std::uint64_t nHash = sKey.size();
-  if (sKey.size() < kStep) {
-    nHash = (nHash ^ FewerThanEightFrom(sKey)) * kMultiplier;
-  } else {
-    for (std::size_t nAt = 0; nAt + kStep < sKey.size(); nAt += kStep) {
-      nHash = (std::rotl(nHash, 29) ^ EightFrom(sKey.data() + nAt)) * kMultiplier;
-    }
-    nHash = (std::rotl(nHash, 29) ^ EightFrom(sKey.data() + sKey.size() - kStep)) * kMultiplier;
-  }
-  return static_cast<std::uint32_t>(nHash >> 32U);
-}
-
+/// Most callers write a key as the schedule does, and whole keys compare faster than letters do.
 bool SameKey(std::string_view sLeft, std::string_view sRight) {
-  constexpr std::size_t kStep = sizeof(std::uint64_t);
-  if (sLeft.size() != sRight.size()) {
-    return false;
-  }
-  if (sLeft.size() < kStep) {
-    return FewerThanEightFrom(sLeft) == FewerThanEightFrom(sRight);
-  }
-  for (std::size_t nAt = 0; nAt + kStep < sLeft.size(); nAt += kStep) {
-    if (EightFrom(sLeft.data() + nAt) != EightFrom(sRight.data() + nAt)) {
-      return false;
-    }
-  }
-  const std::size_t nLast = sLeft.size() - kStep;
-  return EightFrom(sLeft.data() + nLast) == EightFrom(sRight.data() + nLast);
+  return sLeft == sRight || EqualIgnoringCase(sLeft, sRight);
 }
 
 }  // namespace
 
-bool PriceTable::Add(std::string_view sKey, std::string_view sValue) {
+bool PriceTable::Add(const KeyText& oKey, std::string_view sValue) {
   if (m_anSlots.size() < (m_aoEntries.size() + 1) * 2) {
     Grow();
   }
-  const std::uint32_t nHash = HashOf(sKey);
+  const std::string_view sKey = oKey.Text();
+  const std::uint32_t nHash = SlotHash(oKey);
   std::uint32_t& nSlot = m_anSlots[SlotOf(sKey, nHash)];
   if (nSlot != 0) {
     return false;
   }
   m_aoEntries.push_back({static_cast<std::uint32_t>(m_sTexts.size()),
                          static_cast<std::uint32_t>(sKey.size()),
-                         static_cast<std::uint32_t>(sValue.size()), nHash});
+                         static_cast<std::uint32_t>(sValue.size()), nHash, 0, 0});
+  m_bLinked = false;
   m_sTexts.append(sKey).append(sValue);
   nSlot = static_cast<std::uint32_t>(m_aoEntries.size());
   return true;
 }
 
-std::optional<std::string_view> PriceTable::Find(std::string_view sKey) const {
-  if (m_aoEntries.empty()) {
+std::optional<std::string_view> PriceTable::Find(const KeyText& oKey) const {
+  const Entry* const pEntry = EntryOf(oKey);
+  return pEntry != nullptr ? std::optional(ValueOf(*pEntry)) : std::nullopt;
+}
+
+void PriceTable::LinkTiers() {
+  m_aoLinks.clear();
+  for (Entry& oEntry : m_aoEntries) {
+    const std::string_view sKey(m_sTexts.data() + oEntry.nKeyAt, oEntry.nKeyLength);
+    const std::size_t nTable = sKey.size() - std::min(sKey.size(), kCountWord.Text().size());
+    oEntry.nFirstLink = static_cast<std::uint32_t>(m_aoLinks.size());
+    if (EqualIgnoringCase(sKey.substr(nTable), kCountWord.Text())) {
+      LinkTable(sKey.substr(0, nTable));
+    }
+    oEntry.nLinks = static_cast<std::uint32_t>(m_aoLinks.size()) - oEntry.nFirstLink;
+  }
+  m_bLinked = true;
+}
+
+std::optional<PriceTable::Tiers> PriceTable::FindTiers(const KeyText& oCountKey) const {
+  const Entry* const pEntry = EntryOf(oCountKey);
+  if (pEntry == nullptr) {
     return std::nullopt;
   }
-  const std::uint32_t nSlot = m_anSlots[SlotOf(sKey, HashOf(sKey))];
-  if (nSlot == 0) {
-    return std::nullopt;
-  }
-  const Entry& oEntry = m_aoEntries[nSlot - 1];
-  return std::string_view(m_sTexts).substr(oEntry.nKeyAt + oEntry.nKeyLength, oEntry.nValueLength);
+  return Tiers{ValueOf(*pEntry), pEntry->nFirstLink, m_bLinked ? pEntry->nLinks : 0};
 }
 
 void PriceTable::Clear() {
   m_sTexts.clear();
   m_aoEntries.clear();
   m_anSlots.assign(m_anSlots.size(), 0);
+  m_bLinked = false;
 }
 
 std::string_view PriceTable::KeyAt(std::size_t nEntry) const {
-  const Entry& oEntry = m_aoEntries.at(nEntry);
-  return std::string_view(m_sTexts).substr(oEntry.nKeyAt, oEntry.nKeyLength);
+  const Entry& oEntry = m_aoEntries[nEntry];
+  return {m_sTexts.data() + oEntry.nKeyAt, oEntry.nKeyLength};
+}
+
+const PriceTable::Entry* PriceTable::EntryOf(const KeyText& oKey) const {
+  if (m_aoEntries.empty()) {
+    return nullptr;
+  }
+  const std::uint32_t nSlot = m_anSlots[SlotOf(oKey.Text(), SlotHash(oKey))];
+  return nSlot == 0 ? nullptr : &m_aoEntries[nSlot - 1];
+}
+
+std::string_view PriceTable::ValueOf(const Entry& oEntry) const {
+  return {m_sTexts.data() + oEntry.nKeyAt + oEntry.nKeyLength, oEntry.nValueLength};
+}
+
+/// However large its count is, the links end at the first tier that isn't there.
+void PriceTable::LinkTable(std::string_view sTable) {
+  PriceKey oTable{KeyText(sTable)};
+  std::int32_t nTier = 1;
+  for (Link oLink = LinkOf(oTable, nTier); oLink != Link{}; oLink = LinkOf(oTable, nTier)) {
+    m_aoLinks.push_back(oLink);
+    ++nTier;
+  }
+}
+
+PriceTable::Link PriceTable::LinkOf(PriceKey& oTable, std::int32_t nTier) const {
+  Link oLink;
+  for (std::size_t i = 0; i < oLink.size(); ++i) {
+    const KeyBranch oBranch(oTable);
+    const Entry* const pEntry = EntryOf(oTable.Append(kTierWords[i]).Append(nTier));
+    if (pEntry != nullptr) {
+      oLink[i] = {pEntry->nKeyAt + pEntry->nKeyLength, pEntry->nValueLength};
+    }
+  }
+  return oLink;
 }
 
 /// The slot that holds the key, or else the free one where it belongs.
-std::size_t PriceTable::SlotOf(std::string_view sKey, std::uint32_t nHash) const {
+inline std::size_t PriceTable::SlotOf(std::string_view sKey, std::uint32_t nHash) const {
   const std::size_t nMask = m_anSlots.size() - 1;
   std::size_t nSlot = nHash & nMask;
   for (; m_anSlots[nSlot] != 0; nSlot = (nSlot + 1) & nMask) {

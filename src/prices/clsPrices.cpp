@@ -39,6 +39,53 @@ std::string ReadUpdateFile(const std::string& sPath, int nAttempts) {
   RaiseFileFailure(sPath, oError.message());
 }
 
+/// One tier table of the schedule.
+class TierReader {
+ public:
+  TierReader(const PriceTable& oTable, const KeyText& oName, std::int32_t nShop)
+      : m_oTable(oTable), m_oKey(oName) {
+    m_oKey.Append(ShopSuffix(nShop));
+    const KeyBranch oBranch(m_oKey);
+    m_oTiers = m_oTable.FindTiers(m_oKey.Append(kCountWord));
+  }
+
+  [[nodiscard]] bool IsThere() const { return m_oTiers.has_value(); }
+
+  /// A Failure if the text isn't a 16-bit integer, or isn't there.
+  [[nodiscard]] std::int16_t Count() const {
+    const auto nCount = m_oTiers ? ToInteger(m_oTiers->sCount) : std::nullopt;
+    if (!nCount) {
+      RaiseNoCount();
+    }
+    return *nCount;
+  }
+
+  /// False, and 0, if the number is missing.
+  bool Read(TierPart ePart, std::int32_t nTier, Single& fValue) {
+    fValue = 0;
+    if (nTier >= 1 && static_cast<std::uint32_t>(nTier) <= m_oTiers->nLinked) {
+      return ReadSingle(m_oTable.TierText(*m_oTiers, static_cast<std::uint32_t>(nTier), ePart),
+                        fValue);
+    }
+    const KeyBranch oBranch(m_oKey);
+    m_oKey.Append(kTierWords[static_cast<std::size_t>(ePart)]).Append(nTier);
+    return ReadSingle(m_oTable.Find(m_oKey).value_or(std::string_view{}), fValue);
+  }
+
+ private:
+  [[noreturn]] void RaiseNoCount() const {
+    const std::string sKey = "\"" + std::string(m_oKey.Text()) + "Ranges\"";
+    throw Failure(FailureNumber::TypeMismatch, m_oTiers ? "The fee schedule's " + sKey +
+                                                              " isn't a number of tiers: \"" +
+                                                              std::string(m_oTiers->sCount) + "\"."
+                                                        : "The fee schedule has no " + sKey + ".");
+  }
+
+  const PriceTable& m_oTable;
+  PriceKey m_oKey;
+  std::optional<PriceTable::Tiers> m_oTiers;
+};
+
 }  // namespace
 
 void clsPrices::LoadUpdateFile() {
@@ -75,88 +122,59 @@ void clsPrices::LoadText(std::string_view sText) {
                     "The key \"" + oFields.Element(0) + "\" stands in it twice.");
     }
   }
+  m_oTable.LinkTiers();
 }
 
-bool clsPrices::GetData(const PriceKey& oName, std::string_view& sData) const {
-  const auto sFound = m_oTable.Find(oName.Text());
+bool clsPrices::GetData(const KeyText& oName, std::string_view& sData) const {
+  const auto sFound = m_oTable.Find(oName);
   sData = sFound.value_or(std::string_view{});
   return sFound.has_value();
 }
 
-bool clsPrices::GetPrice(const PriceKey& oName, Single& fValue, std::int32_t nShop) const {
-  const std::string_view sSuffix = ShopSuffix(nShop);
-  if (sSuffix.empty()) {
-    return ReadNumber(oName, fValue);
-  }
-  PriceKey oKey = oName;
-  return ReadNumber(oKey.Append(sSuffix), fValue);
+bool clsPrices::GetPrice(const KeyText& oName, Single& fValue, std::int32_t nShop) const {
+  const KeyText oSuffix = ShopSuffix(nShop);
+  return oSuffix.Text().empty() ? ReadNumber(oName, fValue)
+                                : ReadNumber(PriceKey(oName).Append(oSuffix), fValue);
 }
 
-bool clsPrices::ReadNumber(const PriceKey& oKey, Single& fValue) const {
-  const auto sFound = m_oTable.Find(oKey.Text());
-  return sFound && ReadSingle(*sFound, fValue);
-}
-
-bool clsPrices::GetRange(const PriceKey& oName, std::int16_t nRangeNumber, clsPriceRange& oRange,
+bool clsPrices::GetRange(const KeyText& oName, std::int16_t nRangeNumber, clsPriceRange& oRange,
                          std::int32_t nShop) const {
-  PriceKey oKey = oName;
-  oKey.Append(ShopSuffix(nShop));
-  PriceKey oCountKey = oKey;
-  std::string_view sCount;
-  if (!GetData(oCountKey.Append("Ranges"), sCount)) {
+  TierReader oTiers(m_oTable, oName, nShop);
+  if (!oTiers.IsThere()) {
     return false;
   }
-  oRange.m_nCount = TierCount(oKey);
-  return ReadTier(oKey, nRangeNumber, oRange);
-}
-
-bool clsPrices::HitTestRanges(const PriceKey& oName, Single fHitTestValue, clsPriceRange& oRange,
-                              std::int32_t nShop) const {
-  PriceKey oKey = oName;
-  oKey.Append(ShopSuffix(nShop));
-  oRange.m_nCount = TierCount(oKey);
-  for (std::int16_t i = 1; i <= oRange.m_nCount; ++i) {
-    ReadTier(oKey, i, oRange);
-    if (fHitTestValue >= oRange.m_fStart &&
-        (fHitTestValue <= oRange.m_fEnd || oRange.m_fEnd == clsPriceRange::kNoUpperLimit)) {
-      return true;
-    }
-    if (i == oRange.m_nCount) {
-      break;  // the count may be the largest that its type holds
-    }
-  }
-  oRange.m_nIndex = 0;
-  return false;
-}
-
-std::int16_t clsPrices::TierCount(PriceKey oName) const {
-  std::string_view sCount;
-  const bool bFound = GetData(oName.Append("Ranges"), sCount);
-  const auto nCount = ToInteger(sCount);
-  if (!nCount) {
-    throw Failure(FailureNumber::TypeMismatch,
-                  bFound ? "The fee schedule's \"" + std::string(oName.Text()) +
-                               "\" isn't a number of tiers: \"" + std::string(sCount) + "\"."
-                         : "The fee schedule has no \"" + std::string(oName.Text()) + "\".");
-  }
-  return *nCount;
-}
-
-/// False if one of the tier's three numbers is missing, which then reads as 0.
-bool clsPrices::ReadTier(PriceKey& oName, std::int16_t nTier, clsPriceRange& oRange) const {
-  const std::size_t nNameLength = oName.Text().size();
-  const auto fnRead = [&](std::string_view sPart, Single& fValue) {
-    fValue = 0;
-    oName.Append(sPart).Append(nTier);
-    const bool bFound = ReadNumber(oName, fValue);
-    oName.Truncate(nNameLength);
-    return bFound;
-  };
-  oRange.m_nIndex = nTier;
-  const bool bStart = fnRead("RangeStart", oRange.m_fStart);
-  const bool bEnd = fnRead("RangeEnd", oRange.m_fEnd);
-  const bool bValue = fnRead("RangeValue", oRange.m_fValue);
+  oRange.m_nCount = oTiers.Count();
+  oRange.m_nIndex = nRangeNumber;
+  const bool bStart = oTiers.Read(TierPart::Start, nRangeNumber, oRange.m_fStart);
+  const bool bEnd = oTiers.Read(TierPart::End, nRangeNumber, oRange.m_fEnd);
+  const bool bValue = oTiers.Read(TierPart::Value, nRangeNumber, oRange.m_fValue);
   return bStart && bEnd && bValue;
+}
+
+bool clsPrices::HitTestRanges(const KeyText& oName, Single fHitTestValue, clsPriceRange& oRange,
+                              std::int32_t nShop) const {
+  TierReader oTiers(m_oTable, oName, nShop);
+  oRange.m_nCount = oTiers.Count();
+  bool bHit = false;
+  std::int32_t nTier = 0;
+  while (nTier < oRange.m_nCount && !bHit) {
+    ++nTier;
+    oTiers.Read(TierPart::Start, nTier, oRange.m_fStart);
+    oTiers.Read(TierPart::End, nTier, oRange.m_fEnd);
+    bHit = fHitTestValue >= oRange.m_fStart &&
+           (fHitTestValue <= oRange.m_fEnd || oRange.m_fEnd == clsPriceRange::kNoUpperLimit);
+  }
+  // The values of tiers passed over on the way are never seen.
+  if (nTier > 0) {
+    oTiers.Read(TierPart::Value, nTier, oRange.m_fValue);
+  }
+  oRange.m_nIndex = static_cast<std::int16_t>(bHit ? nTier : 0);
+  return bHit;
+}
+
+bool clsPrices::ReadNumber(const KeyText& oKey, Single& fValue) const {
+  const auto sFound = m_oTable.Find(oKey);
+  return sFound && ReadSingle(*sFound, fValue);
 }
 
 clsPrices& Prices() {

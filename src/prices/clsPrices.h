@@ -33,29 +33,27 @@ class clsPrices {
   void LoadText(std::string_view sText);
 
   /// True and the text under a key as it stands; False and an empty text if there is none.
-  bool GetData(const PriceKey& oName, std::string_view& sData) const;
+  bool GetData(const KeyText& oName, std::string_view& sData) const;
 
   /// True and the value; False, and `fValue` left alone, if the key is missing or no number.
-  bool GetPrice(const PriceKey& oName, Single& fValue, std::int32_t nShop) const;
+  bool GetPrice(const KeyText& oName, Single& fValue, std::int32_t nShop) const;
 
   /// Fills `oRange` with one tier, from 1. False, and `oRange` left alone, if there is no tier
   /// table; False, and 0 in their place, if the tier lacks numbers. A count of tiers that isn't a
   /// 16-bit integer is a Failure.
-  bool GetRange(const PriceKey& oName, std::int16_t nRangeNumber, clsPriceRange& oRange,
+  bool GetRange(const KeyText& oName, std::int16_t nRangeNumber, clsPriceRange& oRange,
                 std::int32_t nShop) const;
 
   /// Fills `oRange` with the first tier that holds a value, both its ends included. If none does:
   /// False, m_nIndex 0, and the rest of the last tier tried. A tier table that is missing, or whose
   /// count isn't a 16-bit integer, is a Failure.
-  bool HitTestRanges(const PriceKey& oName, Single fHitTestValue, clsPriceRange& oRange,
+  bool HitTestRanges(const KeyText& oName, Single fHitTestValue, clsPriceRange& oRange,
                      std::int32_t nShop) const;
 
   [[nodiscard]] const PriceTable& Table() const { return m_oTable; }
 
  private:
-  bool ReadNumber(const PriceKey& oKey, Single& fValue) const;
-  [[nodiscard]] std::int16_t TierCount(PriceKey oName) const;
-  bool ReadTier(PriceKey& oName, std::int16_t nTier, clsPriceRange& oRange) const;
+  bool ReadNumber(const KeyText& oKey, Single& fValue) const;
 
   PriceTable m_oTable;
 };

@@ -2,7 +2,8 @@
 #pragma once
 
 #include <cstdint>
-#include <string_view>
+
+#include "prices/PriceKey.h"
 
 namespace quillet {
 
@@ -17,7 +18,7 @@ enum eShop : std::int32_t {
 };
 
 /// Any code outside the list has no suffix, like kShopNone.
-[[nodiscard]] constexpr std::string_view ShopSuffix(std::int32_t nShop) {
+[[nodiscard]] constexpr KeyText ShopSuffix(std::int32_t nShop) {
   switch (nShop) {
     case kShop30Days:
       return "30";

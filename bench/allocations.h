@@ -1,0 +1,11 @@
+// Counts what the program takes from the heap.
+#pragma once
+
+#include <cstdint>
+
+namespace quillet {
+
+/// How many times operator new has run so far.
+[[nodiscard]] std::int64_t Allocations();
+
+}  // namespace quillet

@@ -1,0 +1,144 @@
+// What the engine costs, each figure beside a baseline of the same run.
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+#include "allocations.h"
+#include "engine/clsCalculate.h"
+#include "platform/Files.h"
+#include "platform/posix/TerminalHost.h"
+#include "prices/clsPrices.h"
+
+namespace quillet {
+namespace {
+
+const std::string kScheduleFile = std::string(QUILLET_SOURCE_DIR) + "/data/UpdateUS_v0101.dat";
+
+/// Two categories, a dozen features, a picture pack, postage, a business account.
+const std::string kBusyAuction =
+    "[TYPE]000|False|False|3|0|0|0|False[TYPE][OUTLAY]320.5|99.99|0|880|3|True[OUTLAY]"
+    "[FEATURES]308159|8[FEATURES][PAYPAL]True|2|3|True[PAYPAL]"
+    "[POSTAGE]True|1.25|3|12.75|0|True|True|True|1.5|True[POSTAGE]";
+
+std::string ScheduleText() {
+  std::string sText;
+  if (ReadWholeFile(kScheduleFile, clsPrices::kLargestFile, sText)) {
+    std::abort();
+  }
+  return sText;
+}
+
+std::vector<std::string> KeysOfSchedule() {
+  const PriceTable& oTable = Prices().Table();
+  std::vector<std::string> asKeys;
+  for (std::size_t i = 0; i < oTable.Size(); ++i) {
+    asKeys.emplace_back(oTable.KeyAt(i));
+  }
+  return asKeys;
+}
+
+/// Ends the benchmark with an error if the engine has used the heap.
+void ForbidAllocations(benchmark::State& oState, std::int64_t nBefore) {
+  if (Allocations() != nBefore) {
+    oState.SkipWithError("memory was allocated");
+  }
+}
+
+/// The machine's baseline: a thousand bare look-ups of keys that are there.
+void BareLookUps(benchmark::State& oState) {
+  const std::vector<std::string> asKeys = KeysOfSchedule();
+  const PriceTable& oTable = Prices().Table();
+  std::size_t nKey = 0;
+  const std::int64_t nBefore = Allocations();
+  for (auto _ : oState) {
+    for (int i = 0; i < 1000; ++i) {
+      benchmark::DoNotOptimize(oTable.Find(asKeys[nKey]));
+      nKey = nKey + 1 == asKeys.size() ? 0 : nKey + 1;
+    }
+  }
+  ForbidAllocations(oState, nBefore);
+  oState.SetItemsProcessed(oState.iterations() * 1000);
+}
+
+void DoCalcOfABusyAuction(benchmark::State& oState) {
+  clsCalculate oAuction;
+  std::string sText = kBusyAuction;
+  oAuction.Serialize(sText, false);
+  const std::int64_t nBefore = Allocations();
+  for (auto _ : oState) {
+    oAuction.DoCalc();
+    benchmark::DoNotOptimize(oAuction.m_fProfit);
+  }
+  ForbidAllocations(oState, nBefore);
+}
+
+void LoadTheShippedSchedule(benchmark::State& oState) {
+  for (auto _ : oState) {
+    clsPrices oPrices;
+    oPrices.LoadFile(kScheduleFile);
+    benchmark::DoNotOptimize(oPrices);
+  }
+}
+
+/// The load's baseline: its bytes, and nothing done with them.
+void ReadTheShippedSchedule(benchmark::State& oState) {
+  for (auto _ : oState) {
+    std::string sText = ScheduleText();
+    benchmark::DoNotOptimize(sText);
+  }
+}
+
+void SerializeAndReadBack(benchmark::State& oState) {
+  clsCalculate oAuction;
+  std::string sText = kBusyAuction;
+  oAuction.Serialize(sText, false);
+  for (auto _ : oState) {
+    sText.clear();
+    oAuction.Serialize(sText, true);
+    oAuction.Serialize(sText, false);
+    benchmark::DoNotOptimize(oAuction);
+  }
+}
+
+/// The text's baseline: a copy of it.
+void CopyTheText(benchmark::State& oState) {
+  for (auto _ : oState) {
+    std::string sText = kBusyAuction;
+    benchmark::DoNotOptimize(sText);
+  }
+}
+
+void MakeAnAuction(benchmark::State& oState) {
+  for (auto _ : oState) {
+    clsCalculate oAuction;
+    benchmark::DoNotOptimize(oAuction);
+  }
+}
+
+BENCHMARK(BareLookUps);
+BENCHMARK(DoCalcOfABusyAuction);
+BENCHMARK(ReadTheShippedSchedule);
+BENCHMARK(LoadTheShippedSchedule);
+BENCHMARK(CopyTheText);
+BENCHMARK(SerializeAndReadBack);
+BENCHMARK(MakeAnAuction);
+
+}  // namespace
+}  // namespace quillet
+
+int main(int nArguments, char** asArguments) {
+  quillet::TerminalHost oHost;
+  quillet::SetHost(oHost);
+  auto oPrices = std::make_unique<quillet::clsPrices>();
+  oPrices->LoadFile(quillet::kScheduleFile);
+  quillet::UsePrices(std::move(oPrices));
+
+  benchmark::Initialize(&nArguments, asArguments);
+  if (benchmark::ReportUnrecognizedArguments(nArguments, asArguments)) {
+    return 2;
+  }
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}
