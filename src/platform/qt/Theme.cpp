@@ -47,6 +47,10 @@ QColor InkColour(Ink eInk) {
       return {0xFF, 0xFF, 0xFF};
     case Ink::Hover:
       return {0x22, 0x28, 0x2F};
+    case Ink::Column:
+      return {0x10, 0x12, 0x14};
+    case Ink::ColumnText:
+      return {0xB4, 0xBB, 0xC3};
     case Ink::Error:
       return {0xFF, 0x6B, 0x6B};
   }

@@ -23,7 +23,9 @@ enum class Ink {
   OnAccent,   ///< a mark drawn on the accent
   HeaderBar,
   OnHeaderBar,
-  Hover,  ///< under a button that the pointer is on
+  Hover,       ///< under a button that the pointer is on
+  Column,      ///< behind the buttons of the main window
+  ColumnText,  ///< captions and icons of those buttons
   Error,
 };
 

@@ -1,0 +1,50 @@
+#include "platform/qt/ShockwaveFlash.h"
+
+#include <QEvent>
+#include <QRegularExpression>
+
+#include "platform/qt/movies/movies.h"
+
+namespace quillet {
+
+ShockwaveFlash::ShockwaveFlash(QWidget* pParent) : QWidget(pParent) {}
+
+void ShockwaveFlash::SetMovie(const QString& sPath) {
+  if (m_oMovie != nullptr) {
+    m_oMovie->Widget().hide();
+    m_oMovie->Widget().deleteLater();  // since its own command may have led here
+  }
+  const QString sFile = sPath.section('?', 0, 0);
+  m_oMovie = MakeMovie(sFile.section(QRegularExpression("[\\\\/]"), -1), sPath.section('?', 1),
+                       *this, [this](const QString& sCommand, const QString& sArguments) {
+                         emit FSCommand(sCommand, sArguments);
+                       });
+  if (m_oMovie != nullptr) {
+    QWidget& oWidget = m_oMovie->Widget();
+    oWidget.setToolTip(toolTip());
+    oWidget.setGeometry(rect());
+    oWidget.show();
+    setFocusProxy(&oWidget);
+  }
+}
+
+void ShockwaveFlash::SetCurrent(bool bCurrent) {
+  if (m_oMovie != nullptr) {
+    m_oMovie->SetCurrent(bCurrent);
+  }
+}
+
+bool ShockwaveFlash::event(QEvent* pEvent) {
+  if (pEvent->type() == QEvent::ToolTipChange && m_oMovie != nullptr) {
+    m_oMovie->Widget().setToolTip(toolTip());  // which also describes it to a screen reader
+  }
+  return QWidget::event(pEvent);
+}
+
+void ShockwaveFlash::resizeEvent(QResizeEvent* /*pEvent*/) {
+  if (m_oMovie != nullptr) {
+    m_oMovie->Widget().setGeometry(rect());
+  }
+}
+
+}  // namespace quillet

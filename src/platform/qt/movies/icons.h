@@ -1,0 +1,16 @@
+// Line icons, drawn from tables of strokes.
+#pragma once
+
+class QColor;
+class QPainter;
+class QRectF;
+
+namespace quillet {
+
+enum class Icon { New, Calculator, Wizard, Save, Load, Configure, About };
+
+/// Draws an icon into a square, with lines of `fStroke` units; the square's side is 24 units.
+void DrawIcon(QPainter& oPainter, Icon eIcon, const QRectF& oSquare, const QColor& oColour,
+              double fStroke);
+
+}  // namespace quillet
