@@ -4,7 +4,11 @@ find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets)
 add_library(quillet_desktop STATIC
   platform/qt/QtHost.cpp
   platform/qt/QtSettingsHive.cpp
+  platform/qt/ShockwaveFlash.cpp
   platform/qt/Theme.cpp
+  platform/qt/movies/ButtonMovie.cpp
+  platform/qt/movies/icons.cpp
+  platform/qt/movies/movies.cpp
   sections/AuctionOptionsPanel.cpp
   sections/Control.cpp
   sections/Controls.cpp
