@@ -18,6 +18,7 @@ constexpr int kDesignWidth = 1980;
 constexpr int kDesignHeight = 345;
 constexpr int kSpinUnit = 255;  // the spin button is as many of these wide as it is high
 constexpr int kTextMargin = 60;
+constexpr int kFreeBelow = 20;  // boxes on neighbouring rows don't touch
 constexpr int kKeyStep = 1;
 constexpr int kShiftedKeyStep = 10;
 
@@ -249,8 +250,8 @@ void ctlNumericText::paintEvent(QPaintEvent* /*pEvent*/) {
   oPainter.setRenderHint(QPainter::Antialiasing);
   oPainter.setPen(QPen(InkColour(eEdge), fLine));
   oPainter.setBrush(InputGround(m_nBackColor));
-  // A pixel is left free below, so that boxes on neighbouring rows don't touch.
-  const QRectF oBox = QRectF(rect()).adjusted(fLine / 2, fLine / 2, -fLine / 2, -fLine / 2 - 1);
+  const QRectF oBox =
+      QRectF(rect()).adjusted(fLine / 2, fLine / 2, -fLine / 2, -fLine / 2 - Pixels(kFreeBelow));
   oPainter.drawRoundedRect(oBox, kRadius, kRadius);
   oPainter.setPen(QPen(InkColour(Ink::FieldEdge), 1.0));
   const double fBetween = m_pText->width() + 0.5;
@@ -262,7 +263,7 @@ void ctlNumericText::Placed() {
   const int nSpinWidth =
       std::min(width(), Pixels(RoundToLong(Height() / double{kSpinUnit}) * kSpinUnit));
   m_pText->setGeometry(0, 0, width() - nSpinWidth, height());
-  m_pText->setTextMargins(Pixels(kTextMargin), 0, 0, 0);
+  m_pText->setTextMargins(Pixels(kTextMargin), 0, 0, Pixels(kFreeBelow));
   m_pSpin->setGeometry(width() - nSpinWidth, 0, nSpinWidth, height());
 }
 

@@ -15,7 +15,7 @@ namespace {
 
 class VisibleListTest : public ::testing::Test {
  protected:
-  void SetUp() override { SetRegistryHive(m_oHive); }
+  VisibleListTest() { SetRegistryHive(m_oHive); }
   MemoryHive m_oHive;
 };
 
@@ -24,60 +24,40 @@ TEST_F(VisibleListTest, AListThatWasNeverStoredDiffersFromOneStoredWithoutAWord)
   EXPECT_TRUE(SaveVisibleList("Outlay", clsTokeniser()));
   EXPECT_FALSE(LoadVisibleList("Outlay").IsEmpty());
   EXPECT_EQ(LoadVisibleList("Outlay").Count(), 0);
-  EXPECT_TRUE(LoadVisibleList("PayPal").IsEmpty());
-}
-
-TEST_F(VisibleListTest, WordsComeBackAsTheyWereStored) {
-  clsTokeniser oList;
-  oList.AddToArray("Outlay");
-  oList.AddToArray("Quantity");
-  SaveVisibleList("Outlay", oList);
-  const clsTokeniser oBack = LoadVisibleList("Outlay");
-  ASSERT_EQ(oBack.Count(), 2);
-  EXPECT_EQ(oBack.Element(0), "Outlay");
-  EXPECT_EQ(oBack.Element(1), "Quantity");
-  m_oHive.bWritable = false;
-  EXPECT_FALSE(SaveVisibleList("Outlay", oList));
-}
-
-TEST_F(VisibleListTest, ATextTooLongForAListCountsAsNoneStored) {
   Registry().SetRegSettingString(HiveRoot::User, std::string(40000, 'x'), "Visible",
-                                 "Controls\\Outlay");
-  EXPECT_TRUE(LoadVisibleList("Outlay").IsEmpty());
+                                 "Controls\\PayPal");
+  EXPECT_TRUE(LoadVisibleList("PayPal").IsEmpty()) << "too long for a list";
 }
 
-TEST_F(VisibleListTest, ANameIsListedIfAWordOccursInItInTheSameCase) {
+TEST_F(VisibleListTest, WordsComeBackAndNamesThatHoldOneAreListed) {
   clsTokeniser oList;
   EXPECT_FALSE(NameInVisibleList("txtOutlay", oList));
   oList.AddToArray("Start");
   oList.AddToArray("Outlay");
-  EXPECT_TRUE(NameInVisibleList("chkOutlayInclTax", oList));
-  EXPECT_TRUE(NameInVisibleList("txtStartingPrice", oList));
-  EXPECT_FALSE(NameInVisibleList("txtoutlay", oList));
-  EXPECT_FALSE(NameInVisibleList("txtReservePrice", oList));
+  SaveVisibleList("Outlay", oList);
+  const clsTokeniser oBack = LoadVisibleList("Outlay");
+  EXPECT_EQ(oBack.Count(), 2);
+  for (const char* const sName : {"chkOutlayInclTax", "txtStartingPrice", "Start"}) {
+    EXPECT_TRUE(NameInVisibleList(sName, oBack)) << sName;
+  }
+  for (const char* const sName : {"txtoutlay", "txtReservePrice", ""}) {
+    EXPECT_FALSE(NameInVisibleList(sName, oBack)) << sName;
+  }
+  m_oHive.bWritable = false;
+  EXPECT_FALSE(SaveVisibleList("Outlay", oList));
 }
 
 TEST(RegionControls, TheFirstFittingLineDecides) {
-  struct Row {
-    const char* sName;
-    bool bUnitedKingdom;
-    bool bUnitedStates;
-  };
-  for (const Row& oRow : {Row{"chkBorder", false, true},
-                          {"chkShowCarAd", false, true},
-                          {"BusinessAuction", false, true},
-                          {"Weight", true, false},
-                          {"chkOutlayInclTax", true, false},
-                          {"txtOutlay", true, true},
-                          {"chkborder", true, true},
-                          {"optParts", false, true},
-                          {"optPartsAndMore", true, true},
-                          {"ctlRealEstateOption", false, true},
-                          {"ctlRealEstateOptionsLand1", true, true},
-                          {"Shop60DaysWeight", false, true},
-                          {"", true, true}}) {
-    EXPECT_EQ(RegionAllowsControl(oRow.sName), ByRegion(oRow.bUnitedKingdom, oRow.bUnitedStates))
-        << oRow.sName;
+  for (const char* const sName : {"chkBorder", "chkShowCarAd", "BusinessAuction", "optParts",
+                                  "ctlRealEstateOption", "Shop60DaysWeight"}) {
+    EXPECT_EQ(RegionAllowsControl(sName), ByRegion(false, true)) << sName;
+  }
+  for (const char* const sName : {"Weight", "chkOutlayInclTax", "optParcelServiceStandard"}) {
+    EXPECT_EQ(RegionAllowsControl(sName), ByRegion(true, false)) << sName;
+  }
+  for (const char* const sName :
+       {"txtOutlay", "chkborder", "optPartsAndMore", "ctlRealEstateOptionsLand1", ""}) {
+    EXPECT_TRUE(RegionAllowsControl(sName)) << sName;
   }
 }
 

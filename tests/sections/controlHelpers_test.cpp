@@ -20,8 +20,9 @@ class controlHelpersTest : public ::testing::Test {
     return *pControl;
   }
 
-  static void Store(const char* sName, const char* sValue) {
-    Registry().SetRegSettingString(HiveRoot::User, sValue, sName, "Config");
+  static std::uint32_t SubtotalColourStored(const char* sText) {
+    Registry().Set(settings::kSubtotalColour, sText);
+    return SubtotalColour();
   }
 
   QWidget m_oWindow;
@@ -29,27 +30,23 @@ class controlHelpersTest : public ::testing::Test {
 };
 
 TEST_F(controlHelpersTest, ColoursComeFromTheSettingsIfTheyAreNumbers) {
-  EXPECT_EQ(SubtotalColour(), 33023U);
   EXPECT_EQ(TotalColour(), 0xC0FFC0U);
-  Store("SubtotalColour", "255");
-  Store("TotalColour", "-2147483643");  // a colour of the theme, as a signed number
-  EXPECT_EQ(SubtotalColour(), 255U);
-  EXPECT_EQ(TotalColour(), kColourWindow);
-  Store("SubtotalColour", "orange");
   EXPECT_EQ(SubtotalColour(), 33023U);
+  EXPECT_EQ(SubtotalColourStored("255"), 255U);
+  EXPECT_EQ(SubtotalColourStored("-2147483643"), kColourWindow) << "of the theme, as it is signed";
+  EXPECT_EQ(SubtotalColourStored("orange"), 33023U);
 }
 
 TEST_F(controlHelpersTest, OnlyTheFourKindsTakeTheThemesColours) {
-  auto& oTotal = Make<Label>("lblTotal");
-  auto& oOther = Make<Label>("lblTotalCost");
-  auto& oBox = Make<ctlNumericText>("lblTotal");
-  for (Control* const pControl : std::initializer_list<Control*>{&oTotal, &oOther, &oBox}) {
-    pControl->SetForeColor(kColourGreyText);
-    ApplyThemeColours(*pControl);
-  }
-  EXPECT_EQ(oTotal.ForeColor(), SubtotalColour());
-  EXPECT_EQ(oOther.ForeColor(), kColourWindow);
-  EXPECT_EQ(oBox.ForeColor(), kColourGreyText);
+  const auto fnThemed = [](Control& oControl) {
+    oControl.SetForeColor(kColourGreyText);
+    ApplyThemeColours(oControl);
+    return oControl.ForeColor();
+  };
+  EXPECT_EQ(fnThemed(Make<Label>("lblTotal")), SubtotalColour());
+  EXPECT_EQ(fnThemed(Make<Label>("lblTotalCost")), kColourWindow);
+  EXPECT_EQ(fnThemed(Make<OptionButton>("optA")), kColourWindow);
+  EXPECT_EQ(fnThemed(Make<ctlNumericText>("lblTotal")), kColourGreyText);
 }
 
 TEST_F(controlHelpersTest, GreyingUnticksBoxesDisablesNumbersAndLeavesOptionsAsTheyAre) {
@@ -59,33 +56,21 @@ TEST_F(controlHelpersTest, GreyingUnticksBoxesDisablesNumbersAndLeavesOptionsAsT
   oCheck.SetValue(1);
   oOption.SetValue(1);
   QSignalSpy oClicked(&oCheck, &QAbstractButton::toggled);
-  for (Control* const pControl : std::initializer_list<Control*>{&oCheck, &oOption, &oNumber}) {
-    SetControlActive(false, *pControl, false);
-    EXPECT_EQ(pControl->ForeColor(), kColourGreyText);
+  for (const bool bActive : {false, true}) {
+    SetControlActive(bActive, oCheck, false);
+    SetControlActive(bActive, oOption, false);
+    SetControlActive(bActive, oNumber, false);
+    EXPECT_EQ(oOption.ForeColor(), bActive ? kColourWindow : kColourGreyText);
+    EXPECT_EQ(oNumber.ForeColor(), bActive ? kColourWindowText : kColourGreyText);
+    EXPECT_EQ(oNumber.Enabled(), bActive);
+    EXPECT_TRUE(oCheck.Enabled() && oOption.Enabled() && m_oFrame.Enabled());
+    EXPECT_EQ(oCheck.Value(), 0);
+    EXPECT_EQ(oOption.Value(), 1);
   }
-  EXPECT_EQ(oCheck.Value(), 0);
   EXPECT_EQ(oClicked.count(), 1) << "unticking is a click";
-  EXPECT_EQ(oOption.Value(), 1);
-  EXPECT_TRUE(oCheck.Enabled());
-  EXPECT_TRUE(oOption.Enabled());
-  EXPECT_FALSE(oNumber.Enabled());
-  EXPECT_TRUE(m_oFrame.Enabled());
-
-  SetControlActive(true, oCheck, false);
-  SetControlActive(true, oNumber, false);
-  EXPECT_EQ(oCheck.ForeColor(), kColourWindow);
-  EXPECT_EQ(oCheck.Value(), 0);
-  EXPECT_EQ(oNumber.ForeColor(), kColourWindowText);
-  EXPECT_TRUE(oNumber.Enabled());
-}
-
-TEST_F(controlHelpersTest, TheFrameAroundAControlFollowsOnlyIfAsked) {
-  auto& oOption = Make<OptionButton>("optA");
   SetControlActive(false, oOption, true);
   EXPECT_FALSE(m_oFrame.Enabled());
   SetControlActive(true, oOption, true);
-  EXPECT_TRUE(m_oFrame.Enabled());
-  SetControlActive(false, m_oFrame, true);  // stands in no control
   EXPECT_TRUE(m_oFrame.Enabled());
 }
 
@@ -99,29 +84,22 @@ TEST_F(controlHelpersTest, ControlsAreToldApartByNameAndType) {
   EXPECT_FALSE(IsSubControl(Make<Label>("ctlA")));
 }
 
-TEST_F(controlHelpersTest, ShowBoxesAreTickedByTheirWholeTag) {
+TEST_F(controlHelpersTest, RowsAreSeenByRegionListAndModeAndBoxesTickedByTheirWholeTag) {
   clsTokeniser oList;
-  oList.AddToArray("OutlayOnly");
-  oList.AddToArray("Start");
-  auto& oBox = Make<CheckBox>("chkShowOutlay");
-  oBox.SetTag("Start");
-  ApplyShowCheck(oBox, oList);
-  EXPECT_EQ(oBox.Value(), 1);
-  oBox.SetTag("Outlay");
-  ApplyShowCheck(oBox, oList);
-  EXPECT_EQ(oBox.Value(), 0);
-}
-
-TEST_F(controlHelpersTest, AControlIsSeenIfTheRegionHasItAndTheListOrConfigModeWantsIt) {
-  clsTokeniser oList;
+  oList.AddToArray("BorderLine");
   oList.AddToArray("Border");
   auto& oBorder = Make<CheckBox>("chkBorder");
   auto& oBold = Make<CheckBox>("chkBold");
   for (const bool bShowConfig : {false, true}) {
     ApplyControlVisibility(oBorder, oList, bShowConfig);
-    EXPECT_EQ(oBorder.Visible(), ByRegion(false, true));
     ApplyControlVisibility(oBold, oList, bShowConfig);
+    EXPECT_EQ(oBorder.Visible(), ByRegion(false, true));
     EXPECT_EQ(oBold.Visible(), bShowConfig);
+  }
+  for (const auto& [sTag, nTicked] : {std::pair("Border", 1), std::pair("Line", 0)}) {
+    oBold.SetTag(sTag);
+    ApplyShowCheck(oBold, oList);
+    EXPECT_EQ(oBold.Value(), nTicked) << sTag;
   }
 }
 

@@ -17,20 +17,17 @@ struct DesignedControl {
   std::string sName;
   int nTop = 0;
   int nHeight = 0;
-  int nCurrentHeight = 0;
+  int nCurrentHeight = nHeight;
 };
 
-struct PackedControl {
-  std::string sName;
-  int nTop = 0;
-  bool operator==(const PackedControl&) const = default;
-};
+using PackedControl = std::pair<std::string, int>;  ///< name and top
 
 inline std::vector<PackedControl> Shown(const clsControlLocator& oLocator) {
-  std::vector<PackedControl> aoShown(static_cast<std::size_t>(oLocator.IncludedCount()));
+  std::vector<PackedControl> aoShown;
+  PackedControl oControl;
   for (int i = 0; i < oLocator.IncludedCount(); ++i) {
-    PackedControl& oShown = aoShown[static_cast<std::size_t>(i)];
-    EXPECT_TRUE(oLocator.GetIncludedControl(i, oShown.sName, oShown.nTop));
+    EXPECT_TRUE(oLocator.GetIncludedControl(i, oControl.first, oControl.second));
+    aoShown.push_back(oControl);
   }
   return aoShown;
 }
@@ -41,36 +38,25 @@ inline std::vector<PackedControl> Shown(const clsControlLocator& oLocator) {
 inline void CheckLayout(const clsControlLocator& oLocator, std::vector<DesignedControl> aoDesign) {
   std::stable_sort(aoDesign.begin(), aoDesign.end(),
                    [](const auto& a, const auto& b) { return a.nTop < b.nTop; });
-  std::map<std::string, std::size_t> anIndex;
-  std::map<int, std::string> asLastOfRow;
-  for (std::size_t i = 0; i < aoDesign.size(); ++i) {
-    anIndex[aoDesign[i].sName] = i;
-    asLastOfRow[aoDesign[i].nTop] = aoDesign[i].sName;
-  }
   std::map<std::string, int> anSeen;
-  for (int i = 0; i < oLocator.ExcludedCount(); ++i) {
-    std::string sName;
-    ASSERT_TRUE(oLocator.GetExcludedControl(i, sName));
-    ++anSeen[sName];
+  std::string sHidden;
+  for (int i = 0; oLocator.GetExcludedControl(i, sHidden) && i < oLocator.ExcludedCount(); ++i) {
+    ++anSeen[sHidden];
   }
+  auto oAt = aoDesign.begin();
   const DesignedControl* pBefore = nullptr;
   int nTopBefore = 0;
   for (const auto& [sName, nTop] : Shown(oLocator)) {
     ++anSeen[sName];
-    ASSERT_TRUE(anIndex.contains(sName)) << sName;
-    const DesignedControl& oControl = aoDesign[anIndex[sName]];
-    if (pBefore != nullptr) {
-      EXPECT_LT(anIndex[pBefore->sName], anIndex[sName]) << "order of " << sName;
-      if (oControl.nTop == pBefore->nTop) {
-        EXPECT_EQ(nTop, nTopBefore) << sName << " beside " << pBefore->sName;
-      } else if (asLastOfRow[pBefore->nTop] == pBefore->sName) {
-        const auto oNextRow = asLastOfRow.upper_bound(pBefore->nTop);
-        const int nOverlap = std::max(0, pBefore->nTop + pBefore->nHeight - oNextRow->first);
-        EXPECT_GE(nTop, nTopBefore + pBefore->nCurrentHeight - nOverlap)
-            << sName << " below " << pBefore->sName;
-      }
+    oAt = std::find_if(oAt, aoDesign.end(), [&](const auto& o) { return o.sName == sName; });
+    ASSERT_NE(oAt, aoDesign.end()) << sName << " is out of order";
+    if (pBefore != nullptr && oAt->nTop == pBefore->nTop) {
+      EXPECT_EQ(nTop, nTopBefore) << sName << " beside " << pBefore->sName;
+    } else if (pBefore != nullptr && (pBefore + 1)->nTop != pBefore->nTop) {  // it ends its row
+      const int nOverlap = std::max(0, pBefore->nTop + pBefore->nHeight - (pBefore + 1)->nTop);
+      EXPECT_GE(nTop, nTopBefore + pBefore->nCurrentHeight - nOverlap) << sName;
     }
-    pBefore = &oControl;
+    pBefore = &*oAt;
     nTopBefore = nTop;
   }
   for (const DesignedControl& oControl : aoDesign) {
