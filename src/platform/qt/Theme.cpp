@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFontDatabase>
+#include <QIcon>
 #include <QPalette>
 #include <QStyleFactory>
 #include <algorithm>
@@ -16,6 +17,52 @@ constexpr double kTwipsPerPixel = 15.0;  // 1440 to the inch, the toolkit's 96 p
 
 double g_fZoom = 1.0;
 QString g_sFontFamily;
+
+void LoadFont() {
+  for (const char* const sWeight : {"Regular", "Medium", "SemiBold", "Bold"}) {
+    const int nFont =
+        QFontDatabase::addApplicationFont(QString(":/fonts/Inter-%1.otf").arg(sWeight));
+    const QStringList asFamilies = QFontDatabase::applicationFontFamilies(nFont);
+    if (g_sFontFamily.isEmpty() && !asFamilies.isEmpty()) {
+      g_sFontFamily = asFamilies.first();
+    }
+  }
+}
+
+QPalette ThemePalette() {
+  constexpr std::array<std::pair<QPalette::ColorRole, Ink>, 14> kRoles = {{
+      {QPalette::Window, Ink::Ground},
+      {QPalette::WindowText, Ink::Text},
+      {QPalette::Base, Ink::Field},
+      {QPalette::AlternateBase, Ink::Panel},
+      {QPalette::Text, Ink::Text},
+      {QPalette::Button, Ink::Panel},
+      {QPalette::ButtonText, Ink::Text},
+      {QPalette::ToolTipBase, Ink::Panel},
+      {QPalette::ToolTipText, Ink::Text},
+      {QPalette::Highlight, Ink::Accent},
+      {QPalette::HighlightedText, Ink::OnAccent},
+      {QPalette::PlaceholderText, Ink::GreyText},
+      {QPalette::Link, Ink::Accent},
+      {QPalette::Mid, Ink::Hairline},
+  }};
+  QPalette oPalette;
+  for (const auto& [eRole, eInk] : kRoles) {
+    oPalette.setColor(eRole, InkColour(eInk));
+  }
+  for (const auto eRole : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    oPalette.setColor(QPalette::Disabled, eRole, InkColour(Ink::GreyText));
+  }
+  return oPalette;
+}
+
+QIcon ProgramIcon() {
+  QIcon oIcon;
+  for (const int nSize : {16, 24, 32, 48, 64, 128, 256}) {
+    oIcon.addFile(QString(":/icons/quillet-%1.png").arg(nSize), {nSize, nSize});
+  }
+  return oIcon;
+}
 
 }  // namespace
 
@@ -87,40 +134,11 @@ QFont ThemeFont(double fPoints, QFont::Weight eWeight) {
 }
 
 void InstallTheme() {
-  for (const char* const sWeight : {"Regular", "Medium", "SemiBold", "Bold"}) {
-    const int nFont =
-        QFontDatabase::addApplicationFont(QString(":/fonts/Inter-%1.otf").arg(sWeight));
-    const QStringList asFamilies = QFontDatabase::applicationFontFamilies(nFont);
-    if (g_sFontFamily.isEmpty() && !asFamilies.isEmpty()) {
-      g_sFontFamily = asFamilies.first();
-    }
-  }
-  constexpr std::array<std::pair<QPalette::ColorRole, Ink>, 14> kRoles = {{
-      {QPalette::Window, Ink::Ground},
-      {QPalette::WindowText, Ink::Text},
-      {QPalette::Base, Ink::Field},
-      {QPalette::AlternateBase, Ink::Panel},
-      {QPalette::Text, Ink::Text},
-      {QPalette::Button, Ink::Panel},
-      {QPalette::ButtonText, Ink::Text},
-      {QPalette::ToolTipBase, Ink::Panel},
-      {QPalette::ToolTipText, Ink::Text},
-      {QPalette::Highlight, Ink::Accent},
-      {QPalette::HighlightedText, Ink::OnAccent},
-      {QPalette::PlaceholderText, Ink::GreyText},
-      {QPalette::Link, Ink::Accent},
-      {QPalette::Mid, Ink::Hairline},
-  }};
-  QPalette oPalette;
-  for (const auto& [eRole, eInk] : kRoles) {
-    oPalette.setColor(eRole, InkColour(eInk));
-  }
-  for (const auto eRole : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-    oPalette.setColor(QPalette::Disabled, eRole, InkColour(Ink::GreyText));
-  }
+  LoadFont();
   QApplication::setStyle(QStyleFactory::create("Fusion"));
-  QApplication::setPalette(oPalette);
+  QApplication::setPalette(ThemePalette());
   QApplication::setFont(ThemeFont(kTextPoints));
+  QApplication::setWindowIcon(ProgramIcon());
 }
 
 double Zoom() {

@@ -50,7 +50,7 @@ enum SystemColour : std::uint32_t {
 inline constexpr double kTextPoints = 8.0;         ///< captions and inputs
 inline constexpr double kGrandTotalPoints = 18.0;  ///< the profit
 
-/// Loads the font and gives the application the palette. Once, before the first window.
+/// Loads the font and gives the application its palette and icon. Once, before the first window.
 void InstallTheme();
 
 /// How large everything is drawn, 1 being the design's size.

@@ -1,9 +1,12 @@
 #include "platform/qt/Theme.h"
 
+#include <QApplication>
 #include <QFont>
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QFontMetricsF>
+#include <QIcon>
+#include <QImage>
 #include <cmath>
 
 #include <gtest/gtest.h>
@@ -38,8 +41,13 @@ TEST(Theme, EveryTextHasAContrastOfFourAndAHalfOnEveryGroundItStandsOn) {
     QColor oText;
     std::vector<Ink> aeGrounds;
   } aoPairs[] = {
-      {"text", InkColour(Ink::Text), {Ink::Ground, Ink::Panel, Ink::Field, Ink::Hover}},
-      {"grey text", InkColour(Ink::GreyText), {Ink::Ground, Ink::Panel, Ink::Field, Ink::Hover}},
+      {"text",
+       InkColour(Ink::Text),
+       {Ink::Ground, Ink::Panel, Ink::Field, Ink::Hover, Ink::Hairline}},
+      {"grey text",
+       InkColour(Ink::GreyText),
+       {Ink::Column, Ink::Ground, Ink::Panel, Ink::Field, Ink::Hover}},
+      {"button", InkColour(Ink::ColumnText), {Ink::Column}},
       {"section name", InkColour(Ink::FaintText), {Ink::Ground, Ink::Panel}},
       {"link", InkColour(Ink::Accent), {Ink::Ground, Ink::Panel, Ink::Hover}},
       {"chosen text", InkColour(Ink::OnAccent), {Ink::Accent}},
@@ -87,6 +95,14 @@ TEST(Theme, ItsFontIsTheEmbeddedOneInTheWeightAskedFor) {
     const QFontInfo oInfo(ThemeFont(kTextPoints, eWeight));
     EXPECT_EQ(oInfo.family(), "Inter Quillet");
     EXPECT_EQ(oInfo.weight(), eWeight);
+  }
+}
+
+TEST(Theme, WindowsHaveTheProgramsIconInEverySize) {
+  for (const int nSize : {16, 24, 32, 48, 64, 128, 256}) {
+    const QImage oImage = QApplication::windowIcon().pixmap(nSize).toImage();
+    EXPECT_EQ(oImage.size(), QSize(nSize, nSize));
+    EXPECT_TRUE(oImage.hasAlphaChannel()) << nSize;
   }
 }
 
