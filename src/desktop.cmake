@@ -46,3 +46,6 @@ target_link_libraries(quillet_desktop PUBLIC quillet_core Qt6::Core Qt6::Gui Qt6
 
 include(${PROJECT_SOURCE_DIR}/cmake/Fonts.cmake)
 quillet_embed_fonts(quillet_desktop)
+file(GLOB quillet_icons CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/graphics/icons/*.png)
+qt_add_resources(quillet_desktop quillet_icons PREFIX /
+                 BASE ${PROJECT_SOURCE_DIR}/graphics FILES ${quillet_icons})
