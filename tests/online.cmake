@@ -1,0 +1,10 @@
+# The update against real servers, which only root can start.
+add_executable(online_tests
+  support/UpdateServers.cpp
+  support/main.cpp
+  online/update_test.cpp)
+target_include_directories(online_tests PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+target_compile_definitions(online_tests PRIVATE QUILLET_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+target_link_libraries(online_tests PRIVATE quillet_online quillet_region_us GTest::gtest
+                                           GTest::gmock)
+add_test(NAME online_tests COMMAND online_tests)

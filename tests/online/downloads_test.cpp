@@ -1,0 +1,212 @@
+#include "online/downloads.h"
+
+#include <cmath>
+
+#include "online/dayNumber.h"
+#include "support/FakeInternet.h"
+#include "support/OnlineTest.h"
+
+namespace quillet {
+namespace {
+
+constexpr double kNoon = 46340.5;  // 2026-11-14 12:00
+double g_fNow = kNoon;
+
+class Download : public OnlineTest {
+ protected:
+  Download() {
+    g_fNow = kNoon;
+    PutSetting(settings::kWebServer, "web");
+    PutSetting(settings::kFtpServer, "ftp:2121");
+    PutSetting(settings::kCode, "C0DE");
+    WriteTestFile(m_sLocal, "old fees");
+    m_oInternet.asFiles[m_sName] = "old fees";
+  }
+
+  FakeInternet m_oInternet;
+  Downloads m_oDownloads{m_oInternet, [] { return g_fNow; }};
+};
+
+TEST_F(Download, APassTellsItsWholeStory) {
+  m_oInternet.asFiles[m_sName] = "new fees!";
+  m_oInternet.asAnswers["getAction.asp"] = "10,Please update";
+  m_oInternet.asAnswers["getAbout.asp"] = "News";
+  ASSERT_TRUE(m_oDownloads.OpenConnection());
+  m_oDownloads.FetchActions();
+  EXPECT_EQ(m_oInternet.sLastRequest, "getAction.asp?Code=C0DE");
+  m_oDownloads.FetchUpdateFile();
+  m_oDownloads.FetchAboutText();
+  EXPECT_EQ(m_oInternet.sLastRequest, "getAbout.asp?Code=C0DE");
+  m_oDownloads.CloseConnection();
+
+  const std::string sHttp = "Start HTTP 1\n* connect 3 web:80  \nStart HTTP 2|5|6 - okay\n";
+  const std::string sAnswer =
+      "\nGetting header info 1|2|3|4|5|6|7|8|5|6|7|8|9 - okay (no fail point)\n";
+  const std::string sCloseHttp = "\nClosing Http Session 1|2|3|4 - okay (no fail point)";
+  EXPECT_EQ(Story(),
+            "Open internet connection 1|2|3|4\n* open " + EditionName() +
+                " 0 \nOpen internet connection 5|9 - okay\nDL - Special actions 1\n" + sHttp +
+                "DL - Special actions 2" + sAnswer + "DL - Special actions 3|4|5|6 - okay" +
+                sCloseHttp +
+                "\nDL - Update file 1|2|3\nDL - Update files 5\nStart FTP 1\n"
+                "* connect 1 ftp:2121 quillet rmk3816\nStart FTP 2|5|9 - okay\nDL - Update file 6\n"
+                "Matching files 1|3|4|5|6|7 - okay\nDL - Update file 7\nProc FTP 1|2|4\n"
+                "Deleting file 1|2 (No such file or directory)|3 - Success\n* get " +
+                m_sName +
+                " 2\nProc FTP 5\nDeleting file 1|3 - Success\nProc FTP 8 - okay\n"
+                "DL - Update file 8|9 - okay\nFound skip date of 12:00:00 PM Saturday, November "
+                "14, 2026\n"
+                "DL - Scrolling message 1|2|3\n" +
+                sHttp + "DL - Scrolling message 4" + sAnswer +
+                "DL - Scrolling message 5|6|7|8 - okay" + sCloseHttp +
+                "|1|4 - okay (no fail point)\n"
+                "Closing Internet Session 1|2|3|4 - okay (no fail point)");
+  EXPECT_EQ(ReadTestFile(m_sLocal), "new fees!");
+  EXPECT_EQ(SkipMark(), "");
+  EXPECT_EQ(g_sAboutText, "News");
+  EXPECT_EQ(Registry().Get(settings::kAbout), "News");
+}
+
+TEST_F(Download, AnAnswerIsANumberAndAMessage) {
+  struct Row {
+    const char* sAnswer;
+    std::int32_t lFlags;
+    const char* sMessage;
+    const char* sEnd;
+  };
+  const char* const sOkay = "3|4|5|6 - okay";
+  const char* const sFail = "3|4|7 - fail";
+  const Row aoRows[] = {{"2,Please update", 2, "Please update", sOkay},
+                        {" 10 ,text,more\r\n", 10, "text", sOkay},
+                        {"4", 4, "before", sFail},
+                        {"8,", 8, "before", sFail},
+                        {"2.5,half", 2, "half", sOkay},
+                        {"1E10,much", 0, "before", sFail},
+                        {"<html>,2", 0, "before", sOkay},
+                        {",2,late", 2, "late", sOkay},
+                        {",", 0, "before", sOkay},
+                        {"", 64, "before", "3|6 - okay"}};
+  ASSERT_TRUE(m_oDownloads.OpenConnection());
+  for (const Row& oRow : aoRows) {
+    SCOPED_TRACE(oRow.sAnswer);
+    (void)Story();
+    g_lActionFlags = 64;
+    g_sActionMessage = "before";
+    m_oInternet.asAnswers["getAction.asp"] = oRow.sAnswer;
+    m_oDownloads.FetchActions();
+    EXPECT_EQ(g_lActionFlags, oRow.lFlags);
+    EXPECT_EQ(g_sActionMessage, oRow.sMessage);
+    EXPECT_NE(Story().find("\nDL - Special actions " + std::string(oRow.sEnd)), std::string::npos);
+  }
+  m_oInternet.asAnswers["getAction.asp"] = "1," + std::string(32765, 'x');  // one too long
+  m_oDownloads.FetchActions();
+  EXPECT_EQ(g_lActionFlags, 0);
+}
+
+TEST_F(Download, ABrokenAttemptBarsTheRestOfItsDay) {
+  m_oInternet.asFiles.clear();
+  ASSERT_TRUE(m_oDownloads.OpenConnection());
+  (void)Story();
+  m_oDownloads.FetchUpdateFile();
+  EXPECT_EQ(SkipMark(), "46340.5");
+  EXPECT_TRUE(Story().ends_with("Matching files 1|3|4|5|8 - fail|9\nDL - Update file 10 - fail"));
+
+  g_fNow = kNoon + 0.49;
+  m_oDownloads.FetchUpdateFile();
+  EXPECT_EQ(Story(),
+            "DL - Update file 1|2|3\nFound skip date of 12:00:00 PM Saturday, "
+            "November 14, 2026\nDL - Update file 4 - early exit");
+  g_lActionFlags = kActionSkipUpdate;
+  m_oDownloads.FetchUpdateFile();
+  EXPECT_EQ(Story(), "DL - Update file 1");
+  EXPECT_EQ(SkipMark(), "46340.5");
+
+  g_lActionFlags = 0;
+  g_fNow = kNoon + 0.5;  // midnight
+  m_oInternet.asFiles[m_sName] = "of one size";
+  WriteTestFile(m_sLocal, "as this one");
+  m_oDownloads.FetchUpdateFile();
+  EXPECT_EQ(SkipMark(), "");
+  EXPECT_EQ(ReadTestFile(m_sLocal), "as this one");
+}
+
+TEST_F(Download, TheSkipMarkHoldsForItsCalendarDayAndAllBefore) {
+  struct Row {
+    std::string sMark;
+    double fNow;
+    bool bSkipped;
+    std::string sAfterwards;
+  };
+  const Row aoRows[] = {
+      {"", kNoon, false, "46340.5"},           {"46340.9999", 46340.0, true, "46340.9999"},
+      {"46340.9999", 46341.0, false, "46341"}, {"46340", 46340.9999, true, "46340"},
+      {"46345", kNoon, true, "46345"},  // the clock has been set back
+      {"46339.2", kNoon, false, "46340.5"},    {"yesterday", kNoon, false, "46340.5"},
+      {"46340,2", kNoon, false, "46340.5"},    {"1E300", kNoon, false, "46340.5"}};
+  for (const Row& oRow : aoRows) {
+    SCOPED_TRACE(oRow.sMark);
+    PutSetting(settings::kFtpSkipFlag, oRow.sMark);
+    g_fNow = oRow.fNow;
+    EXPECT_EQ(m_oDownloads.IsUpdateSkipped(), oRow.bSkipped);
+    EXPECT_EQ(SkipMark(), oRow.sAfterwards);
+  }
+}
+
+TEST_F(Download, AMarkThatMidnightHasOvertakenIsRenewedInsteadOfTakenAway) {
+  m_oDownloads.SetUpdateSkip(false);
+  g_fNow += 1;
+  m_oDownloads.SetUpdateSkip(true);
+  EXPECT_EQ(SkipMark(), "46341.5");
+  m_oDownloads.SetUpdateSkip(true);
+  EXPECT_EQ(SkipMark(), "");
+  EXPECT_FALSE(
+      m_oHive.asValues.contains({HiveRoot::User, RegistryRoot() + "\\Config", "FTPSkipFlag"}));
+}
+
+TEST_F(Download, TheAboutTextStaysForThisRunWhereItCanNotBeStored) {
+  ASSERT_TRUE(m_oDownloads.OpenConnection());
+  (void)Story();
+  m_oInternet.asAnswers["getAbout.asp"] = "News";
+  m_oDownloads.FetchAboutText();
+  EXPECT_EQ(Story(),
+            "DL - Scrolling message 1|2|8 - okay\n"
+            "Closing Http Session 1|4 - okay (no fail point)");
+  EXPECT_EQ(g_sAboutText, "Welcome");
+  g_lActionFlags = kActionAboutText;
+  m_oInternet.bConnects = false;
+  m_oDownloads.FetchAboutText();
+  EXPECT_TRUE(Story().ends_with("\nStart HTTP 4\nDL - Scrolling message 9 - fail"));
+  m_oInternet.bConnects = true;
+  m_oHive.bWritable = false;
+  m_oDownloads.FetchAboutText();
+  EXPECT_EQ(g_sAboutText, "News");
+}
+
+TEST_F(Download, TheCodeIsMadeOnceForAnInstallation) {
+  m_oHive.Clear();
+  m_oDownloads.FetchActions();
+  const std::string sFirst = m_oInternet.sLastRequest;
+  EXPECT_EQ(sFirst.size(), std::string("getAction.asp?Code=").size() + 32);
+  m_oDownloads.FetchActions();
+  EXPECT_EQ(m_oInternet.sLastRequest, sFirst);
+  m_oHive.Clear();
+  m_oDownloads.FetchActions();
+  EXPECT_NE(m_oInternet.sLastRequest, sFirst);
+}
+
+TEST(DayNumber, HoldsTheTimeInTheUsersDigits) {
+  ScopedHost oHost;
+  oHost.sDecimalSeparator = ",";
+  constexpr double kMoment = 46340 + (9 * 3600 + 5 * 60 + 7) / 86400.0;
+  const std::string sText = DayNumberText(kMoment);
+  EXPECT_EQ(sText, "46340,3785532407");
+  EXPECT_EQ(LongTimeAndDate(ReadDayNumber(sText).value()),
+            "09:05:07 AM Saturday, November 14, 2026");
+  EXPECT_EQ(LongTimeAndDate(0), "12:00:00 AM Saturday, December 30, 1899");
+  const std::time_t nNow = std::time(nullptr);
+  const double fDays = static_cast<double>(nNow + std::localtime(&nNow)->tm_gmtoff) / 86400;
+  EXPECT_NEAR(CurrentDayNumber(), fDays + 25569, 5.0 / 86400);  // 25569: 1970-01-01
+}
+
+}  // namespace
+}  // namespace quillet

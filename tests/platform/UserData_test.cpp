@@ -1,0 +1,54 @@
+#include "platform/UserData.h"
+
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+
+#include "support/OnlineTest.h"
+
+namespace quillet {
+namespace {
+
+using UserData = OnlineTest;
+
+TEST_F(UserData, AFolderThatCanBeWrittenIsKept) {
+  ::setenv("XDG_DATA_HOME", "/data", 1);
+  EXPECT_EQ(FolderForChanges(m_oFolder.sPath), m_oFolder.sPath);
+  const std::string sClosed = m_oFolder / "missing";
+  EXPECT_EQ(FolderForChanges(sClosed), "/data/quillet");
+  ::setenv("XDG_DATA_HOME", "relative", 1);
+  ::setenv("HOME", "/home/ann", 1);
+  EXPECT_EQ(FolderForChanges(sClosed), "/home/ann/.local/share/quillet");
+  ::unsetenv("XDG_DATA_HOME");
+  ::unsetenv("HOME");
+  EXPECT_EQ(FolderForChanges(sClosed), sClosed);
+}
+
+TEST_F(UserData, AnOlderShippedScheduleNeverReplacesTheUsersCopy) {
+  EXPECT_EQ(UpdateFileName(false), m_sLocal);
+  m_oHost.sDataFolder = m_oFolder / "share/quillet";
+  const std::string sOwn = m_oHost.sDataFolder + "/" + m_sName;
+  EXPECT_EQ(UpdateFileName(false), m_sLocal);  // nothing to copy: the message will name this one
+
+  WriteTestFile(m_sLocal, "shipped");
+  EXPECT_EQ(UpdateFileName(false), sOwn);
+  EXPECT_EQ(ReadTestFile(sOwn), "shipped");
+
+  const auto oShipped = std::filesystem::last_write_time(m_sLocal);
+  WriteTestFile(sOwn, "fetched");
+  for (const auto& [nSecondsLater, sExpected] :
+       {std::pair{1, "fetched"}, {0, "fetched"}, {-1, "shipped"}}) {
+    std::filesystem::last_write_time(sOwn, oShipped + std::chrono::seconds(nSecondsLater));
+    EXPECT_EQ(UpdateFileName(false), sOwn);
+    EXPECT_EQ(ReadTestFile(sOwn), sExpected) << nSecondsLater;
+  }
+}
+
+TEST_F(UserData, WhereNoCopyCanBeMadeTheShippedScheduleIsUsed) {
+  WriteTestFile(m_sLocal, "shipped");
+  m_oHost.sDataFolder = m_sLocal + "/below a file";
+  EXPECT_EQ(UpdateFileName(false), m_sLocal);
+}
+
+}  // namespace
+}  // namespace quillet
