@@ -35,10 +35,12 @@ add_library(quillet_desktop STATIC
   sections/ctlSubControlExample.cpp
   shell/SectionSet.cpp
   shell/WizardSteps.cpp
+  shell/DesktopApplication.cpp
   shell/card.cpp
   shell/ctlCalculator.cpp
   shell/ctlWizard.cpp
   shell/formPosition.cpp
+  shell/frmMain.cpp
   shell/zoomSteps.cpp
   )
 set_target_properties(quillet_desktop PROPERTIES AUTOMOC ON AUTORCC ON)

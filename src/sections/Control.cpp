@@ -1,6 +1,7 @@
 #include "sections/Control.h"
 
 #include <QWidget>
+#include <algorithm>
 
 #include "platform/qt/Theme.h"
 
@@ -18,8 +19,9 @@ void Control::Place(int nLeft, int nTop, int nWidth, int nHeight) {
   m_nHeight = nHeight;
   // From edge to edge, so that neighbours meet at every zoom.
   const QPoint oTopLeft(Pixels(nLeft), Pixels(nTop));
-  m_oWidget->setGeometry(
-      {oTopLeft, QPoint(Pixels(nLeft + nWidth) - 1, Pixels(nTop + nHeight) - 1)});
+  QRect oPlace(oTopLeft, QPoint(Pixels(nLeft + nWidth) - 1, Pixels(nTop + nHeight) - 1));
+  oPlace.setWidth(std::max(oPlace.width(), PixelsForCaption()));
+  m_oWidget->setGeometry(oPlace);
   Placed();
 }
 

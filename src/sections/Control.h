@@ -66,6 +66,10 @@ class Control {
  protected:
   explicit Control(QWidget& oWidget) : m_oWidget(&oWidget) {}
 
+  /// How wide the widget must be for its caption not to be cut off: where the design has been too
+  /// narrow for the font, the widget reaches beyond its place to the right.
+  [[nodiscard]] virtual int PixelsForCaption() const { return 0; }
+
   /// Called at the end of Place, for what follows the control's size.
   virtual void Placed() {}
 

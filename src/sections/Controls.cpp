@@ -95,6 +95,11 @@ void Label::Rescale() {
 
 CheckBox::CheckBox(QWidget* pParent) : QCheckBox(pParent), Choice(static_cast<QWidget&>(*this)) {}
 
+void CheckBox::SetCaption(const QString& sCaption) {
+  setText(sCaption);
+  SetWidth(Width());
+}
+
 QSize CheckBox::sizeHint() const {
   return CaptionSize(*this);
 }
@@ -121,6 +126,11 @@ OptionButton::OptionButton(QWidget* pParent)
   setAutoExclusive(false);
   // Before any other listener, so that a click finds one option chosen at the most.
   connect(this, &QAbstractButton::toggled, this, &OptionButton::PutOutOthers);
+}
+
+void OptionButton::SetCaption(const QString& sCaption) {
+  setText(sCaption);
+  SetWidth(Width());
 }
 
 QSize OptionButton::sizeHint() const {

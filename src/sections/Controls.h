@@ -33,12 +33,13 @@ class CheckBox : public QCheckBox, public Choice {
   explicit CheckBox(QWidget* pParent);
   [[nodiscard]] const char* TypeName() const override { return "CheckBox"; }
   [[nodiscard]] QString Caption() const override { return text(); }
-  void SetCaption(const QString& sCaption) override { setText(sCaption); }
+  void SetCaption(const QString& sCaption) override;
   [[nodiscard]] int Value() const override { return isChecked() ? 1 : 0; }
   void SetValue(int nValue) override { setChecked(nValue != 0); }
   [[nodiscard]] QSize sizeHint() const override;
 
  protected:
+  [[nodiscard]] int PixelsForCaption() const override { return sizeHint().width(); }
   void paintEvent(QPaintEvent* pEvent) override;
   [[nodiscard]] bool hitButton(const QPoint& oAt) const override { return rect().contains(oAt); }
 };
@@ -50,12 +51,13 @@ class OptionButton : public QRadioButton, public Choice {
   explicit OptionButton(QWidget* pParent);
   [[nodiscard]] const char* TypeName() const override { return "OptionButton"; }
   [[nodiscard]] QString Caption() const override { return text(); }
-  void SetCaption(const QString& sCaption) override { setText(sCaption); }
+  void SetCaption(const QString& sCaption) override;
   [[nodiscard]] int Value() const override { return isChecked() ? 1 : 0; }
   void SetValue(int nValue) override { setChecked(nValue != 0); }
   [[nodiscard]] QSize sizeHint() const override;
 
  protected:
+  [[nodiscard]] int PixelsForCaption() const override { return sizeHint().width(); }
   void paintEvent(QPaintEvent* pEvent) override;
   void keyPressEvent(QKeyEvent* pEvent) override;
   void nextCheckState() override { setChecked(true); }

@@ -27,7 +27,7 @@ QPainterPath PathOf(ButtonPicture ePicture, const QRectF& oSquare) {
   QPainterPath oPath;
   for (const QPointF& oPoint : aoPoints) {
     const QPointF oAt = oSquare.topLeft() + oPoint * oSquare.width();
-    if (oPath.isEmpty()) {
+    if (oPath.elementCount() == 0) {
       oPath.moveTo(oAt);
     } else {
       oPath.lineTo(oAt);

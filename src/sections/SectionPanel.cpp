@@ -231,20 +231,33 @@ void SectionPanel::showEvent(QShowEvent* pEvent) {
   LoadShowChecks();
 }
 
-/// The section's name, small, in the place of the header while that is hidden.
+int SectionPanel::ContentLeft() const {
+  int nLeft = Width();
+  for (const Control* const pControl : m_aoControls) {
+    nLeft = IsRow(*pControl) ? std::min(nLeft, pControl->Left()) : nLeft;
+  }
+  return nLeft;
+}
+
+/// A section covers what it was dragged onto, and bears its name, small, in the place of the header
+/// while that is hidden.
 void SectionPanel::paintEvent(QPaintEvent* /*pEvent*/) {
   const Image* const pHeader = Header();
-  if (pHeader == nullptr || pHeader->Visible() || Height() == 0) {
+  if (pHeader == nullptr) {
+    return;
+  }
+  QPainter oPainter(this);
+  oPainter.fillRect(rect(), InkColour(Ink::Panel));
+  if (pHeader->Visible()) {
     return;
   }
   QFont oFont = ThemeFont(kTitlePoints, QFont::DemiBold);
   oFont.setLetterSpacing(QFont::PercentageSpacing, 112);
   oFont.setCapitalization(QFont::AllUppercase);
-  QPainter oPainter(this);
   oPainter.setFont(oFont);
   oPainter.setPen(InkColour(Ink::FaintText));
-  oPainter.drawText(QRect(0, 0, width(), Pixels(kTitleHeight)), Qt::AlignVCenter | Qt::AlignLeft,
-                    QString::fromUtf8(Title()));
+  oPainter.drawText(QRect(Pixels(ContentLeft()), 0, width(), Pixels(kTitleHeight)),
+                    Qt::AlignVCenter | Qt::AlignLeft, QString::fromUtf8(Title()));
 }
 
 void SectionPanel::Placed() {

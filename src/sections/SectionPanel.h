@@ -96,6 +96,9 @@ class SectionPanel : public QWidget, public Control {
   [[nodiscard]] Control* Find(std::string_view sName) const;
   [[nodiscard]] const std::vector<Control*>& Controls() const { return m_aoControls; }
 
+  /// Where the rows begin, in twips from the panel's left.
+  [[nodiscard]] int ContentLeft() const;
+
   /// Every input, those of sub-controls too, row by row.
   [[nodiscard]] QList<QWidget*> InputsInReadingOrder() const;
 

@@ -48,12 +48,7 @@ constexpr PanelDesign kDesign = {.sTypeName = "ctlAuctionType",
                                  .nHeight = 7485,
                                  .aoControls = kControls};
 
-struct KindOption {
-  const char* sName;
-  std::int32_t nKind;
-};
-
-constexpr std::array kKinds = std::to_array<KindOption>({
+constexpr std::array kKinds = std::to_array<OptionCode>({
     {"optStandardAution", kAuctionStandard},
     {"optMotorAuction", kAuctionMotor},
     {"optRealEstateAuction", kAuctionRealEstate},
@@ -69,9 +64,7 @@ ctlAuctionType::ctlAuctionType(QWidget* pParent) : SectionPanel(kDesign, pParent
 /// differs from the listing's, the two flags on screen overwrite the listing's.
 void ctlAuctionType::ApplyAuctionType(clsAuctionType& oAuctionType) {
   m_oAuctionType = &oAuctionType;
-  for (const KindOption& oKind : kKinds) {
-    SetValueOf(oKind.sName, oAuctionType.m_eAuctionType == oKind.nKind ? 1 : 0);
-  }
+  SetChosen(kKinds, oAuctionType.m_eAuctionType);
   SetValueOf("chkBuyItNow", oAuctionType.m_bBuyItNowOnly ? 1 : 0);
   The<ctlMotorOptions>("ctlMotorAuction").ApplyAuctionType(oAuctionType);
   The<ctlRealEstateOptions>("ctlRealEstateOption").ApplyAuctionType(oAuctionType);
@@ -109,11 +102,7 @@ void ctlAuctionType::UpdateModel() {
   if (m_bApplying || m_oAuctionType == nullptr) {
     return;
   }
-  for (const KindOption& oKind : kKinds) {
-    if (ValueOf(oKind.sName) != 0) {
-      m_oAuctionType->m_eAuctionType = oKind.nKind;
-    }
-  }
+  m_oAuctionType->m_eAuctionType = ChosenOf(kKinds, m_oAuctionType->m_eAuctionType);
   m_oAuctionType->m_bBuyItNowOnly = ValueOf("chkBuyItNow") != 0;
   m_oAuctionType->m_bShopInventory = ValueOf("chkShopInventory") != 0;
   if (!m_oAuctionType->m_bShopInventory) {

@@ -43,13 +43,14 @@ void DrawCard(QPainter& oPainter, const QRectF& oCard) {
   oPainter.drawRoundedRect(oCard.adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
 }
 
-QRectF CardOf(const Control& oControl) {
+QRectF CardOf(const SectionPanel& oSection) {
   constexpr int kSides = 105;
   constexpr int kAbove = 60;
   constexpr int kBelow = 120;
-  return {QPointF(Pixels(oControl.Left() - kSides), Pixels(oControl.Top() - kAbove)),
-          QPointF(Pixels(oControl.Left() + oControl.Width() + kSides),
-                  Pixels(oControl.Top() + oControl.Height() + kBelow))};
+  return {QPointF(Pixels(oSection.Left() + oSection.ContentLeft() - kSides),
+                  Pixels(oSection.Top() - kAbove)),
+          QPointF(Pixels(oSection.Left() + oSection.Width() + kSides),
+                  Pixels(oSection.Top() + oSection.Height() + kBelow))};
 }
 
 bool Holds(const SectionPanel& oSection, const QWidget* pWidget) {

@@ -21,32 +21,6 @@
 
 namespace quillet {
 
-/// Holds one section, on a card that moves with it.
-class PageFrame : public Frame {
- public:
-  PageFrame(SectionPanel& oSection, QWidget* pParent) : Frame(pParent), m_oSection(oSection) {
-    oSection.setParent(this);
-    oSection.setVisible(true);
-  }
-
- protected:
-  void paintEvent(QPaintEvent* /*pEvent*/) override {
-    constexpr int kSides = 15;
-    constexpr int kAbove = 60;
-    constexpr int kBelow = 120;
-    QPainter oPainter(this);
-    oPainter.setRenderHint(QPainter::Antialiasing);
-    if (m_oSection.Height() > 0) {
-      const int nBottom = m_oSection.Top() + m_oSection.Height() + kBelow;
-      DrawCard(oPainter, {QPointF(Pixels(kSides), Pixels(m_oSection.Top() - kAbove)),
-                          QPointF(width() - Pixels(kSides), Pixels(nBottom))});
-    }
-  }
-
- private:
-  const SectionPanel& m_oSection;
-};
-
 namespace {
 
 // Places in twips.
@@ -72,8 +46,15 @@ std::string PageInfoText(std::int16_t nFrame) {
   return Registry().Get(settings::kPageInfo.at(static_cast<std::size_t>(nFrame)));
 }
 
-std::size_t Index(int nIndex) {
-  return static_cast<std::size_t>(nIndex);
+/// As wide to the left as to the right of the frame's middle, which the instruction stands above.
+QRectF CardOf(const Control& oFrame, const SectionPanel& oSection) {
+  constexpr int kSides = 225;
+  constexpr int kAbove = 105;
+  constexpr int kBelow = 165;
+  const int nLeft = oSection.Left() + oSection.ContentLeft() - kSides;
+  return {QPointF(Pixels(oFrame.Left() + nLeft), Pixels(oSection.Top() - kAbove)),
+          QPointF(Pixels(oFrame.Left() + oFrame.Width() - nLeft),
+                  Pixels(oSection.Top() + oSection.Height() + kBelow))};
 }
 
 }  // namespace
@@ -147,8 +128,10 @@ void ctlWizard::MakeFrames() {
   });
   for (std::size_t i = 0; i < aoFrames.size(); ++i) {
     const auto& [nWidth, nHeight, oSection, nLeft, nSectionWidth, nSectionHeight] = aoFrames.at(i);
-    m_apPages.at(i) = Make<PageFrame>("fraPages", oSection, m_pViewPort);
+    m_apPages.at(i) = Make<Frame>("fraPages", m_pViewPort);
     m_apPages.at(i)->Place(0, 0, nWidth, nHeight);
+    oSection.setParent(m_apPages.at(i));
+    oSection.SetVisible(true);
     oSection.Place(nLeft, kSectionTop, nSectionWidth, nSectionHeight);
     connect(&oSection, &SectionPanel::Changed, this, [this] { RefreshSums(true); });
   }
@@ -229,7 +212,7 @@ void ctlWizard::ShowPage(std::int16_t nPage) {
       TurnTo(tPage);
     } else {
       tPage.oSection->SetVisible(false);
-      m_apPages.at(Index(tPage.nFrame))->SetVisible(false);
+      FrameOf(tPage).SetVisible(false);
     }
   }
   FocusFirstInput();
@@ -242,7 +225,7 @@ void ctlWizard::TurnTo(const WizardPage& tPage) {
   m_tCurrent = tPage;
   SectionPanel& oSection = *tPage.oSection;
   CentreFrame();
-  m_apPages.at(Index(tPage.nFrame))->SetVisible(true);
+  FrameOf(tPage).SetVisible(true);
   m_pInfo->SetCaption(QString::fromStdString(tPage.sInfo));
   m_pSteps->SetCurrent(tPage.lIndex);
   oSection.SetShowConfig(false);
@@ -256,8 +239,12 @@ void ctlWizard::TurnTo(const WizardPage& tPage) {
   m_pCancel->SetVisible(true);
 }
 
+Frame& ctlWizard::FrameOf(const WizardPage& tPage) const {
+  return *m_apPages.at(static_cast<std::size_t>(tPage.nFrame));
+}
+
 void ctlWizard::CentreFrame() {
-  PageFrame& oFrame = *m_apPages.at(Index(m_tCurrent->nFrame));
+  Frame& oFrame = FrameOf(*m_tCurrent);
   oFrame.SetLeft(RoundToLong(Width() / 2.0 - oFrame.Width() / 2.0));
   oFrame.SetTop(0);
 }
@@ -268,15 +255,20 @@ void ctlWizard::UpdateScrollBar() {
   if (!m_tCurrent) {
     return;
   }
+  const Frame& oFrame = FrameOf(*m_tCurrent);
+  const SectionPanel& oSection = *m_tCurrent->oSection;
   const int nHeight = m_pViewPort->Height();
-  if (nHeight >= m_tCurrent->oSection->Height()) {
+  // A section may have grown taller than its frame: what is drawn of it isn't cut off there.
+  oFrame.Widget().resize(oFrame.Widget().width(),
+                         Pixels(std::max(oFrame.Height(), oSection.Top() + oSection.Height())));
+  if (nHeight >= oSection.Height()) {
     m_pVert->SetVisible(false);
     return;
   }
   constexpr int kSteps = 50;
   constexpr int kStepsInLargeOne = 10;
   m_pVert->Place(m_pViewPort->Width() - 2 * m_pVert->Width(), 0, m_pVert->Width(), nHeight);
-  m_pVert->setRange(0, std::max(0, m_apPages.at(Index(m_tCurrent->nFrame))->Height() - nHeight));
+  m_pVert->setRange(0, std::max(0, oFrame.Height() - nHeight));
   m_pVert->setSingleStep(std::max(1, m_pVert->maximum() / kSteps));
   m_pVert->setPageStep(m_pVert->singleStep() * kStepsInLargeOne);
   m_pVert->setValue(0);
@@ -287,7 +279,6 @@ void ctlWizard::UpdateScrollBar() {
 void ctlWizard::vsbVert_Change() {
   if (m_tCurrent) {
     m_tCurrent->oSection->SetTop(-m_pVert->value());
-    m_apPages.at(Index(m_tCurrent->nFrame))->update();
     update();
   }
 }
@@ -336,17 +327,28 @@ void ctlWizard::UserControl_Resize() {
   update();
 }
 
-/// The band of the summary and the buttons, below its rule; and a rule where a scrolled page goes
-/// on above what is on view.
+/// The card of the page's section, and the band of the summary and the buttons, below its rule.
 void ctlWizard::paintEvent(QPaintEvent* /*pEvent*/) {
   QPainter oPainter(this);
   oPainter.fillRect(rect(), InkColour(Ink::Ground));
   const int nLine = Pixels(m_lLineTop);
   oPainter.fillRect(QRect(0, nLine, width(), std::max(0, height() - nLine)), InkColour(Ink::Panel));
   oPainter.fillRect(QRect(0, nLine, width(), 1), InkColour(Ink::Hairline));
-  if (m_tCurrent && m_tCurrent->oSection->Top() <= 0) {
-    const PageFrame& oFrame = *m_apPages.at(Index(m_tCurrent->nFrame));
-    oPainter.fillRect(QRect(oFrame.x(), m_pViewPort->y() - 1, oFrame.width(), 1),
+  if (m_tCurrent && m_tCurrent->oSection->Height() > 0) {
+    PaintCard(oPainter);
+  }
+}
+
+/// As much of it as the viewport shows. Where it is scrolled, a rule closes it above.
+void ctlWizard::PaintCard(QPainter& oPainter) const {
+  const QRect oView = m_pViewPort->geometry();
+  const QRectF oCard =
+      CardOf(FrameOf(*m_tCurrent), *m_tCurrent->oSection).translated(oView.topLeft());
+  oPainter.setClipRect(oView);
+  oPainter.setRenderHint(QPainter::Antialiasing);
+  DrawCard(oPainter, oCard);
+  if (oCard.top() < oView.top()) {
+    oPainter.fillRect(QRectF(oCard.left(), oView.top(), oCard.width(), 1),
                       InkColour(Ink::Hairline));
   }
 }

@@ -8,13 +8,12 @@
 #include <optional>
 #include <string>
 
-#include "sections/Control.h"
+#include "sections/Controls.h"
 #include "shell/SectionSet.h"
 
 namespace quillet {
 
 class ImageButton;
-class PageFrame;
 class ScrollBar;
 class WizardSteps;
 
@@ -67,6 +66,7 @@ class ctlWizard : public QWidget, public Control {
   void UserControl_Resize();
   void ShowPage(std::int16_t nPage);
   void TurnTo(const WizardPage& tPage);
+  [[nodiscard]] Frame& FrameOf(const WizardPage& tPage) const;
   void CentreFrame();
   void UpdateScrollBar();
   void vsbVert_Change();
@@ -77,6 +77,7 @@ class ctlWizard : public QWidget, public Control {
   void LeaveInput();
   void FocusFirstInput();
   void ScrollTo(const QWidget* pInput);
+  void PaintCard(QPainter& oPainter) const;
 
   SectionSet m_oSet;
   std::array<WizardPage, 5> m_aPages;
@@ -89,7 +90,7 @@ class ctlWizard : public QWidget, public Control {
   ImageButton* m_pBack;
   ImageButton* m_pNext;
   ImageButton* m_pCancel;
-  std::array<PageFrame*, 5> m_apPages{};
+  std::array<Frame*, 5> m_apPages{};
   int m_lLineTop = 0;  ///< of the rule above the summary, twips
   int m_lLaidWidth = -1;
   int m_lLaidHeight = -1;

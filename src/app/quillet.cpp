@@ -1,0 +1,37 @@
+// The desktop program: chooses the host, starts, and hands over to the event loop.
+#include <QApplication>
+#include <QIcon>
+
+#include "base/basCommon.h"
+#include "base/basMain.h"
+#include "base/clsRegistryAccess.h"
+#include "base/version.h"
+#include "platform/qt/QtHost.h"
+#include "platform/qt/QtSettingsHive.h"
+#include "platform/qt/Theme.h"
+#include "shell/DesktopApplication.h"
+
+int main(int nArguments, char** asArguments) {
+  using namespace quillet;
+  QApplication oQt(nArguments, asArguments);
+  QApplication::setApplicationName("Quillet");
+  QApplication::setApplicationDisplayName(QString());
+  QApplication::setApplicationVersion(kVersion);
+  QApplication::setQuitOnLastWindowClosed(false);  // the splash comes and goes before the window
+
+  InstallTheme();
+  QtHost oHost;
+  SetHost(oHost);
+  QtSettingsHive oSettings;
+  SetRegistryHive(oSettings);
+  DesktopApplication oApplication;
+  SetApplication(oApplication);
+  Main();
+
+  QApplication::setQuitOnLastWindowClosed(true);
+  // A start that had to close the window again has nothing left to run.
+  const int nStatus = g_frmMain != nullptr ? QApplication::exec() : 0;
+  g_frmMain.reset();
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  return nStatus;
+}

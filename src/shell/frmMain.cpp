@@ -1,0 +1,347 @@
+#include "shell/frmMain.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLineEdit>
+#include <QScreen>
+#include <QShortcut>
+#include <QWheelEvent>
+#include <algorithm>
+#include <cmath>
+
+#include "base/basCommon.h"
+#include "base/basError.h"
+#include "base/clsRegistryAccess.h"
+#include "base/conversions.h"
+#include "base/failure.h"
+#include "platform/Files.h"
+#include "platform/qt/ShockwaveFlash.h"
+#include "platform/qt/Theme.h"
+#include "shell/formPosition.h"
+#include "shell/zoomSteps.h"
+
+namespace quillet {
+namespace {
+
+// Places in twips.
+constexpr int kWindowWidth = 11805;
+constexpr int kWindowHeight = 8010;
+constexpr int kRhsLeft = 1590;
+constexpr int kLhsWidth = 1575;
+constexpr int kButtonLeft = 240;
+constexpr int kButtonSize = 1080;
+constexpr int kFirstButtonTop = 240;
+constexpr int kAboutTop = 6720;
+constexpr int kFrameHeight = 11055;
+
+struct ButtonDesign {
+  const char* sMovie;
+  const char* sToolTip;
+  const char* sShortcut;
+};
+
+constexpr std::array<ButtonDesign, 6> kButtons = {{
+    {"\\Graphics\\Buttons\\New_button.swf", "New Auction", "Ctrl+N"},
+    {"\\Graphics\\Buttons\\Calc_button.swf", "Calculator", "Ctrl+1"},
+    {"\\Graphics\\Buttons\\Wizard_button.swf", "Wizard", "Ctrl+2"},
+    {"\\Graphics\\Buttons\\Save_button.swf", "Save", "Ctrl+S"},
+    {"\\Graphics\\Buttons\\Load_button.swf", "Load", "Ctrl+O"},
+    {"\\Graphics\\Buttons\\Config_button.swf", "Default Configuration", "Ctrl+,"},
+}};
+constexpr ButtonDesign kAboutButton = {"\\Graphics\\Buttons\\About_button.swf", "About", "F1"};
+
+QString ToolTipOf(const ButtonDesign& oButton) {
+  const QKeySequence oKeys(QString::fromLatin1(oButton.sShortcut));
+  return QString("%1 (%2)").arg(oButton.sToolTip, oKeys.toString(QKeySequence::NativeText));
+}
+
+/// A button that plays a movie, and calls `fnClick` when the movie sends "click" in any case.
+template <typename Click>
+ShockwaveFlash* MakeButton(const ButtonDesign& oButton, const char* sName, QWidget* pParent,
+                           Click&& fnClick) {
+  auto* const pButton = new ShockwaveFlash(pParent);
+  pButton->setObjectName(sName);
+  pButton->SetMovie(
+      QString::fromStdString(NativePath(TheHost().ProgramFolder() + std::string(oButton.sMovie))));
+  pButton->setToolTip(ToolTipOf(oButton));
+  pButton->setAccessibleName(oButton.sToolTip);
+  QObject::connect(pButton, &ShockwaveFlash::FSCommand, pParent,
+                   [fnClick](const QString& sCommand, const QString& /*sArguments*/) {
+                     if (sCommand.toLower() == "click") {
+                       IgnoreFailure(fnClick);
+                     }
+                   });
+  return pButton;
+}
+
+void PlaceInTwips(QWidget& oWidget, int nLeft, int nTop, int nWidth, int nHeight) {
+  oWidget.setGeometry(Pixels(nLeft), Pixels(nTop), Pixels(nWidth), Pixels(nHeight));
+}
+
+}  // namespace
+
+frmMain::frmMain()
+    : m_sCaption(EditionName()),
+      m_oDocuments(*this, m_sCaption),
+      m_pLhs(new Frame(this)),
+      m_pRhs(new Frame(this)),
+      m_pCalculator(new ctlCalculator(m_pRhs)) {
+  setObjectName("frmMain");
+  m_pLhs->SetName("fraLHS");
+  m_pRhs->SetName("fraRHS");
+  m_pCalculator->SetName("ctlCalculator1");
+  m_pCalculator->SetVisible(false);
+  MakeButtons();
+  MakeShortcuts();
+  connect(m_pCalculator, &ctlCalculator::Changed, this, [this](bool bDocDirty) {
+    SetWindowTitle(m_pCalculator->ConfigMode() ? kDefaultAuctionTitle : m_oDocuments.FileName(),
+                   bDocDirty);
+  });
+}
+
+void frmMain::MakeButtons() {
+  for (int i = 0; i < static_cast<int>(m_apMenuButtons.size()); ++i) {
+    const auto nIndex = static_cast<std::size_t>(i);
+    m_apMenuButtons.at(nIndex) = MakeButton(kButtons.at(nIndex), "swfVerticalMenuButtons", m_pLhs,
+                                            [this, i] { ClickButton(i); });
+  }
+  m_pAbout = MakeButton(kAboutButton, "swfAbout", m_pLhs, [this] { ShowAboutBox(); });
+}
+
+void frmMain::MakeShortcuts() {
+  const auto fnAdd = [this](const QKeySequence& oKeys, const auto& fnAction) {
+    auto* const pShortcut = new QShortcut(oKeys, this);
+    connect(pShortcut, &QShortcut::activated, this, [fnAction] { IgnoreFailure(fnAction); });
+  };
+  for (int i = 0; i < static_cast<int>(kButtons.size()); ++i) {
+    fnAdd(QKeySequence(kButtons.at(static_cast<std::size_t>(i)).sShortcut),
+          [this, i] { ClickButton(i); });
+  }
+  fnAdd(QKeySequence(kAboutButton.sShortcut), [this] { ShowAboutBox(); });
+  fnAdd(QKeySequence("Ctrl+Q"), [this] { close(); });
+  const auto fnStep = [this](bool bLarger) {
+    SetZoomPercent(NextZoomStep(static_cast<int>(std::lround(Zoom() * 100)), bLarger));
+  };
+  for (const char* const sKeys : {"Ctrl++", "Ctrl+="}) {
+    fnAdd(QKeySequence(sKeys), [fnStep] { fnStep(true); });
+  }
+  fnAdd(QKeySequence("Ctrl+-"), [fnStep] { fnStep(false); });
+  fnAdd(QKeySequence("Ctrl+0"), [this] { SetZoomPercent(100); });
+}
+
+void frmMain::Show() {
+  Form_Load();
+  show();
+  Form_Activate();
+}
+
+void frmMain::Form_Load() {
+  const auto nZoom = ToLong(Registry().Get(settings::kZoom));
+  m_bFirstStart = !nZoom || !IsZoomStep(*nZoom);
+  SetZoom(m_bFirstStart ? 1.0 : *nZoom / 100.0);
+  m_lMinWidth = kWindowWidth;
+  m_lMinHeight = kWindowHeight;
+  m_lAboutBottomGap = m_lMinHeight - kAboutTop;
+  resize(Pixels(kWindowWidth), Pixels(kWindowHeight));
+  Rescale();
+  RestoreFormPosition(*this);
+  m_oDocuments.SaveOrLoadDefaultAuction(false);
+}
+
+void frmMain::Form_Activate() {
+  const std::string sStartMode = Registry().GetOrCreate(settings::kStartMode);
+  if (!m_bFirstActivate) {
+    return;
+  }
+  m_bFirstActivate = false;
+  IgnoreFailure([&] {
+    if (sStartMode == "0") {
+      m_oDocuments.StartWizard();
+    } else {
+      m_oDocuments.NewAuction();
+    }
+  });
+  if (m_bFirstStart) {
+    FitFirstStart();
+  }
+}
+
+/// The first start of all: the largest zoom at which the whole calculator fits the screen, and a
+/// window that holds it.
+void frmMain::FitFirstStart() {
+  constexpr int kMargin = 240;
+  constexpr double kTwipsPerPixel = 15.0;
+  int nWidth = 0;
+  int nHeight = 0;
+  m_pCalculator->WholeSize(nWidth, nHeight);
+  nWidth += kRhsLeft + kMargin;
+  nHeight += kMargin;
+  const QSize oFrame = frameGeometry().size() - size();
+  const QSize oRoom = screen()->availableSize() - oFrame;
+  SetZoomPercent(LargestFittingZoom(nWidth / kTwipsPerPixel, nHeight / kTwipsPerPixel,
+                                    oRoom.width(), oRoom.height()));
+  resize(QSize(Pixels(nWidth), Pixels(nHeight)).boundedTo(oRoom));
+  const QRect oScreen = screen()->availableGeometry();
+  move(oScreen.center() - QPoint(frameGeometry().width() / 2, frameGeometry().height() / 2));
+}
+
+void frmMain::ClickButton(int nIndex) {
+  CommitTyping();
+  switch (nIndex) {
+    case kButtonNew:
+      m_oDocuments.NewAuction();
+      Form_Resize();
+      break;
+    case kButtonCalculator:
+      ShowCalculator();
+      break;
+    case kButtonWizard:
+      m_oDocuments.StartWizard();
+      break;
+    case kButtonSave:
+      if (m_pCalculator->ConfigMode()) {
+        m_oDocuments.SaveOrLoadDefaultAuction(true);
+      } else {
+        m_oDocuments.SaveOrLoadAuction(true);
+      }
+      break;
+    case kButtonLoad:
+      if (!m_pCalculator->ConfigMode()) {
+        m_oDocuments.SaveOrLoadAuction(false);
+      }
+      break;
+    case kButtonConfig:
+      ShowConfiguration();
+      break;
+    default:
+      ShowMessage("Button not recognised", kMessageInformation, "");
+  }
+}
+
+void frmMain::ShowCalculator() {
+  PushDocument(false, WorkingAuction(), m_oDocuments.FileName());
+  MarkCurrent(kButtonCalculator);
+}
+
+/// The stored default auction replaces what is unsaved of it, without a word.
+void frmMain::ShowConfiguration() {
+  m_oDocuments.SaveOrLoadDefaultAuction(false);
+  PushDocument(true, DefaultAuction(), kDefaultAuctionTitle);
+  MarkCurrent(kButtonConfig);
+}
+
+void frmMain::PushDocument(bool bConfigMode, clsCalculate& oDocument, const std::string& sTitle) {
+  m_pCalculator->SetVisible(true);
+  m_pCalculator->SetConfigMode(bConfigMode);
+  m_pCalculator->RefreshSums(true, &oDocument);
+  m_pCalculator->CalcMinSize(m_lCalcMinWidth, m_lCalcMinHeight);
+  SetWindowTitle(sTitle, false);
+  Form_Resize();
+}
+
+void frmMain::RefreshCalculator() {
+  m_pCalculator->RefreshSums(true);
+}
+
+void frmMain::ShowWizard() {
+  ShowCalculator();
+}
+
+void frmMain::ShowAboutBox() {}
+
+void frmMain::MarkCurrent(int nIndex) {
+  for (int i = 0; i < static_cast<int>(m_apMenuButtons.size()); ++i) {
+    m_apMenuButtons.at(static_cast<std::size_t>(i))->SetCurrent(i == nIndex);
+  }
+}
+
+void frmMain::SetWindowTitle(const std::string& sName, bool bDirty) {
+  std::string sTitle = sName;
+  if (sTitle.ends_with(kAuctionExtension)) {
+    sTitle.resize(sTitle.size() - std::string_view(kAuctionExtension).size());
+  }
+  const std::string sCaption = sTitle.empty() ? m_sCaption : m_sCaption + " - " + sTitle;
+  setWindowTitle(QString::fromStdString(sCaption + (bDirty ? "*" : "")));
+}
+
+void frmMain::SetZoomPercent(int nPercent) {
+  SetZoom(nPercent / 100.0);
+  Registry().Set(settings::kZoom, std::to_string(nPercent));
+  Rescale();
+  Form_Resize();
+}
+
+void frmMain::Rescale() {
+  QApplication::setFont(ThemeFont(kTextPoints));
+  RescaleAll(*this);
+  for (int i = 0; i < static_cast<int>(m_apMenuButtons.size()); ++i) {
+    PlaceInTwips(*m_apMenuButtons.at(static_cast<std::size_t>(i)), kButtonLeft,
+                 kFirstButtonTop + kButtonSize * i, kButtonSize, kButtonSize);
+  }
+}
+
+/// Below the size that its view needs the window can't be made, unless the screen is smaller still.
+void frmMain::Form_Resize() {
+  if (isMinimized()) {
+    return;
+  }
+  const bool bCalculator = m_pCalculator->Visible();
+  const QSize oNeeded(Pixels(bCalculator ? kRhsLeft + m_lCalcMinWidth : m_lMinWidth),
+                      Pixels(bCalculator ? m_lCalcMinHeight : m_lMinHeight));
+  const QSize oFrame = frameGeometry().size() - size();
+  setMinimumSize(oNeeded.boundedTo(screen()->availableSize() - oFrame));
+
+  const int nWidth = Twips(width());
+  const int nHeight = Twips(height());
+  m_pLhs->Place(0, 0, kLhsWidth, std::max(nHeight, kFrameHeight));
+  m_pRhs->Place(kRhsLeft, 0, nWidth - kRhsLeft, nHeight);
+  PlaceInTwips(*m_pAbout, kButtonLeft, nHeight - m_lAboutBottomGap, kButtonSize, kButtonSize);
+  if (bCalculator) {
+    m_pCalculator->SetWidth(m_pRhs->Width());
+    m_pCalculator->SetHeight(m_pRhs->Height());
+  }
+}
+
+/// What stands in a box counts when the focus leaves it. A command that comes by key leaves the focus
+/// where it is, so a box that was typed into is left and entered again.
+void frmMain::CommitTyping() {
+  auto* const pText = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+  if (pText != nullptr && pText->isModified()) {
+    pText->clearFocus();
+    pText->setFocus();
+  }
+}
+
+void frmMain::closeEvent(QCloseEvent* pEvent) {
+  CommitTyping();
+  SaveFormPosition(*this);
+  if (!m_oDocuments.PromptBeforeExit()) {
+    pEvent->ignore();
+    return;
+  }
+  WriteLog("End app");
+  pEvent->accept();
+}
+
+void frmMain::resizeEvent(QResizeEvent* pEvent) {
+  QWidget::resizeEvent(pEvent);
+  Form_Resize();
+}
+
+void frmMain::changeEvent(QEvent* pEvent) {
+  QWidget::changeEvent(pEvent);
+  if (pEvent->type() == QEvent::ActivationChange && isActiveWindow() && !m_bFirstActivate) {
+    Form_Activate();
+  }
+}
+
+void frmMain::wheelEvent(QWheelEvent* pEvent) {
+  if (pEvent->modifiers() != Qt::ControlModifier || pEvent->angleDelta().y() == 0) {
+    QWidget::wheelEvent(pEvent);
+    return;
+  }
+  const int nPercent = static_cast<int>(std::lround(Zoom() * 100));
+  SetZoomPercent(NextZoomStep(nPercent, pEvent->angleDelta().y() > 0));
+}
+
+}  // namespace quillet

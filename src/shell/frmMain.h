@@ -1,0 +1,85 @@
+// The main window: a column of buttons, and one of the views beside it.
+#pragma once
+
+#include <QWidget>
+#include <array>
+#include <string>
+
+#include "documents/lifecycle.h"
+#include "sections/Controls.h"
+#include "shell/ctlCalculator.h"
+
+namespace quillet {
+
+class ShockwaveFlash;
+
+/// The buttons of the column, by their index.
+enum MenuButton : int {
+  kButtonNew = 0,
+  kButtonCalculator = 1,
+  kButtonWizard = 2,
+  kButtonSave = 3,
+  kButtonLoad = 4,
+  kButtonConfig = 5,
+};
+
+class frmMain : public QWidget, private DocumentView {
+  Q_OBJECT
+
+ public:
+  frmMain();
+
+  /// Loads, shows and activates the window; the first document is set up when this returns.
+  void Show();
+
+  /// As a click on a button of the column. An unknown one says so in a message box.
+  void ClickButton(int nIndex);
+
+  /// Draws everything at another size, in percent, and remembers it.
+  void SetZoomPercent(int nPercent);
+
+  [[nodiscard]] ctlCalculator& Calculator() { return *m_pCalculator; }
+
+ protected:
+  void closeEvent(QCloseEvent* pEvent) override;
+  void resizeEvent(QResizeEvent* pEvent) override;
+  void changeEvent(QEvent* pEvent) override;
+  void wheelEvent(QWheelEvent* pEvent) override;
+
+ private:
+  // DocumentView
+  void SetWindowTitle(const std::string& sName, bool bDirty) override;
+  void ShowCalculator() override;
+  void RefreshCalculator() override;
+  void ShowWizard() override;
+
+  void MakeButtons();
+  void MakeShortcuts();
+  void Form_Load();
+  void Form_Activate();
+  void Form_Resize();
+  void ShowConfiguration();
+  void ShowAboutBox();
+  void PushDocument(bool bConfigMode, clsCalculate& oDocument, const std::string& sTitle);
+  void MarkCurrent(int nIndex);
+  void CommitTyping();
+  void FitFirstStart();
+  void Rescale();
+
+  std::string m_sCaption;
+  DocumentLifecycle m_oDocuments;
+  Frame* m_pLhs;
+  Frame* m_pRhs;
+  ctlCalculator* m_pCalculator;
+  std::array<ShockwaveFlash*, 6> m_apMenuButtons{};
+  ShockwaveFlash* m_pAbout = nullptr;
+  int m_lMinWidth = 0;        ///< twips; the smallest size while the wizard shows
+  int m_lMinHeight = 0;       ///< likewise
+  int m_lCalcMinWidth = 0;    ///< twips; what CalcMinSize told last
+  int m_lCalcMinHeight = 0;   ///< likewise
+  int m_lAboutBottomGap = 0;  ///< twips from the top of the about button to the window's bottom
+  bool m_bFirstActivate = true;
+  bool m_bFirstStart = false;  ///< no zoom was ever stored
+};
+
+}  // namespace quillet

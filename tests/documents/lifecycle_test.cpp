@@ -1,0 +1,235 @@
+#include "documents/lifecycle.h"
+
+#include <filesystem>
+
+#include <gtest/gtest.h>
+
+#include "base/clsRegistryAccess.h"
+#include "documents/lastFolder.h"
+#include "engine/clsCalculate.h"
+#include "platform/Files.h"
+#include "support/Log.h"
+#include "support/MemoryHive.h"
+#include "support/Prices.h"
+#include "support/TestHost.h"
+
+namespace quillet {
+namespace {
+
+constexpr const char* kWorkingPrompt =
+    "The current auction has been modified but not saved. Save now?";
+constexpr const char* kDefaultPrompt =
+    "The default auction has been modified but not saved. Save now?";
+
+class RecordingView : public DocumentView {
+ public:
+  void SetWindowTitle(const std::string& sName, bool bDirty) override {
+    sCalls += "title(" + sName + (bDirty ? "*) " : ") ");
+  }
+  void ShowCalculator() override { sCalls += "calculator "; }
+  void RefreshCalculator() override { sCalls += "refresh "; }
+  void ShowWizard() override { sCalls += "wizard "; }
+
+  std::string sCalls;
+};
+
+std::string TextOf(clsCalculate& oAuction) {
+  std::string sText;
+  oAuction.Serialize(sText, true);
+  return sText;
+}
+
+class Lifecycle : public ::testing::Test {
+ protected:
+  Lifecycle() {
+    SetRegistryHive(m_oHive);
+    SetLastFolder(m_oFolder.sPath);
+    for (clsCalculate* const pAuction : {&WorkingAuction(), &DefaultAuction()}) {
+      pAuction->Clear();
+      pAuction->SetDirty(false);
+    }
+  }
+
+  void ChangeWorking() {
+    WorkingAuction().m_oOutlay.m_fOutlay = 12.5;
+    WorkingAuction().m_oOutlay.m_bDirty = true;
+  }
+
+  ScopedHost m_oHost;
+  MemoryHive m_oHive;
+  TemporaryFolder m_oFolder;
+  RecordingView m_oView;
+  DocumentLifecycle m_oDocuments{m_oView, "Edition"};
+};
+
+TEST_F(Lifecycle, AsksBeforeAChangedAuctionIsLost) {
+  const std::string sFile = m_oFolder / "a.qlt";
+  const struct {
+    bool bDirty;
+    Answer eAnswer;
+    std::optional<std::string> sChoice;
+    bool bGoesOn;
+    bool bSaved;
+  } kRows[] = {
+      {false, Answer::Cancel, std::nullopt, true, false},
+      {true, Answer::Cancel, std::nullopt, false, false},
+      {true, Answer::No, std::nullopt, true, false},
+      {true, Answer::Yes, std::nullopt, false, false},  // the dialog was cancelled
+      {true, Answer::Yes, m_oFolder / "no/such/folder.qlt", true, false},  // a failed save goes on
+      {true, Answer::Yes, sFile, true, true},
+  };
+  for (const auto& oRow : kRows) {
+    SCOPED_TRACE(testing::Message() << oRow.bDirty << " " << static_cast<int>(oRow.eAnswer) << " "
+                                    << oRow.sChoice.value_or("cancelled"));
+    m_oHost.aoShown.clear();
+    m_oHost.aeAnswers = {oRow.eAnswer};
+    m_oHost.asChoices = {oRow.sChoice};
+    ChangeWorking();
+    WorkingAuction().SetDirty(oRow.bDirty);
+    EXPECT_EQ(m_oDocuments.PromptSaveWorkingDoc(), oRow.bGoesOn);
+    if (oRow.bDirty) {
+      ASSERT_FALSE(m_oHost.aoShown.empty());
+      EXPECT_EQ(m_oHost.aoShown.front(), (ShownMessage{kWorkingPrompt, 35, "Edition"}));
+    }
+    EXPECT_EQ(FileExists(sFile), oRow.bSaved);
+    EXPECT_EQ(WorkingAuction().IsDirty(), oRow.bDirty && !oRow.bSaved);
+  }
+}
+
+TEST_F(Lifecycle, SavesAndLoadsWhatWasEntered) {
+  ChangeWorking();
+  const std::string sEntered = TextOf(WorkingAuction());
+  m_oHost.asChoices = {m_oFolder / "camera.qlt", m_oFolder / "camera.qlt"};
+  EXPECT_TRUE(m_oDocuments.SaveOrLoadAuction(true));
+  EXPECT_EQ(ReadTestFile(m_oFolder / "camera.qlt"), sEntered + "\n");
+  EXPECT_FALSE(WorkingAuction().IsDirty());
+
+  WorkingAuction().Clear();
+  m_oView.sCalls.clear();
+  EXPECT_TRUE(m_oDocuments.SaveOrLoadAuction(false));
+  EXPECT_EQ(TextOf(WorkingAuction()), sEntered);
+  EXPECT_EQ(m_oView.sCalls, "refresh title(camera.qlt) ");
+  EXPECT_EQ(LastFolder(), m_oFolder / "");
+  EXPECT_EQ(m_oHost.aoDialogs.back().sFileName, "camera.qlt");
+}
+
+TEST_F(Lifecycle, ACancelledDialogChangesNothing) {
+  ChangeWorking();
+  for (const bool bSave : {true, false}) {
+    m_oHost.asChoices = {std::nullopt};
+    EXPECT_FALSE(m_oDocuments.SaveOrLoadAuction(bSave));
+  }
+  EXPECT_TRUE(WorkingAuction().IsDirty());
+  EXPECT_EQ(m_oDocuments.FileName(), "");
+  EXPECT_EQ(LastFolder(), m_oFolder.sPath);
+  EXPECT_EQ(m_oView.sCalls, "");
+  EXPECT_TRUE(m_oHost.aoShown.empty());
+}
+
+TEST_F(Lifecycle, AFailureIsShownInThePlatformsWordsAndKeepsTheOldFile) {
+  ChangeWorking();
+  const std::string sBlocked = m_oFolder / "file/x.qlt";
+  WriteTestFile(m_oFolder / "file", "old");
+  const struct {
+    bool bSave;
+    std::string sPath;
+    const char* sMessage;
+  } kRows[] = {
+      {true, sBlocked, "Not a directory"},
+      {true, "/dev/full", "No space left on device"},
+      {true, m_oFolder.sPath, "Is a directory"},
+      {false, m_oFolder / "missing.qlt", "No such file or directory"},
+      {false, m_oFolder.sPath, "Is a directory"},
+  };
+  for (const auto& [bSave, sPath, sMessage] : kRows) {
+    SCOPED_TRACE(sPath);
+    m_oHost.aoShown.clear();
+    m_oHost.asChoices = {sPath};
+    EXPECT_TRUE(m_oDocuments.SaveOrLoadAuction(bSave)) << "what asked for the save carries on";
+    ASSERT_EQ(m_oHost.aoShown.size(), 1U);
+    EXPECT_EQ(m_oHost.aoShown.front(), (ShownMessage{sMessage, 48, ""}));
+    EXPECT_TRUE(WorkingAuction().IsDirty());
+    EXPECT_EQ(m_oDocuments.FileName(), std::filesystem::path(sPath).filename());
+  }
+  EXPECT_EQ(ReadTestFile(m_oFolder / "file"), "old");
+}
+
+TEST_F(Lifecycle, ProposesTheFirstFreeName) {
+  const char* const kNames[] = {"NewAuction.qlt", "NewAuction1.qlt", "NewAuction2.qlt"};
+  for (const char* const sName : kNames) {
+    m_oHost.asChoices = {std::nullopt};
+    m_oDocuments.SaveOrLoadAuction(true);
+    EXPECT_EQ(m_oHost.aoDialogs.back().sFileName, sName);
+    EXPECT_EQ(m_oHost.aoDialogs.back().sInitDir, m_oFolder.sPath);
+    EXPECT_EQ(m_oHost.aoDialogs.back().sPattern, "*.qlt");
+    WriteTestFile(m_oFolder / sName, "");
+  }
+}
+
+TEST_F(Lifecycle, ANewAuctionIsTheDefaultOneAndKeepsTheDirtyFlags) {
+  DefaultAuction().m_oPayPal.m_bEnabled = true;
+  ChangeWorking();
+  m_oHost.aeAnswers = {Answer::No, Answer::No};
+  m_oDocuments.NewAuction();
+  EXPECT_EQ(TextOf(WorkingAuction()), TextOf(DefaultAuction()));
+  EXPECT_EQ(m_oView.sCalls, "calculator ");
+  m_oDocuments.NewAuction();
+  EXPECT_EQ(m_oHost.aoShown.size(), 2U) << "after a No the next New asks again";
+}
+
+TEST_F(Lifecycle, TheWizardStartsEmptyWithOneItemAndTheOldFileName) {
+  m_oHost.asChoices = {m_oFolder / "old.qlt"};
+  m_oDocuments.SaveOrLoadAuction(true);
+  DefaultAuction().m_oOutlay.m_fOutlay = 7;
+  WorkingAuction().m_oOutlay.m_fOutlay = 9;
+  m_oDocuments.StartWizard();
+  clsCalculate oExpected;
+  oExpected.m_oOutlay.m_lQuantity = 1;
+  EXPECT_EQ(TextOf(WorkingAuction()), TextOf(oExpected));
+  EXPECT_EQ(m_oDocuments.FileName(), "old.qlt");
+}
+
+TEST_F(Lifecycle, TheDefaultAuctionIsASetting) {
+  DefaultAuction().m_oOutlay.m_lQuantity = 4;
+  DefaultAuction().SetDirty(true);
+  m_oDocuments.SaveOrLoadDefaultAuction(false);  // a first start has none stored
+  EXPECT_EQ(DefaultAuction().m_oOutlay.m_lQuantity, 4);
+  EXPECT_FALSE(DefaultAuction().IsDirty());
+
+  m_oDocuments.SaveOrLoadDefaultAuction(true);
+  DefaultAuction().m_oOutlay.m_lQuantity = 5;
+  m_oDocuments.SaveOrLoadDefaultAuction(false);
+  EXPECT_EQ(DefaultAuction().m_oOutlay.m_lQuantity, 4);
+  EXPECT_TRUE(m_oView.sCalls.ends_with("title(Default Configuration) "));
+}
+
+TEST_F(Lifecycle, ExitAsksAboutBothDocumentsInTurn) {
+  const struct {
+    bool bWorkingDirty;
+    bool bDefaultDirty;
+    std::deque<Answer> aeAnswers;
+    std::vector<const char*> asPrompts;
+    bool bExits;
+  } kRows[] = {
+      {false, false, {}, {}, true},
+      {true, true, {Answer::Cancel}, {kWorkingPrompt}, false},
+      {true, true, {Answer::No, Answer::Cancel}, {kWorkingPrompt, kDefaultPrompt}, false},
+      {true, true, {Answer::No, Answer::No}, {kWorkingPrompt, kDefaultPrompt}, true},
+      {false, true, {Answer::Yes}, {kDefaultPrompt}, true},
+  };
+  for (const auto& oRow : kRows) {
+    m_oHost.aoShown.clear();
+    m_oHost.aeAnswers = oRow.aeAnswers;
+    WorkingAuction().SetDirty(oRow.bWorkingDirty);
+    DefaultAuction().SetDirty(oRow.bDefaultDirty);
+    EXPECT_EQ(m_oDocuments.PromptBeforeExit(), oRow.bExits);
+    ASSERT_EQ(m_oHost.aoShown.size(), oRow.asPrompts.size());
+    for (std::size_t i = 0; i < oRow.asPrompts.size(); ++i) {
+      EXPECT_EQ(m_oHost.aoShown[i], (ShownMessage{oRow.asPrompts[i], 35, "Edition"}));
+    }
+  }
+  EXPECT_FALSE(DefaultAuction().IsDirty()) << "the last row's Yes has stored it";
+}
+
+}  // namespace
+}  // namespace quillet

@@ -1,0 +1,203 @@
+#include "shell/ctlCalculator.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include "base/basMain.h"
+#include "base/clsRegistryAccess.h"
+#include "support/PanelScript.h"
+
+namespace quillet {
+namespace {
+
+std::string Stored(const std::string& sSection, const std::string& sName) {
+  std::string sText;
+  const bool bFound =
+      Registry().GetRegSettingString(HiveRoot::User, sText, sName, "Controls\\" + sSection, "");
+  return bFound ? sText : "none";
+}
+
+class Calculator : public ::testing::Test {
+ protected:
+  Calculator() {
+    for (clsCalculate* const pAuction : {&WorkingAuction(), &DefaultAuction()}) {
+      pAuction->Clear();
+      pAuction->SetDirty(false);
+    }
+    g_lSnapToGrid = 120;
+    m_oWindow.resize(1400, 1200);
+    m_pView = new ctlCalculator(&m_oWindow);
+    m_pView->SetVisible(false);
+    m_oWindow.show();
+    m_oWindow.activateWindow();
+    QApplication::processEvents();
+  }
+
+  void ShowView(bool bConfig, clsCalculate& oDocument) {
+    m_pView->SetVisible(true);
+    m_pView->SetConfigMode(bConfig);
+    m_pView->RefreshSums(true, &oDocument);
+  }
+
+  /// Drags a section by its header, by so many twips.
+  void Drag(SectionPanel& oSection, int nX, int nY) {
+    oSection.setFocus();
+    Control& oHeader = ControlOf(oSection, "imgHeader");
+    ASSERT_TRUE(oHeader.Visible()) << "the focus brings the header up";
+    const QPoint oStart(20, 5);
+    QTest::mousePress(&oHeader.Widget(), Qt::RightButton, {}, oStart);
+    QTest::mouseMove(&oHeader.Widget(), oStart + QPoint(Pixels(nX), Pixels(nY)));
+    QTest::mouseRelease(&oHeader.Widget(), Qt::RightButton, {}, oStart);
+  }
+
+  std::string Figure(const char* sLabel) {
+    return m_pView->Set().ctlSellingCostsSection.The(sLabel).Caption().toStdString();
+  }
+
+  QWidget m_oWindow;
+  ctlCalculator* m_pView = nullptr;
+};
+
+TEST_F(Calculator, AKeyInASectionReachesTheSummaryAndTheCaption) {
+  ShowView(false, WorkingAuction());
+  QSignalSpy oChanged(m_pView, &ctlCalculator::Changed);
+  QLineEdit* const pBox =
+      dynamic_cast<ctlNumericText&>(ControlOf(m_pView->Set().ctlOutlaySection, "txtOutlay"))
+          .TextBox();
+  TypeInto(m_pView->Set().ctlOutlaySection, "txtQuantity", "2");
+  pBox->setFocus();
+  pBox->setCursorPosition(1);
+  QTest::keyClick(pBox, Qt::Key_Up);
+  EXPECT_TRUE(Figure("lblSellingCostTotal").ends_with("2.00")) << Figure("lblSellingCostTotal");
+  EXPECT_TRUE(WorkingAuction().IsDirty());
+  EXPECT_TRUE(oChanged.last().at(0).toBool());
+}
+
+TEST_F(Calculator, ShowingADocumentDoesntChangeIt) {
+  std::string sText =
+      "[TYPE]001|True|False|3|5|1|2|True[TYPE][OUTLAY]5|1|2|30|3|False[OUTLAY]"
+      "[FEATURES]4113|4[FEATURES][PAYPAL]True|2|3|True[PAYPAL]"
+      "[POSTAGE]True|0.5|3|2|0|False|False|True|1|True[POSTAGE]";
+  WorkingAuction().Serialize(sText, false);
+  for (const bool bDirty : {false, true}) {
+    WorkingAuction().SetDirty(bDirty);
+    ShowView(false, WorkingAuction());
+    EXPECT_EQ(WorkingAuction().IsDirty(), bDirty);
+  }
+  EXPECT_EQ(WorkingAuction().m_oOutlay.m_lQuantity, 3);
+  EXPECT_EQ(WorkingAuction().m_oPayPal.m_nBusinessBand, 3);
+}
+
+TEST_F(Calculator, ADragSnapsToTheGridWithHalvesToEven) {
+  ShowView(true, DefaultAuction());
+  SectionPanel& oOutlay = m_pView->Set().ctlOutlaySection;
+  const struct {
+    int nLeft;
+    int nWanted;
+    int nSnapped;
+  } kRows[] = {{0, 60, 0}, {0, 180, 240}, {240, -405, -120}, {0, 299, 240}};
+  for (const auto& [nLeft, nWanted, nSnapped] : kRows) {
+    oOutlay.Place(nLeft, 1560, oOutlay.Width(), oOutlay.Height());
+    emit oOutlay.Moved(static_cast<float>(nWanted), 0.0F);
+    EXPECT_EQ(oOutlay.Left(), nSnapped) << nLeft << " + " << nWanted;
+  }
+}
+
+TEST_F(Calculator, ADraggedPlaceIsStoredAndComesBackUntilItIsReset) {
+  ShowView(true, DefaultAuction());
+  ctlPayPal& oPayPal = m_pView->Set().ctlPayPalSection;
+  Drag(oPayPal, 1200, 600);
+  EXPECT_EQ(oPayPal.Left(), 6960);
+  EXPECT_EQ(oPayPal.Top(), 2160);
+  EXPECT_EQ(Stored("PayPal", "Left"), "6960");
+  EXPECT_EQ(Stored("Postage", "Top"), "5640") << "every place is stored on each move";
+
+  auto* const pOther = new ctlCalculator(&m_oWindow);
+  pOther->SetVisible(true);
+  EXPECT_EQ(pOther->Set().ctlPayPalSection.Left(), 6960);
+  pOther->ResetControlPositions();
+  EXPECT_EQ(pOther->Set().ctlPayPalSection.Left(), 5760);
+  EXPECT_EQ(Stored("PayPal", "Left"), "5760");
+}
+
+TEST_F(Calculator, TheSmallestSizeLeavesOutTheAuctionType) {
+  ShowView(false, WorkingAuction());
+  int nWidth = 0;
+  int nHeight = 0;
+  m_pView->Set().ctlAuctionTypeSection.SetLeft(30000);
+  m_pView->CalcMinSize(nWidth, nHeight);
+  EXPECT_EQ(nWidth, 120 + 9780) << "the summary reaches furthest";
+  m_pView->Set().ctlPostageSection.SetLeft(20000);
+  m_pView->CalcMinSize(nWidth, nHeight);
+  EXPECT_EQ(nWidth, 20000 + m_pView->Set().ctlPostageSection.Width());
+}
+
+TEST_F(Calculator, ConfigModeEditsTheDefaultAuctionAlone) {
+  ShowView(false, WorkingAuction());
+  ShowView(true, DefaultAuction());
+  ClickOn(m_pView->Set().ctlPayPalSection, "chkUsePayPal");
+  EXPECT_TRUE(DefaultAuction().m_oPayPal.m_bEnabled);
+  EXPECT_TRUE(DefaultAuction().IsDirty());
+  EXPECT_FALSE(WorkingAuction().m_oPayPal.m_bEnabled);
+  EXPECT_FALSE(WorkingAuction().IsDirty());
+}
+
+TEST_F(Calculator, TheHeaderComesUpWithTheFocusInConfigModeOnly) {
+  ctlOutlay& oOutlay = m_pView->Set().ctlOutlaySection;
+  for (const bool bConfig : {false, true}) {
+    ShowView(bConfig, WorkingAuction());
+    oOutlay.setFocus();
+    EXPECT_EQ(ControlOf(oOutlay, "imgHeader").Visible(), bConfig);
+    m_pView->Set().ctlPayPalSection.setFocus();
+    EXPECT_FALSE(ControlOf(oOutlay, "imgHeader").Visible());
+  }
+}
+
+TEST_F(Calculator, RowsWithoutATickAreGoneOutOfConfigModeAndStayGone) {
+  ctlOutlay& oOutlay = m_pView->Set().ctlOutlaySection;
+  ShowView(true, WorkingAuction());
+  EXPECT_EQ(oOutlay.Width(), 5545);
+  ClickOn(oOutlay,
+          "chkShowOutlay chkShowStartingPrice chkShowReservePrice "
+          "chkShowEstimatedEndPrice");
+  ShowView(false, WorkingAuction());
+  EXPECT_EQ(PlacesIn(oOutlay), "txtQuantity@360 lblQuantity@360");
+  EXPECT_EQ(oOutlay.Height(), 360 + 255) << "the label stands last in the list";
+  EXPECT_EQ(oOutlay.Width(), 4670);
+
+  ShowView(true, WorkingAuction());
+  ClickOn(oOutlay, "chkShowQuantity");
+  ShowView(false, WorkingAuction());
+  EXPECT_EQ(oOutlay.Height(), 0);
+  EXPECT_EQ(Stored("Outlay", "Visible"), "") << "empty is a choice, and not asked for again";
+}
+
+TEST_F(Calculator, TabWalksTheInputsInReadingOrderAndNeverReachesAShowBox) {
+  ShowView(false, WorkingAuction());
+  ctlNumericText& oFirst =
+      dynamic_cast<ctlNumericText&>(ControlOf(m_pView->Set().ctlOutlaySection, "txtOutlay"));
+  oFirst.TextBox()->setFocus();
+  std::string sWalked;
+  for (int i = 0; i < 6; ++i) {
+    const QWidget* const pAt = QApplication::focusWidget();
+    const QWidget* const pNamed = pAt->objectName() == "txtValue" ? pAt->parentWidget() : pAt;
+    sWalked += pNamed->objectName().toStdString() + " ";
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  }
+  EXPECT_EQ(sWalked, RegionCode() == 1
+                         ? "txtOutlay txtStartingPrice txtReservePrice txtEstimatedEndPrice "
+                           "txtQuantity chkHomePageFeatured "
+                         : "txtOutlay chkOutlayInclTax txtStartingPrice txtReservePrice "
+                           "txtEstimatedEndPrice txtQuantity ");
+  for (int i = 0; i < 80; ++i) {
+    ASSERT_FALSE(QApplication::focusWidget()->objectName().contains("chkShow"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  }
+}
+
+}  // namespace
+}  // namespace quillet

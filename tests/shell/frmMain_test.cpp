@@ -1,0 +1,187 @@
+#include "shell/frmMain.h"
+
+#include <QApplication>
+#include <QScreen>
+#include <QTest>
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include "base/basCommon.h"
+#include "base/clsRegistryAccess.h"
+#include "documents/lastFolder.h"
+#include "platform/qt/ShockwaveFlash.h"
+#include "support/PanelScript.h"
+#include "support/TestHost.h"
+
+namespace quillet {
+namespace {
+
+class Window : public ::testing::Test {
+ protected:
+  Window() {
+    for (clsCalculate* const pAuction : {&WorkingAuction(), &DefaultAuction()}) {
+      pAuction->Clear();
+      pAuction->SetDirty(false);
+    }
+    Registry().Set(settings::kStartMode, "1");
+    Registry().Set(settings::kZoom, "100");
+    SetLastFolder(m_oFolder.sPath);
+  }
+
+  frmMain& Start() {
+    m_oWindow = std::make_unique<frmMain>();
+    m_oWindow->Show();
+    QApplication::processEvents();
+    return *m_oWindow;
+  }
+
+  /// The caption behind the edition's name.
+  std::string Caption() {
+    const std::string sCaption = m_oWindow->windowTitle().toStdString();
+    EXPECT_TRUE(sCaption.starts_with(EditionName()));
+    return sCaption.substr(EditionName().size());
+  }
+
+  void Change() { ClickOn(m_oWindow->Calculator().Set().ctlPayPalSection, "chkUsePayPal"); }
+
+  ScopedHost m_oHost;
+  TemporaryFolder m_oFolder;
+  std::unique_ptr<frmMain> m_oWindow;
+};
+
+TEST_F(Window, TheStarFollowsTheDocument) {
+  Start();
+  EXPECT_EQ(Caption(), "");
+  Change();
+  EXPECT_EQ(Caption(), "*");
+  m_oHost.asChoices = {m_oFolder / "camera.qlt"};
+  m_oWindow->ClickButton(kButtonSave);
+  EXPECT_EQ(Caption(), " - camera");
+  Change();
+  EXPECT_EQ(Caption(), " - camera*");
+  m_oHost.aeAnswers = {Answer::No};
+  m_oWindow->ClickButton(kButtonNew);
+  EXPECT_EQ(Caption(), "") << "no star, although the auction still counts as changed";
+  EXPECT_TRUE(WorkingAuction().IsDirty());
+}
+
+TEST_F(Window, ConfigModeSavesASettingAndLoadsNothing) {
+  Start();
+  m_oWindow->ClickButton(kButtonConfig);
+  EXPECT_EQ(Caption(), " - Default Configuration");
+  Change();
+  EXPECT_EQ(Caption(), " - Default Configuration*");
+  m_oWindow->ClickButton(kButtonLoad);
+  m_oWindow->ClickButton(kButtonSave);
+  EXPECT_TRUE(m_oHost.aoDialogs.empty());
+  EXPECT_NE(Registry().Get(settings::kDefaultAuction).find("[PAYPAL]True|"), std::string::npos);
+  EXPECT_EQ(Caption(), " - Default Configuration");
+  m_oWindow->ClickButton(kButtonNew);
+  EXPECT_TRUE(WorkingAuction().m_oPayPal.m_bEnabled) << "a new auction is the default one";
+}
+
+TEST_F(Window, EnteringConfigModeTakesTheStoredDefaultAuction) {
+  Start();
+  m_oWindow->ClickButton(kButtonConfig);
+  m_oWindow->ClickButton(kButtonSave);
+  Change();
+  m_oWindow->ClickButton(kButtonCalculator);
+  EXPECT_TRUE(DefaultAuction().IsDirty()) << "unsaved changes stay in memory";
+  m_oWindow->ClickButton(kButtonConfig);
+  EXPECT_FALSE(DefaultAuction().m_oPayPal.m_bEnabled);
+}
+
+TEST_F(Window, CloseAsksAndCanBeCancelled) {
+  Start();
+  Change();
+  m_oHost.aeAnswers = {Answer::Cancel};
+  EXPECT_FALSE(m_oWindow->close());
+  EXPECT_TRUE(m_oWindow->isVisible());
+  std::string sStored;
+  EXPECT_TRUE(Registry().GetRegSettingString(HiveRoot::User, sStored, "Left", "Forms\\Main", ""))
+      << "the place is stored whether or not the exit goes ahead";
+  m_oHost.aeAnswers = {Answer::Yes};
+  m_oHost.asChoices = {std::nullopt};
+  EXPECT_FALSE(m_oWindow->close()) << "the save dialog was cancelled";
+  m_oHost.aeAnswers = {Answer::No};
+  EXPECT_TRUE(m_oWindow->close());
+}
+
+TEST_F(Window, AMovieClicksInAnyCaseAndSaysNothingElse) {
+  Start();
+  const auto aoMovies = m_oWindow->findChildren<ShockwaveFlash*>("swfVerticalMenuButtons");
+  ASSERT_EQ(aoMovies.size(), 6);
+  emit aoMovies.at(kButtonConfig)->FSCommand("clock", "");
+  EXPECT_FALSE(m_oWindow->Calculator().ConfigMode());
+  emit aoMovies.at(kButtonConfig)->FSCommand("CLICK", "");
+  EXPECT_TRUE(m_oWindow->Calculator().ConfigMode());
+  m_oWindow->ClickButton(6);
+  ASSERT_FALSE(m_oHost.aoShown.empty());
+  EXPECT_EQ(m_oHost.aoShown.back(), (ShownMessage{"Button not recognised", 64, ""}));
+}
+
+TEST_F(Window, EveryCommandHasItsKeys) {
+  Start();
+  QTest::keyClick(m_oWindow.get(), Qt::Key_Comma, Qt::ControlModifier);
+  EXPECT_TRUE(m_oWindow->Calculator().ConfigMode());
+  QTest::keyClick(m_oWindow.get(), Qt::Key_1, Qt::ControlModifier);
+  EXPECT_FALSE(m_oWindow->Calculator().ConfigMode());
+  m_oHost.asChoices = {std::nullopt, std::nullopt};
+  QTest::keyClick(m_oWindow.get(), Qt::Key_S, Qt::ControlModifier);
+  QTest::keyClick(m_oWindow.get(), Qt::Key_O, Qt::ControlModifier);
+  ASSERT_EQ(m_oHost.aoDialogs.size(), 2U);
+  EXPECT_TRUE(m_oHost.aoDialogs.front().bSave);
+  EXPECT_FALSE(m_oHost.aoDialogs.back().bSave);
+  for (const auto* const pButton : m_oWindow->findChildren<ShockwaveFlash*>()) {
+    EXPECT_TRUE(pButton->toolTip().contains('(')) << pButton->toolTip().toStdString();
+  }
+}
+
+TEST_F(Window, ZoomIsRememberedAndKeepsThePlacesInTwips) {
+  Start();
+  const QSize oBefore = m_oWindow->Calculator().Set().ctlOutlaySection.size();
+  QTest::keyClick(m_oWindow.get(), Qt::Key_Plus, Qt::ControlModifier);
+  EXPECT_EQ(Registry().Get(settings::kZoom), "110");
+  EXPECT_GT(m_oWindow->Calculator().Set().ctlOutlaySection.width(), oBefore.width());
+  QTest::keyClick(m_oWindow.get(), Qt::Key_0, Qt::ControlModifier);
+  EXPECT_EQ(m_oWindow->Calculator().Set().ctlOutlaySection.size(), oBefore);
+  m_oWindow->close();
+  Registry().Set(settings::kZoom, "200");
+  Start();
+  EXPECT_EQ(Zoom(), 2.0);
+}
+
+TEST_F(Window, CantBeMadeSmallerThanItsView) {
+  Start();
+  m_oWindow->resize(100, 100);
+  int nWidth = 0;
+  int nHeight = 0;
+  m_oWindow->Calculator().CalcMinSize(nWidth, nHeight);
+  const QSize oScreen = m_oWindow->screen()->availableSize();
+  EXPECT_EQ(m_oWindow->size(), QSize(Pixels(1590 + nWidth), Pixels(nHeight)).boundedTo(oScreen));
+}
+
+TEST_F(Window, AnyStartModeButZeroStartsInTheCalculator) {
+  DefaultAuction().m_oOutlay.m_lQuantity = 7;
+  for (const char* const sMode : {"1", "2", "x"}) {
+    Registry().Set(settings::kStartMode, sMode);
+    Start();
+    EXPECT_EQ(WorkingAuction().m_oOutlay.m_lQuantity, 7) << sMode;
+    WorkingAuction().Clear();
+  }
+  Registry().Set(settings::kStartMode, "0");
+  Start();
+  EXPECT_EQ(WorkingAuction().m_oOutlay.m_lQuantity, 1) << "the wizard starts with one item";
+}
+
+TEST_F(Window, AStoredPlaceThatIsNoNumberLeavesAWindowThatWorks) {
+  Registry().SetRegSettingString(HiveRoot::User, "here", "Left", "Controls\\PayPal");
+  Start();
+  EXPECT_TRUE(m_oWindow->isVisible());
+  m_oWindow->ClickButton(99);
+  EXPECT_EQ(m_oHost.aoShown.size(), 1U);
+}
+
+}  // namespace
+}  // namespace quillet

@@ -1,0 +1,107 @@
+#!/usr/bin/env python3
+"""The whole desktop program on a screen with a window manager, under real keys and mouse events."""
+
+import re
+import sys
+import unittest
+
+from desktop import Screen, wait_for
+
+
+class WholeProgram(unittest.TestCase):
+    def setUp(self):
+        self.screen = Screen()
+        self.addCleanup(self.screen.close)
+
+    def tearDown(self):
+        """A failure leaves a picture."""
+        if sys.exc_info()[0] or any(error for _, error in self._outcome.errors):
+            print("picture:", self.screen.keep_picture(self.id().split(".")[-1]))
+
+    def enter_camera(self):
+        """Outlay 40, starting price 1, end price 149, quantity 1: from the first box on."""
+        screen = self.screen
+        for text in ("40", "1", None, "149", "1"):
+            if text:
+                screen.type(text)
+            screen.keys("Tab")
+
+    def save_as(self, name):
+        screen = self.screen
+        screen.keys("ctrl+s")
+        screen.window("Save.*")
+        screen.keys("ctrl+a")
+        screen.type(str(screen.home / "Documents" / name))
+        screen.keys("Return")
+        screen.window(f"Quillet US - {name.removesuffix('.qlt')}")
+
+    def test_first_start_enters_saves_and_is_asked_before_leaving(self):
+        screen = self.screen
+        screen.start()
+        screen.keys("ctrl+1")
+        self.focus_first_box()
+        self.enter_camera()
+        screen.window(r"Quillet US\*")
+        self.save_as("camera.qlt")
+        saved = (screen.home / "Documents/camera.qlt").read_text(encoding="utf-8")
+        self.assertRegex(saved, r"\[OUTLAY\]40\|1\|0\|149\|1\|False\[OUTLAY\]")
+        self.focus_first_box()
+        screen.keys("Up", "Tab")
+        screen.window(r"Quillet US - camera\*")
+        screen.keys("ctrl+q")
+        screen.window("Quillet US")
+        screen.keys("Escape")
+        screen.window(r"Quillet US - camera\*")
+        screen.keys("ctrl+q")
+        screen.window("Quillet US")
+        screen.keys("alt+n")
+        self.assertEqual(screen.gone(), 0)
+        self.assertEqual((screen.home / "Documents/camera.qlt").read_text(encoding="utf-8"), saved)
+
+    def test_second_start_loads_what_the_first_has_saved(self):
+        screen = self.screen
+        screen.start()
+        screen.keys("ctrl+1")
+        self.focus_first_box()
+        self.enter_camera()
+        self.save_as("camera.qlt")
+        screen.keys("ctrl+q")
+        self.assertEqual(screen.gone(), 0)
+        screen.start()
+        screen.keys("ctrl+1", "ctrl+o")
+        screen.window("Open.*")
+        screen.type("camera.qlt")
+        screen.keys("Return")
+        screen.window("Quillet US - camera")
+        self.save_as("again.qlt")
+        documents = screen.home / "Documents"
+        self.assertEqual((documents / "again.qlt").read_text(), (documents / "camera.qlt").read_text())
+
+    def test_a_dragged_section_stays_where_it_was_put(self):
+        screen = self.screen
+        screen.start()
+        screen.keys("ctrl+comma")
+        at = screen.place_of("Quillet US - Default Configuration")
+        # The PayPal section stands at 5760, 1560 of the view, which begins at 1590.
+        screen.click(*at(1590 + 5760 + 1500, 1560 + 150))
+        screen.drag(at(1590 + 5760 + 900, 1560 + 100), at(1590 + 5760 + 900 + 1200, 1560 + 100 + 600))
+        wait_for("the stored place",
+                 lambda: re.search(r"PayPal\\\\?Left=\"?6960", screen.settings().replace("%20", " ")))
+        screen.keys("ctrl+q")
+        self.assertEqual(screen.gone(), 0)
+        before = screen.settings()
+        screen.start()
+        screen.keys("ctrl+q")
+        self.assertEqual(screen.gone(), 0)
+        place = re.compile(r"PayPal\\\\?(?:Left|Top)=\"?(\d+)")
+        self.assertEqual(place.findall(before), place.findall(screen.settings()))
+
+    def focus_first_box(self):
+        """A click into the box of the outlay: 1800, 360 of a section at 240, 1560 of the view."""
+        at = self.screen.place_of("Quillet US.*")
+        self.screen.click(*at(1590 + 240 + 1800 + 500, 1560 + 360 + 140))
+        self.screen.keys("ctrl+a")
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
