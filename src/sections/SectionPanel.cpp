@@ -15,6 +15,7 @@ namespace {
 
 constexpr double kTitlePoints = 6.75;
 constexpr int kTitleHeight = 255;  // twips, the header's
+constexpr int kBoxGap = 10;        // twips between the panel's edge and its Show boxes
 
 Control* MakeNumericBox(ControlKind eKind, QWidget* pParent) {
   auto* const pBox = new ctlNumericText(pParent);
@@ -231,6 +232,11 @@ void SectionPanel::showEvent(QShowEvent* pEvent) {
   LoadShowChecks();
 }
 
+int SectionPanel::ConfigWidth() const {
+  const Control& oBox = *Find(m_oDesign.sReferenceBox);
+  return oBox.Width() + oBox.Left() + kBoxGap;
+}
+
 int SectionPanel::ContentLeft() const {
   int nLeft = Width();
   for (const Control* const pControl : m_aoControls) {
@@ -318,9 +324,8 @@ void SectionPanel::UpdateSectionLayout() {
   if (Image* const pHeader = Header()) {
     pHeader->SetVisible(false);
   }
-  constexpr int kGap = 10;
-  const Control& oBox = *Find(m_oDesign.sReferenceBox);
-  const int nWidth = m_bShowConfig ? oBox.Width() + oBox.Left() + kGap : oBox.Left() - kGap;
+  const int nWidth =
+      m_bShowConfig ? ConfigWidth() : Find(m_oDesign.sReferenceBox)->Left() - kBoxGap;
   ApplyAllVisibility();
   PlaceControls();
   EnableShowChecks();

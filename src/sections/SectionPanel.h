@@ -96,6 +96,9 @@ class SectionPanel : public QWidget, public Control {
   [[nodiscard]] Control* Find(std::string_view sName) const;
   [[nodiscard]] const std::vector<Control*>& Controls() const { return m_aoControls; }
 
+  /// How wide the panel is in config mode, in twips.
+  [[nodiscard]] int ConfigWidth() const;
+
   /// Where the rows begin, in twips from the panel's left.
   [[nodiscard]] int ContentLeft() const;
 

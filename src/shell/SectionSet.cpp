@@ -21,12 +21,10 @@ SectionSet::SectionSet(QWidget& oView)
       ctlAuctionTypeSection(Make<ctlAuctionType>(oView, "ctlAuctionTypeSection")),
       ctlPayPalSection(Make<ctlPayPal>(oView, "ctlPayPalSection")),
       ctlPostageSection(Make<ctlPostage>(oView, "ctlPostageSection")) {
-  QWidget* pBefore = nullptr;
+  QWidget* pBefore = &oView;
   for (const SectionPanel* const pSection : Sections()) {
     for (QWidget* const pInput : pSection->InputsInReadingOrder()) {
-      if (pBefore != nullptr) {
-        QWidget::setTabOrder(pBefore, pInput);
-      }
+      QWidget::setTabOrder(pBefore, pInput);
       pBefore = pInput;
     }
   }

@@ -11,6 +11,7 @@
 #include "base/conversions.h"
 #include "base/failure.h"
 #include "platform/qt/Theme.h"
+#include "shell/card.h"
 
 namespace quillet {
 namespace {
@@ -34,13 +35,6 @@ constexpr int kAbsent = -1;  // an entry of this value counts as none
 
 std::string SectionOf(const SectionPanel& oSection) {
   return std::string("Controls\\") + oSection.SectionKey();
-}
-
-void DrawCard(QPainter& oPainter, const QRectF& oCard) {
-  constexpr double kRadius = 7.0;
-  oPainter.setPen(QPen(InkColour(Ink::Hairline), 1.0));
-  oPainter.setBrush(InkColour(Ink::Panel));
-  oPainter.drawRoundedRect(oCard.adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
 }
 
 QRectF CardOf(const SectionPanel& oSection) {
@@ -73,6 +67,7 @@ ctlCalculator::ctlCalculator(QWidget* pParent)
     pControl->Place(nLeft, nTop, nWidth, nHeight);
   }
   Place(0, 0, kDesignWidth, kDesignHeight);
+  setFocusPolicy(Qt::ClickFocus);  // a click beside the sections leaves the box that was typed into
   m_oSet.ctlSellingCostsSection.SetMode(0);
   for (SectionPanel* const pSection : m_oSet.Sections()) {
     connect(pSection, &SectionPanel::Changed, this, [this] { RefreshSums(true); });
@@ -126,6 +121,9 @@ void ctlCalculator::CalcMinSize(int& nWidth, int& nHeight) const {
 void ctlCalculator::WholeSize(int& nWidth, int& nHeight) const {
   CalcMinSize(nWidth, nHeight);
   GrowToHold(nWidth, nHeight, m_oSet.ctlAuctionTypeSection);
+  for (const SectionPanel* const pSection : m_oSet.Sections()) {
+    nWidth = std::max(nWidth, pSection->Left() + pSection->ConfigWidth());
+  }
 }
 
 void ctlCalculator::GrowToHold(int& nWidth, int& nHeight, const Control& oControl) const {

@@ -33,7 +33,7 @@ class ctlCalculator : public QWidget, public Control {
   /// doesn't count for the window's smallest size.
   void CalcMinSize(int& nWidth, int& nHeight) const;
 
-  /// The size, in twips, that holds everything.
+  /// The size, in twips, that holds everything, in config mode too.
   void WholeSize(int& nWidth, int& nHeight) const;
 
   [[nodiscard]] SectionSet& Set() { return m_oSet; }

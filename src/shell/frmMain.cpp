@@ -85,18 +85,22 @@ frmMain::frmMain()
       m_oDocuments(*this, m_sCaption),
       m_pLhs(new Frame(this)),
       m_pRhs(new Frame(this)),
-      m_pCalculator(new ctlCalculator(m_pRhs)) {
+      m_pCalculator(new ctlCalculator(m_pRhs)),
+      m_pWizard(new ctlWizard(m_pRhs)) {
   setObjectName("frmMain");
   m_pLhs->SetName("fraLHS");
   m_pRhs->SetName("fraRHS");
   m_pCalculator->SetName("ctlCalculator1");
   m_pCalculator->SetVisible(false);
+  m_pWizard->SetName("ctlWizard1");
+  m_pWizard->SetVisible(false);
   MakeButtons();
   MakeShortcuts();
   connect(m_pCalculator, &ctlCalculator::Changed, this, [this](bool bDocDirty) {
     SetWindowTitle(m_pCalculator->ConfigMode() ? kDefaultAuctionTitle : m_oDocuments.FileName(),
                    bDocDirty);
   });
+  connect(m_pWizard, &ctlWizard::WizardComplete, this, [this] { ClickButton(kButtonCalculator); });
 }
 
 void frmMain::MakeButtons() {
@@ -176,13 +180,16 @@ void frmMain::FitFirstStart() {
   m_pCalculator->WholeSize(nWidth, nHeight);
   nWidth += kRhsLeft + kMargin;
   nHeight += kMargin;
-  const QSize oFrame = frameGeometry().size() - size();
-  const QSize oRoom = screen()->availableSize() - oFrame;
+  // The window manager hasn't framed the window yet: an ordinary frame is allowed for.
+  const QSize oFrame(16, 48);
+  const QRect oScreen = screen()->availableGeometry();
+  const QSize oRoom = oScreen.size() - oFrame;
   SetZoomPercent(LargestFittingZoom(nWidth / kTwipsPerPixel, nHeight / kTwipsPerPixel,
                                     oRoom.width(), oRoom.height()));
   resize(QSize(Pixels(nWidth), Pixels(nHeight)).boundedTo(oRoom));
-  const QRect oScreen = screen()->availableGeometry();
-  move(oScreen.center() - QPoint(frameGeometry().width() / 2, frameGeometry().height() / 2));
+  const QSize oOuter = size() + oFrame;
+  move(oScreen.topLeft() +
+       QPoint((oScreen.width() - oOuter.width()) / 2, (oScreen.height() - oOuter.height()) / 2));
 }
 
 void frmMain::ClickButton(int nIndex) {
@@ -231,10 +238,13 @@ void frmMain::ShowConfiguration() {
 }
 
 void frmMain::PushDocument(bool bConfigMode, clsCalculate& oDocument, const std::string& sTitle) {
+  m_pWizard->SetVisible(false);
+  m_pWizard->SetVisible(false);
   m_pCalculator->SetVisible(true);
   m_pCalculator->SetConfigMode(bConfigMode);
   m_pCalculator->RefreshSums(true, &oDocument);
   m_pCalculator->CalcMinSize(m_lCalcMinWidth, m_lCalcMinHeight);
+  m_pCalculator->setFocus();
   SetWindowTitle(sTitle, false);
   Form_Resize();
 }
@@ -244,7 +254,12 @@ void frmMain::RefreshCalculator() {
 }
 
 void frmMain::ShowWizard() {
-  ShowCalculator();
+  m_pCalculator->SetVisible(false);
+  m_pWizard->Place(m_pCalculator->Left(), m_pCalculator->Top(), m_pCalculator->Width(),
+                   m_pCalculator->Height());
+  m_pWizard->SetVisible(true);
+  MarkCurrent(kButtonWizard);
+  Form_Resize();
 }
 
 void frmMain::ShowAboutBox() {}
@@ -300,10 +315,18 @@ void frmMain::Form_Resize() {
     m_pCalculator->SetWidth(m_pRhs->Width());
     m_pCalculator->SetHeight(m_pRhs->Height());
   }
+  if (m_pWizard->Visible()) {
+    m_pWizard->SetWidth(m_pRhs->Width());
+    m_pWizard->SetHeight(m_pRhs->Height());
+  }
+  if (m_pWizard->Visible()) {
+    m_pWizard->SetWidth(m_pRhs->Width());
+    m_pWizard->SetHeight(m_pRhs->Height());
+  }
 }
 
-/// What stands in a box counts when the focus leaves it. A command that comes by key leaves the focus
-/// where it is, so a box that was typed into is left and entered again.
+/// What stands in a box counts when the focus leaves it. A command that comes by key leaves the
+/// focus where it is, so a box that was typed into is left and entered again.
 void frmMain::CommitTyping() {
   auto* const pText = qobject_cast<QLineEdit*>(QApplication::focusWidget());
   if (pText != nullptr && pText->isModified()) {

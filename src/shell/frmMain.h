@@ -8,6 +8,7 @@
 #include "documents/lifecycle.h"
 #include "sections/Controls.h"
 #include "shell/ctlCalculator.h"
+#include "shell/ctlWizard.h"
 
 namespace quillet {
 
@@ -39,6 +40,8 @@ class frmMain : public QWidget, private DocumentView {
   void SetZoomPercent(int nPercent);
 
   [[nodiscard]] ctlCalculator& Calculator() { return *m_pCalculator; }
+  [[nodiscard]] ctlWizard& Wizard() { return *m_pWizard; }
+  [[nodiscard]] ctlWizard& Wizard() { return *m_pWizard; }
 
  protected:
   void closeEvent(QCloseEvent* pEvent) override;
@@ -71,6 +74,8 @@ class frmMain : public QWidget, private DocumentView {
   Frame* m_pLhs;
   Frame* m_pRhs;
   ctlCalculator* m_pCalculator;
+  ctlWizard* m_pWizard;
+  ctlWizard* m_pWizard;
   std::array<ShockwaveFlash*, 6> m_apMenuButtons{};
   ShockwaveFlash* m_pAbout = nullptr;
   int m_lMinWidth = 0;        ///< twips; the smallest size while the wizard shows
