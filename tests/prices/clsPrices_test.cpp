@@ -149,6 +149,21 @@ TEST_F(TierLookUp, CountsWithoutTiers) {
   EXPECT_EQ(m_oTier.m_fValue, 7);
 }
 
+TEST_F(TierLookUp, ATableIsWholeWhateverTheOrderOfItsLines) {
+  clsPrices oPrices;
+  oPrices.LoadText("FEERangeValue2,2\nFeeRangeEnd2,-1\nfeeranges,2\nFeeRangeStart1,1\n");
+  oPrices.LoadText("FeeRangeStart2,5\nFeeRangeValue1,1\nFeeRangeEnd1,4\nFee,9\n");
+  EXPECT_TRUE(oPrices.HitTestRanges("Fee", 1, m_oTier, kShopNone));
+  EXPECT_EQ(m_oTier.m_fValue, 1);
+  // A reading that ends at a key that is there already leaves all that came before it.
+  EXPECT_THROW(oPrices.LoadText("LateRanges,1\nLateRangeEnd1,-1\nLateRangeValue1,3\nFee,9"),
+               Failure);
+  EXPECT_TRUE(oPrices.HitTestRanges("Late", 1, m_oTier, kShopNone));
+  EXPECT_EQ(m_oTier.m_fValue, 3);
+  EXPECT_TRUE(oPrices.HitTestRanges("Fee", 6, m_oTier, kShopNone));
+  EXPECT_EQ(m_oTier.m_fValue, 2);
+}
+
 TEST_F(TierLookUp, ARangeOfATierThatIsMissingReadsAsZeros) {
   EXPECT_TRUE(m_oPrices.GetRange("Fee", 3, m_oTier, kShopNone));
   EXPECT_EQ(m_oTier.m_fStart, 30);
