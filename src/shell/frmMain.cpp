@@ -100,7 +100,8 @@ frmMain::frmMain()
     SetWindowTitle(m_pCalculator->ConfigMode() ? kDefaultAuctionTitle : m_oDocuments.FileName(),
                    bDocDirty);
   });
-  connect(m_pWizard, &ctlWizard::WizardComplete, this, [this] { ClickButton(kButtonCalculator); });
+  connect(m_pWizard, &ctlWizard::WizardComplete, this,
+          [this] { IgnoreFailure([this] { ClickButton(kButtonCalculator); }); });
 }
 
 void frmMain::MakeButtons() {
@@ -239,7 +240,6 @@ void frmMain::ShowConfiguration() {
 
 void frmMain::PushDocument(bool bConfigMode, clsCalculate& oDocument, const std::string& sTitle) {
   m_pWizard->SetVisible(false);
-  m_pWizard->SetVisible(false);
   m_pCalculator->SetVisible(true);
   m_pCalculator->SetConfigMode(bConfigMode);
   m_pCalculator->RefreshSums(true, &oDocument);
@@ -318,9 +318,6 @@ void frmMain::Form_Resize() {
   if (m_pWizard->Visible()) {
     m_pWizard->SetWidth(m_pRhs->Width());
     m_pWizard->SetHeight(m_pRhs->Height());
-  }
-  if (m_pWizard->Visible()) {
-    m_pWizard->SetWidth(m_pRhs->Width());
     m_pWizard->SetHeight(m_pRhs->Height());
   }
 }

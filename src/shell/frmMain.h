@@ -41,7 +41,6 @@ class frmMain : public QWidget, private DocumentView {
 
   [[nodiscard]] ctlCalculator& Calculator() { return *m_pCalculator; }
   [[nodiscard]] ctlWizard& Wizard() { return *m_pWizard; }
-  [[nodiscard]] ctlWizard& Wizard() { return *m_pWizard; }
 
  protected:
   void closeEvent(QCloseEvent* pEvent) override;
@@ -74,7 +73,6 @@ class frmMain : public QWidget, private DocumentView {
   Frame* m_pLhs;
   Frame* m_pRhs;
   ctlCalculator* m_pCalculator;
-  ctlWizard* m_pWizard;
   ctlWizard* m_pWizard;
   std::array<ShockwaveFlash*, 6> m_apMenuButtons{};
   ShockwaveFlash* m_pAbout = nullptr;
