@@ -348,7 +348,8 @@ void ctlWizard::PaintCard(QPainter& oPainter) const {
   oPainter.setRenderHint(QPainter::Antialiasing);
   DrawCard(oPainter, oCard);
   if (oCard.top() < oView.top()) {
-    oPainter.fillRect(QRectF(oCard.left(), oView.top(), oCard.width(), 1),
+    oPainter.setClipping(false);
+    oPainter.fillRect(QRectF(oCard.left(), oView.top() - 1, oCard.width(), 1),
                       InkColour(Ink::Hairline));
   }
 }
