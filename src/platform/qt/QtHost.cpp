@@ -11,8 +11,12 @@
 #include <QThread>
 #include <QUrl>
 
+#include "platform/qt/Theme.h"
+
 namespace quillet {
 namespace {
+
+constexpr QSize kTwipsOfFileDialog(10800, 7200);
 
 QMessageBox::Icon IconOf(int nButtons) {
   switch (nButtons) {
@@ -65,6 +69,7 @@ bool MayReplace(const QString& sPath) {
       QMessageBox::Warning, {},
       QString("%1 already exists.\nDo you want to replace it?").arg(QFileInfo(sPath).fileName()),
       QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow());
+  oBox.setFont(ThemeFont(kTextPoints));
   oBox.setTextFormat(Qt::PlainText);
   oBox.setDefaultButton(QMessageBox::No);
   return oBox.exec() == QMessageBox::Yes;
@@ -98,6 +103,7 @@ QtHost::QtHost() : m_sDecimalSeparator(QString(QLocale::system().decimalPoint())
 Answer QtHost::ShowMessage(const std::string& sPrompt, int nButtons, const std::string& sTitle) {
   QMessageBox oBox(IconOf(nButtons), QString::fromStdString(sTitle),
                    QString::fromStdString(sPrompt), QMessageBox::Ok, QApplication::activeWindow());
+  oBox.setFont(ThemeFont(kTextPoints));
   oBox.setTextFormat(Qt::PlainText);
   if (nButtons == kMessageQuestion) {
     oBox.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
@@ -110,6 +116,8 @@ Answer QtHost::ShowMessage(const std::string& sPrompt, int nButtons, const std::
 std::optional<std::string> QtHost::ChooseFile(const FileDialog& oDialog) {
   const QString sPattern = QString::fromStdString(oDialog.sPattern);
   QFileDialog oWindow(QApplication::activeWindow());
+  oWindow.setFont(ThemeFont(kTextPoints));
+  oWindow.resize(Pixels(kTwipsOfFileDialog.width()), Pixels(kTwipsOfFileDialog.height()));
   oWindow.setAcceptMode(oDialog.bSave ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   oWindow.setFileMode(oDialog.bSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   oWindow.setNameFilter(

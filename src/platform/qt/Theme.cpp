@@ -4,11 +4,12 @@
 #include <QFontDatabase>
 #include <QIcon>
 #include <QPalette>
-#include <QStyleFactory>
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <utility>
+
+#include "platform/qt/ThemeStyle.h"
 
 namespace quillet {
 namespace {
@@ -98,6 +99,8 @@ QColor InkColour(Ink eInk) {
       return {0x10, 0x12, 0x14};
     case Ink::ColumnText:
       return {0xB4, 0xBB, 0xC3};
+    case Ink::Warning:
+      return {0xFF, 0xB8, 0x4D};
     case Ink::Error:
       return {0xFF, 0x6B, 0x6B};
   }
@@ -135,7 +138,7 @@ QFont ThemeFont(double fPoints, QFont::Weight eWeight) {
 
 void InstallTheme() {
   LoadFont();
-  QApplication::setStyle(QStyleFactory::create("Fusion"));
+  QApplication::setStyle(new ThemeStyle);
   QApplication::setPalette(ThemePalette());
   QApplication::setFont(ThemeFont(kTextPoints));
   QApplication::setWindowIcon(ProgramIcon());

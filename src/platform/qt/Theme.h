@@ -26,6 +26,7 @@ enum class Ink {
   Hover,       ///< under a button that the pointer is on
   Column,      ///< behind the buttons of the main window
   ColumnText,  ///< captions and icons of those buttons
+  Warning,
   Error,
 };
 

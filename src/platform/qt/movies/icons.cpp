@@ -77,6 +77,26 @@ constexpr Step kAbout[] = {
     {Move, 12, 11},  {Line, 12, 17},
     {Move, 12, 7},   {Line, 12, 7.01},
 };
+
+constexpr Step kQuestion[] = {
+    {Circle, 12, 12, 10},
+    {Move, 9, 9.5},   {Round, 12, 6.75, 9, 6.75},  {Round, 15, 9.5, 15, 6.75},
+    {Round, 13.5, 11.75, 15, 11},  {Round, 12, 14, 12, 12.5},
+    {Move, 12, 17},   {Line, 12, 17.01},
+};
+
+constexpr Step kWarning[] = {
+    {Move, 11, 3.5},  {Round, 13, 3.5, 12, 2},
+    {Line, 22, 19},   {Round, 21, 21, 23, 21},
+    {Line, 3, 21},    {Round, 2, 19, 1, 21},   {Close},
+    {Move, 12, 9},    {Line, 12, 14},
+    {Move, 12, 17.5}, {Line, 12, 17.51},
+};
+
+constexpr Step kCritical[] = {
+    {Circle, 12, 12, 10},
+    {Move, 8.5, 8.5}, {Line, 15.5, 15.5},  {Move, 15.5, 8.5},  {Line, 8.5, 15.5},
+};
 // clang-format on
 
 std::span<const Step> StepsOf(Icon eIcon) {
@@ -95,6 +115,12 @@ std::span<const Step> StepsOf(Icon eIcon) {
       return kConfigure;
     case Icon::About:
       return kAbout;
+    case Icon::Question:
+      return kQuestion;
+    case Icon::Warning:
+      return kWarning;
+    case Icon::Critical:
+      return kCritical;
   }
   return {};
 }

@@ -7,7 +7,18 @@ class QRectF;
 
 namespace quillet {
 
-enum class Icon { New, Calculator, Wizard, Save, Load, Configure, About };
+enum class Icon {
+  New,
+  Calculator,
+  Wizard,
+  Save,
+  Load,
+  Configure,
+  About,
+  Question,
+  Warning,
+  Critical,
+};
 
 /// Draws an icon into a square, with lines of `fStroke` units; the square's side is 24 units.
 void DrawIcon(QPainter& oPainter, Icon eIcon, const QRectF& oSquare, const QColor& oColour,

@@ -1,0 +1,147 @@
+#include "platform/qt/ThemeStyle.h"
+
+#include <QIcon>
+#include <QPainter>
+#include <QPixmap>
+#include <QStyleOptionButton>
+#include <QWidget>
+#include <cmath>
+#include <optional>
+
+#include "platform/qt/Theme.h"
+#include "platform/qt/movies/icons.h"
+
+namespace quillet {
+namespace {
+
+constexpr double kTwipsOfButtonWidth = 1200.0;
+constexpr double kTwipsOfButtonHeight = 420.0;
+constexpr double kTwipsOfMessageIcon = 540.0;
+constexpr double kTwipsOfMargin = 240.0;
+constexpr double kTwipsOfSpacing = 120.0;
+constexpr double kIconStroke = 1.8;
+
+struct MessageIcon {
+  Icon eIcon;
+  Ink eInk;
+};
+
+std::optional<MessageIcon> MessageIconOf(QStyle::StandardPixmap eIcon) {
+  switch (eIcon) {
+    case QStyle::SP_MessageBoxInformation:
+      return MessageIcon{Icon::About, Ink::Accent};
+    case QStyle::SP_MessageBoxQuestion:
+      return MessageIcon{Icon::Question, Ink::Accent};
+    case QStyle::SP_MessageBoxWarning:
+      return MessageIcon{Icon::Warning, Ink::Warning};
+    case QStyle::SP_MessageBoxCritical:
+      return MessageIcon{Icon::Critical, Ink::Error};
+    default:
+      return std::nullopt;
+  }
+}
+
+QIcon PaintedIcon(const MessageIcon& oIcon, int nSize, double fDotsPerPixel) {
+  const int nDots = static_cast<int>(std::lround(nSize * fDotsPerPixel));
+  QPixmap oPixmap(nDots, nDots);
+  oPixmap.setDevicePixelRatio(fDotsPerPixel);
+  oPixmap.fill(Qt::transparent);
+  QPainter oPainter(&oPixmap);
+  DrawIcon(oPainter, oIcon.eIcon, QRectF(0, 0, nSize, nSize), InkColour(oIcon.eInk), kIconStroke);
+  return {oPixmap};
+}
+
+bool IsDefault(const QStyleOption* pOption) {
+  const auto* const pButton = qstyleoption_cast<const QStyleOptionButton*>(pOption);
+  return pButton != nullptr && (pButton->features & QStyleOptionButton::DefaultButton) != 0 &&
+         (pOption->state & QStyle::State_Enabled) != 0;
+}
+
+QColor ButtonColour(const QStyleOption& oOption) {
+  const bool bDown = (oOption.state & QStyle::State_Sunken) != 0;
+  const bool bHover = (oOption.state & QStyle::State_MouseOver) != 0;
+  if (IsDefault(&oOption)) {
+    const QColor oAccent = InkColour(Ink::Accent);
+    return bDown ? oAccent.darker(115) : bHover ? oAccent.lighter(108) : oAccent;
+  }
+  return InkColour(bDown ? Ink::Hairline : bHover ? Ink::Hover : Ink::Panel);
+}
+
+void DrawButton(QPainter& oPainter, const QStyleOption& oOption) {
+  const bool bFocus = (oOption.state & QStyle::State_HasFocus) != 0;
+  const double fRadius = Pixels(75);
+  const QRectF oEdge = QRectF(oOption.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+  oPainter.save();
+  oPainter.setRenderHint(QPainter::Antialiasing);
+  oPainter.setPen(InkColour(IsDefault(&oOption) ? Ink::Accent : Ink::FieldEdge));
+  oPainter.setBrush(ButtonColour(oOption));
+  oPainter.drawRoundedRect(oEdge, fRadius, fRadius);
+  if (bFocus) {
+    oPainter.setPen(InkColour(IsDefault(&oOption) ? Ink::OnAccent : Ink::Accent));
+    oPainter.setBrush(Qt::NoBrush);
+    oPainter.drawRoundedRect(oEdge.adjusted(2, 2, -2, -2), fRadius - 2, fRadius - 2);
+  }
+  oPainter.restore();
+}
+
+}  // namespace
+
+ThemeStyle::ThemeStyle() : QProxyStyle("Fusion") {}
+
+void ThemeStyle::drawPrimitive(PrimitiveElement eElement, const QStyleOption* pOption,
+                               QPainter* pPainter, const QWidget* pWidget) const {
+  if (eElement == PE_PanelButtonCommand) {
+    DrawButton(*pPainter, *pOption);
+  } else {
+    QProxyStyle::drawPrimitive(eElement, pOption, pPainter, pWidget);
+  }
+}
+
+void ThemeStyle::drawControl(ControlElement eElement, const QStyleOption* pOption,
+                             QPainter* pPainter, const QWidget* pWidget) const {
+  if (eElement == CE_PushButtonLabel && IsDefault(pOption)) {
+    QStyleOptionButton oOption = *qstyleoption_cast<const QStyleOptionButton*>(pOption);
+    oOption.palette.setColor(QPalette::ButtonText, InkColour(Ink::OnAccent));
+    QProxyStyle::drawControl(eElement, &oOption, pPainter, pWidget);
+  } else {
+    QProxyStyle::drawControl(eElement, pOption, pPainter, pWidget);
+  }
+}
+
+QSize ThemeStyle::sizeFromContents(ContentsType eType, const QStyleOption* pOption,
+                                   const QSize& oSize, const QWidget* pWidget) const {
+  const QSize oFitting = QProxyStyle::sizeFromContents(eType, pOption, oSize, pWidget);
+  return eType == CT_PushButton
+             ? oFitting.expandedTo({Pixels(kTwipsOfButtonWidth), Pixels(kTwipsOfButtonHeight)})
+             : oFitting;
+}
+
+int ThemeStyle::pixelMetric(PixelMetric eMetric, const QStyleOption* pOption,
+                            const QWidget* pWidget) const {
+  switch (eMetric) {
+    case PM_MessageBoxIconSize:
+      return Pixels(kTwipsOfMessageIcon);
+    case PM_LayoutLeftMargin:
+    case PM_LayoutTopMargin:
+    case PM_LayoutRightMargin:
+    case PM_LayoutBottomMargin:
+      return Pixels(kTwipsOfMargin);
+    case PM_LayoutHorizontalSpacing:
+    case PM_LayoutVerticalSpacing:
+      return Pixels(kTwipsOfSpacing);
+    default:
+      return QProxyStyle::pixelMetric(eMetric, pOption, pWidget);
+  }
+}
+
+QIcon ThemeStyle::standardIcon(StandardPixmap eIcon, const QStyleOption* pOption,
+                               const QWidget* pWidget) const {
+  const std::optional<MessageIcon> oIcon = MessageIconOf(eIcon);
+  if (!oIcon) {
+    return QProxyStyle::standardIcon(eIcon, pOption, pWidget);
+  }
+  const double fDotsPerPixel = pWidget != nullptr ? pWidget->devicePixelRatioF() : 1.0;
+  return PaintedIcon(*oIcon, Pixels(kTwipsOfMessageIcon), fDotsPerPixel);
+}
+
+}  // namespace quillet

@@ -1,0 +1,24 @@
+// How the toolkit's own dialogs are drawn: flat buttons, and icons of the program's family.
+#pragma once
+
+#include <QProxyStyle>
+
+namespace quillet {
+
+class ThemeStyle : public QProxyStyle {
+ public:
+  ThemeStyle();
+
+  void drawPrimitive(PrimitiveElement eElement, const QStyleOption* pOption, QPainter* pPainter,
+                     const QWidget* pWidget) const override;
+  void drawControl(ControlElement eElement, const QStyleOption* pOption, QPainter* pPainter,
+                   const QWidget* pWidget) const override;
+  [[nodiscard]] QSize sizeFromContents(ContentsType eType, const QStyleOption* pOption,
+                                       const QSize& oSize, const QWidget* pWidget) const override;
+  [[nodiscard]] int pixelMetric(PixelMetric eMetric, const QStyleOption* pOption,
+                                const QWidget* pWidget) const override;
+  [[nodiscard]] QIcon standardIcon(StandardPixmap eIcon, const QStyleOption* pOption,
+                                   const QWidget* pWidget) const override;
+};
+
+}  // namespace quillet
