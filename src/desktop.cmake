@@ -6,6 +6,7 @@ add_library(quillet_desktop STATIC
   platform/qt/QtSettingsHive.cpp
   platform/qt/ShockwaveFlash.cpp
   platform/qt/Theme.cpp
+  platform/qt/ThemeStyle.cpp
   platform/qt/movies/ButtonMovie.cpp
   platform/qt/movies/icons.cpp
   platform/qt/movies/movies.cpp
