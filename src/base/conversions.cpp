@@ -377,10 +377,6 @@ std::string SingleText(Single fValue) {
   return sText;
 }
 
-std::string BooleanText(bool bValue) {
-  return bValue ? "True" : "False";
-}
-
 std::string FormatNumber(Single fValue, std::string_view sPattern) {
   if (sPattern.empty()) {
     return SingleText(fValue);

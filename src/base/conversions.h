@@ -40,7 +40,9 @@ namespace quillet {
 /// at the seventh digit goes to the even one, and -0 is "0".
 [[nodiscard]] std::string SingleText(Single fValue);
 
-[[nodiscard]] std::string BooleanText(bool bValue);  ///< "True" or "False"
+[[nodiscard]] constexpr std::string_view BooleanText(bool bValue) {
+  return bValue ? "True" : "False";
+}
 
 /// A number by a pattern such as "0", "0.00", "000" or "#,##0.00": "0" is a digit that always
 /// stands, "#" one that stands if needed, a "," between digits asks for grouping by thousands, and

@@ -1,8 +1,11 @@
 #include "documents/Section.h"
 
+#include <algorithm>
+#include <array>
+#include <charconv>
+
 #include "base/conversions.h"
 #include "base/failure.h"
-#include "base/text.h"
 
 namespace quillet {
 namespace {
@@ -46,7 +49,10 @@ SectionWriter& SectionWriter::Add(bool bValue) {
 
 SectionWriter& SectionWriter::AddPadded(std::int32_t nValue, std::size_t nDigits) {
   Separate();
-  m_sData += PadLeftWith(std::to_string(nValue), nDigits, "0");
+  std::array<char, 12> acDigits{};
+  const auto oEnd = std::to_chars(acDigits.data(), acDigits.data() + acDigits.size(), nValue);
+  const std::string_view sDigits(acDigits.data(), oEnd.ptr);
+  m_sData.append(nDigits - std::min(nDigits, sDigits.size()), '0').append(sDigits);
   return *this;
 }
 

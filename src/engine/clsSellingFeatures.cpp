@@ -117,6 +117,7 @@ Single clsSellingFeatures::DoCalc(const clsAuctionType* oAuctionType, const clsO
   if (HasFeature(kFeatureScheduledListing)) {
     fSum = fSum + m_fScheduledListings;
   }
+  m_fLastFee = fSum;
   return fSum;
 }
 

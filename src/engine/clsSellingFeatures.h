@@ -53,6 +53,9 @@ class clsSellingFeatures {
   /// had. Without any auction type it is a Failure, and so is a tier table that is missing.
   [[nodiscard]] Single DoCalc(const clsAuctionType* oAuctionType, const clsOutlay* oOutlay);
 
+  /// What the latest DoCalc gave.
+  [[nodiscard]] Single LastFee() const { return m_fLastFee; }
+
   /// Appends the section "[FEATURES]" to `sData`, or reads it from there (docs/auction-file.md).
   void Serialize(std::string& sData, bool bSave);
 
@@ -94,6 +97,7 @@ class clsSellingFeatures {
   [[nodiscard]] Single GetPicturePackFee() const;
 
   std::int32_t m_lFeatures = 0;  ///< a mask of eFeature
+  Single m_fLastFee;
   std::string m_sDefaultState;
   const clsAuctionType* m_oAuctionType = nullptr;
   const clsOutlay* m_oLastOutlay = nullptr;

@@ -10,6 +10,7 @@ namespace {
 
 constexpr std::size_t kLongestText = 32766;
 constexpr std::int32_t kGrowth = 50;
+constexpr std::size_t kRoomAtFirst = 16;  // more than any section of an auction has
 
 const std::string& EmptyText() {
   static const std::string sEmpty;
@@ -63,6 +64,9 @@ void clsTokeniser::AddToArray(std::string_view sElement) {
   if (nIndex < m_asElements.size()) {
     m_asElements[nIndex] = sElement;
   } else {
+    if (nIndex == 0) {
+      m_asElements.reserve(kRoomAtFirst);
+    }
     m_asElements.emplace_back(sElement);
   }
 }

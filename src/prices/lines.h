@@ -11,12 +11,13 @@ inline bool TakeLine(std::string_view& sText, std::string_view& sLine) {
   if (sText.empty()) {
     return false;
   }
-  const std::size_t nEnd = sText.find_first_of("\r\n");
+  std::size_t nEnd = 0;
+  while (nEnd < sText.size() && sText[nEnd] != '\n' && sText[nEnd] != '\r') {
+    ++nEnd;
+  }
   sLine = sText.substr(0, nEnd);
-  const bool bLineFeedToo =
-      nEnd != std::string_view::npos && sText.substr(nEnd).starts_with("\r\n");
-  sText.remove_prefix(nEnd == std::string_view::npos ? sText.size()
-                                                     : nEnd + (bLineFeedToo ? 2 : 1));
+  sText.remove_prefix(nEnd);
+  sText.remove_prefix(sText.starts_with("\r\n") ? 2 : sText.empty() ? 0 : 1);
   return true;
 }
 

@@ -20,7 +20,7 @@ Figures FiguresOf(clsCalculate& oAuction) {
   oFigures.fPostageCost = oAuction.m_fPostageCost;
   oFigures.fPostageProfit = oAuction.m_fPostageProfit;
   oFigures.fListingFee = oAuction.m_fListingCost;
-  oFigures.fFeaturesFee = oAuction.m_oSellingFeatures.DoCalc(nullptr, nullptr);
+  oFigures.fFeaturesFee = oAuction.m_oSellingFeatures.LastFee();
   oFigures.fTotalListingFee = oFigures.fListingFee + oFigures.fFeaturesFee;
   oFigures.fReserveFee = oAuction.m_fReserveCost;
   oFigures.fFinalValueFee = oAuction.m_fFinalValueFee;

@@ -1,4 +1,6 @@
 // The reports for programs: CSV and JSON.
+#include <algorithm>
+
 #include <nlohmann/json.hpp>
 
 #include "app/calc/Report.h"
@@ -8,7 +10,10 @@ namespace quillet {
 namespace {
 
 void AppendQuotedForCsv(std::string_view sText, std::string& sOut) {
-  if (sText.find_first_of(",\"\r\n") == std::string_view::npos) {
+  const bool bPlain = std::none_of(sText.begin(), sText.end(), [](char c) {
+    return c == ',' || c == '"' || c == '\r' || c == '\n';
+  });
+  if (bPlain) {
     sOut += sText;
     return;
   }
