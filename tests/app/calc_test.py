@@ -1,0 +1,327 @@
+#!/usr/bin/env python3
+"""Drives the built terminal programs: calc_test.py FOLDER-OF-THE-PROGRAMS."""
+import csv
+import io
+import json
+import os
+import pty
+import re
+import resource
+import struct
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+PROGRAMS = Path(sys.argv[1] if len(sys.argv) > 1 else "build/release/bin").resolve()
+ROOT = Path(__file__).resolve().parents[2]
+SAMPLES = ROOT / "data" / "samples"
+COLUMNS = ("file message error profit profit_percent selling_cost postage_cost postage_profit "
+           "listing_fee features_fee reserve_fee final_value_fee paypal_fee auction").split()
+CAMERA = (SAMPLES / "used-camera.qlt").read_text().rstrip("\n")
+LATHE = (SAMPLES / "lathe-unsold.qlt").read_text().rstrip("\n")
+NO_RATE = CAMERA.replace("[PAYPAL]True|1|1", "[PAYPAL]True|1|9")
+NO_PAYPAL = CAMERA[:CAMERA.index("[PAYPAL]")]
+
+
+def calc(*arguments, stdin=b"", program="quillet-calc", **options):
+    if isinstance(stdin, str):
+        stdin = stdin.encode()
+    done = subprocess.run([PROGRAMS / program, *map(str, arguments)], input=stdin,
+                          capture_output=True, timeout=60, **options)
+    return done.returncode, done.stdout.decode(), done.stderr.decode()
+
+
+class Temporary(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = Path(folder.name)
+
+    def file(self, name, content):
+        path = self.folder / name
+        path.write_bytes(content if isinstance(content, bytes) else content.encode())
+        return path
+
+
+class Formats(Temporary):
+    def test_one_auction_is_a_table_with_the_labels_of_the_summary(self):
+        path = self.file("camera.qlt", CAMERA + "\r\n")
+        self.assertEqual(calc(path), (0, f"""{path}
+Insertion Fee       $0.40
+Total Listing Fee   $2.05
+Reserve Fee         $0.00
+Final Value Fee     $5.34
+Selling Cost       $52.26
+Postage & Packing   $8.50
+PayPal Fee          $4.87
+Profit             $96.74 (185%)
+""", ""))
+        status, loss, _ = calc(SAMPLES / "lathe-unsold.qlt")
+        self.assertEqual((status, loss.splitlines()[-1]), (0, "Profit             $-27.35"))
+
+    def test_json_has_its_keys_in_order_and_null_where_nothing_is(self):
+        status, out, _ = calc("--format", "json", "-", stdin=f"{CAMERA}\n{NO_RATE}\n{NO_PAYPAL}\n")
+        lines = [json.loads(line, object_pairs_hook=list) for line in out.splitlines()]
+        self.assertEqual(status, 1)
+        for line in lines:
+            self.assertEqual([key for key, _ in line], COLUMNS)
+        good, failed, partial = map(dict, lines)
+        self.assertEqual([good["file"], failed["file"], partial["file"]], [1, 2, 3])
+        self.assertEqual((good["message"], good["error"], good["auction"]), (None, None, CAMERA))
+        self.assertEqual(good["profit_percent"], 185)
+        self.assertIn("band 9", failed["error"])
+        self.assertEqual([failed[key] for key in COLUMNS[3:13]], [None] * 10)
+        self.assertEqual(failed["auction"], NO_RATE)
+        self.assertEqual(partial["message"], "Failure loading section [PAYPAL]")
+        self.assertEqual((partial["error"], partial["paypal_fee"]), (None, 0))
+        self.assertIn("[PAYPAL]False|0|1|False[PAYPAL]", partial["auction"])
+
+    def test_figures_are_the_shortest_text_of_their_32_bit_float(self):
+        def single(text):
+            return struct.pack("f", float(text))
+        _, out, _ = calc("--format", "json", *sorted(SAMPLES.glob("[!u]*.qlt")))
+        figures = re.findall(r'"(?:profit|[a-z_]+_(?:fee|cost|profit))":([^,]+),', out)
+        self.assertGreater(len(figures), 100)
+        for text in figures:
+            digits = text.lstrip("-").split("e")[0].replace(".", "").strip("0")
+            if digits:
+                shorter = f"{float(text):.{max(len(digits) - 1, 1)}g}"
+                self.assertTrue(len(digits) == 1 or single(shorter) != single(text), text)
+
+    def test_csv_has_a_header_and_quotes_what_needs_it(self):
+        path = self.file('a "b", c.qlt', CAMERA)
+        status, out, _ = calc(path, SAMPLES / "lathe-unsold.qlt")
+        rows = list(csv.reader(io.StringIO(out)))
+        self.assertEqual((status, rows[0], rows[1][0]), (0, COLUMNS, str(path)))
+        self.assertEqual(rows[1][3:6], ["96.7375", "185", "52.2625"])
+        self.assertEqual(rows[2][3:5], ["-27.35", ""])
+
+    def test_the_other_program_follows_the_other_rules(self):
+        status, out, _ = calc(SAMPLES / "uk-tea-set.qlt", program="quillet-calc-uk")
+        self.assertEqual((status, out.splitlines()[-1]), (0, "Profit             £14.78 (160%)"))
+        for program, edition in ("quillet-calc", "US"), ("quillet-calc-uk", "UK"):
+            self.assertRegex(calc("--version", program=program)[1],
+                             rf"^{program} \d+\.\d+\.\d+ \(Quillet {edition}\)\n$")
+
+    def test_colour_is_for_terminals_that_want_it(self):
+        def on_terminal(**environment):
+            ours, theirs = pty.openpty()
+            subprocess.run([PROGRAMS / "quillet-calc", SAMPLES / "used-camera.qlt"], stdout=theirs,
+                           env={"TERM": "xterm", **environment}, check=True, timeout=60)
+            os.close(theirs)
+            return os.read(ours, 65536).decode()
+        self.assertIn("\033[1;32m$96.74 (185%)\033[0m", on_terminal())
+        self.assertIn("\033[", on_terminal(NO_COLOR=""))
+        self.assertNotIn("\033[", on_terminal(NO_COLOR="1"))
+        self.assertNotIn("\033[", on_terminal(TERM="dumb"))
+
+
+class Streams(Temporary):
+    def test_one_line_is_a_table_and_two_are_csv(self):
+        self.assertTrue(calc(stdin=CAMERA)[1].startswith("line 1\nInsertion Fee"))
+        rows = list(csv.DictReader(io.StringIO(calc(stdin=f"{CAMERA}\r\n{LATHE}")[1])))
+        self.assertEqual([(row["file"], row["profit"]) for row in rows],
+                         [("1", "96.7375"), ("2", "-27.35")])
+
+    def test_each_auction_starts_afresh(self):
+        land = (SAMPLES / "desert-land.qlt").read_text()
+        bare = CAMERA[CAMERA.index("[OUTLAY]"):].replace("[FEATURES]48|2", "[FEATURES")
+        _, out, _ = calc("--format", "json", stdin=land + bare)
+        self.assertTrue(json.loads(out.splitlines()[1])["auction"].startswith(
+            "[TYPE]000|False|False|0|0|0|0|False[TYPE]"))
+
+    def test_a_line_without_end_is_refused_in_constant_memory_and_the_next_is_read(self):
+        long_line = b"[" * (64 << 20)
+        status, out, _ = calc("--format", "csv", stdin=long_line + b"\n\n" + CAMERA.encode())
+        rows = list(csv.DictReader(io.StringIO(out)))
+        self.assertEqual(status, 1)
+        self.assertEqual([row["error"] for row in rows],
+                         ["The line is too long for an auction.",
+                          "There is no auction in it; it is empty.", ""])
+        self.assertEqual((rows[2]["file"], rows[2]["profit"]), ("3", "96.7375"))
+        limited = subprocess.run(
+            [PROGRAMS / "quillet-calc", "--format", "csv"], input=long_line, capture_output=True,
+            preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_DATA, (48 << 20, 48 << 20)),
+            timeout=60) if "sanitize" not in str(PROGRAMS) else None
+        self.assertTrue(limited is None or limited.returncode == 1)
+
+    def test_results_come_before_the_next_line_is_awaited(self):
+        with subprocess.Popen([PROGRAMS / "quillet-calc", "--format", "json"],
+                              stdin=subprocess.PIPE, stdout=subprocess.PIPE) as program:
+            program.stdin.write(CAMERA.encode() + b"\n")
+            program.stdin.flush()
+            self.assertEqual(json.loads(program.stdout.readline())["profit"], 96.7375)
+            program.stdin.close()
+            self.assertEqual(program.wait(60), 0)
+
+    def test_a_reader_that_leaves_ends_it_quietly(self):
+        lines = self.file("lines", f"{CAMERA}\n" * 20000)
+        with lines.open() as stdin, subprocess.Popen(
+                [PROGRAMS / "quillet-calc"], stdin=stdin, stdout=subprocess.PIPE,
+                stderr=subprocess.PIPE) as program:
+            program.stdout.readline()
+            program.stdout.close()
+            self.assertEqual((program.stderr.read(), program.wait(60)), (b"", 0))
+
+
+class BadInput(Temporary):
+    def test_what_cannot_be_used_is_named_and_ends_with_its_status(self):
+        good = SAMPLES / "used-camera.qlt"
+        empty = self.file("empty", "")
+        words = self.file("words", "no auction\n")
+        twice = self.file("twice.dat", "Final,1\nFINAL,2\n")
+        for status, complaint, *arguments in (
+                (1, f"{self.folder}: It can't be read: Is a directory", self.folder),
+                (1, "gone: It can't be read: No such file or directory", "gone"),
+                (1, "/dev/zero: It can't be read: File too large", "/dev/zero"),
+                (1, f"{empty}: There is no auction in it; it is empty.", empty),
+                (1, "gone: It can't be read: No such file or directory", "gone", good, good),
+                (0, f"{words}: Failure loading section [OUTLAY]", words),
+                (2, f"{self.folder}: Is a directory", "--prices", self.folder, good),
+                (2, "gone.dat: No such file or directory", "--prices", "gone.dat", good),
+                (2, f"{empty}: There is no price in it.", "--prices", empty, good),
+                (2, "/dev/zero: File too large", "--prices", "/dev/zero", good),
+                (2, f'{twice}: The key "FINAL" stands in it twice.', "--prices", twice, good),
+                (2, "--format: xml not in", "--format", "xml", good),
+                (2, "not expected: --nonsense", "--nonsense"),
+                (2, "excludes", "--check", empty, good),
+                (2, "gone: No such file or directory", "--check", "gone"),
+                (2, f"{self.folder}: Is a directory", "--check", self.folder)):
+            with self.subTest(arguments=arguments):
+                done = calc(*arguments)
+                self.assertEqual(done[0], status, done)
+                self.assertIn(complaint, done[2])
+                self.assertEqual(len(done[2].splitlines()), 1, done)
+                self.assertTrue(done[2].startswith("quillet-calc: "))
+
+    def test_the_others_still_run(self):
+        status, out, _ = calc("--format", "json", "gone", SAMPLES / "used-camera.qlt")
+        gone, camera = map(json.loads, out.splitlines())
+        self.assertEqual((status, gone["file"], gone["auction"]), (1, "gone", None))
+        self.assertEqual((gone["error"], camera["profit"]),
+                         ("It can't be read: No such file or directory", 96.7375))
+
+    def test_results_that_cannot_be_written_are_a_failure(self):
+        with open("/dev/full", "wb") as full:
+            done = subprocess.run([PROGRAMS / "quillet-calc", SAMPLES / "used-camera.qlt"],
+                                  stdout=full, stderr=subprocess.PIPE, check=False, timeout=60)
+        self.assertEqual(done.returncode, 1)
+        self.assertIn(b"the results can't be written: No space left on device", done.stderr)
+
+    def test_a_schedule_of_another_code_page_is_read(self):
+        text = (ROOT / "data" / "UpdateUK_v0101.dat").read_text().encode("cp1252")
+        path = self.file("old.dat", text)
+        _, out, _ = calc("--prices", path, SAMPLES / "uk-tea-set.qlt", program="quillet-calc-uk")
+        self.assertIn("£14.78", out)
+
+
+US, UK = "quillet-calc", "quillet-calc-uk"
+SCHEDULES = {US: "UpdateUS_v0101.dat", UK: "UpdateUK_v0101.dat"}
+
+# What is done to the shipped schedule, and what the check then finds: program, (line as shipped,
+# lines in its place) pairs, findings. "@Key" stands for the line of that key, "$" for the last line.
+FINDINGS = (
+    (US, [("FeatureBold,1.00", "FeatureBold,1.00\nFEATUREBOLD,2")],
+     ['@FEATUREBOLD: "FEATUREBOLD" stands in line @FeatureBold already; loading stops here']),
+    (US, [("FeatureBold,1.00", "FeatureBold,1.00,extra")],
+     ["@FeatureBold: the line is skipped: 3 fields between its commas, not a key and a value",
+      '$: "FeatureBold" is missing']),
+    (US, [("LocalTax,0", "LocalTax,")],
+     ["@LocalTax: the line is skipped: a comma, but only one of key and value",
+      '$: "LocalTax" is missing']),
+    (US, [("LocalTax,0", "LocalTax = 0")],
+     ['@LocalTax: the line is skipped: no comma parts "LocalTax" from a value',
+      '$: "LocalTax" is missing']),
+    (US, [("LocalTax,0", "LocalTax,0\n,,\n# a heading, with, commas\nLocalTax is 0")],
+     ["#2: the line is skipped: nothing but commas",
+      '#4: the line is skipped: no comma parts "LocalTax" from a value']),
+    (US, [("LocalTax,0", "LocalTax,0\n" + "x" * 32767)],
+     ["#2: the line is longer than 32766 characters; loading stops here"]),
+    (US, [("LocalTax,0", "LocalTax,0\n# as of 2007, by hand")],
+     ['#2: nothing in Quillet US asks for "# as of 2007"']),
+    (US, [("LocalTax,0", "LocalTax ,0")],
+     ['@LocalTax: nothing in Quillet US asks for "LocalTax "; the blanks count',
+      '$: "LocalTax" is missing']),
+    (US, [("ReserveMax,100.00", "ReserveMax,$100")],
+     ['@ReserveMax: "ReserveMax" isn\'t a number: "$100"']),
+    (US, [("OpeningRanges,7", "OpeningRanges,seven")],
+     ['@OpeningRanges: "OpeningRanges" isn\'t a number of tiers: "seven"']),
+    (US, [("OpeningRanges,7", "OpeningRanges,-1")],
+     ['@OpeningRanges: "OpeningRanges" isn\'t a number of tiers: "-1"']),
+    (US, [("OpeningRanges,7", "")], ['$: "OpeningRanges" is missing']),
+    (US, [("OpeningRanges,7", "OpeningRanges,8")],
+     ['@OpeningRanges: "Opening": tier 8 is missing']),
+    (US, [("OpeningRanges,7", "OpeningRanges,32767")],
+     ['@OpeningRanges: "Opening": tiers 8 to 32767 are missing']),
+    (US, [("OpeningRanges,7", "OpeningRanges,6")],
+     [f'@OpeningRange{part}7: "OpeningRange{part}7" stands beyond the count of 6 in line '
+      "@OpeningRanges" for part in ("Start", "End", "Value")]),
+    (US, [("OpeningRangeValue3,0.60", "")],
+     ['@OpeningRanges: "OpeningRangeValue3" is missing']),
+    (US, [("OpeningRangeStart3,10.00", "OpeningRangeStart3,10.01")],
+     ['@OpeningRangeStart3: "Opening": gap between tier 2 to 9.99 and tier 3 from 10.01']),
+    (US, [("OpeningRangeStart3,10.00", "OpeningRangeStart3,9.99")], []),  # the lower tier wins
+    (US, [("OpeningRangeStart3,10.00", "OpeningRangeStart3,9.98")],
+     ['@OpeningRangeStart3: "Opening": overlap between tier 2 to 9.99 and tier 3 from 9.98']),
+    (US, [("OpeningRangeEnd3,24.99", "OpeningRangeEnd3,9")],
+     ['@OpeningRangeEnd3: "Opening": tier 3 ends at 9 before its start at 10.00',
+      '@OpeningRangeStart4: "Opening": gap between tier 3 to 9 and tier 4 from 25.00']),
+    (US, [("OpeningRangeEnd3,24.99", "OpeningRangeEnd3,-1")],
+     ['@OpeningRangeStart4: "Opening": tier 4 overlaps with tier 3 without an upper limit']),
+    (US, [("FinalRangeEnd1,25", "FinalRangeEnd1,24.99")],
+     ['@FinalRangeStart2: "Final": gap between tier 1 to 24.99 and tier 2 from 25']),
+    (US, [("FinalRangeEnd1,25", "FinalRangeEnd1,25.01")],
+     ['@FinalRangeStart2: "Final": overlap between tier 1 to 25.01 and tier 2 from 25']),
+    (US, [("PicturePackRangeStart2,7", "PicturePackRangeStart2,8")],
+     ['@PicturePackRangeStart2: "PicturePack": gap between tier 1 to 6 and tier 2 from 8']),
+    (UK, [("SecondClassRangeStart2,0.1", "SecondClassRangeStart2,0.101")], []),  # a gram
+    (UK, [("SecondClassRangeStart2,0.1", "SecondClassRangeStart2,0.102")],
+     ['@SecondClassRangeStart2: "SecondClass": gap between tier 1 to 0.1 and tier 2 from 0.102']),
+    (US, [("BusinessRateBand5Value,2000000", "BusinessRateBand5Value,-5")],
+     [f'@BusinessRateBand5Value: "BusinessRatePounds{part}": no tier holds '
+      '"BusinessRateBand5Value" of -5' for part in ("%", "Fixed")]),
+    (UK, [("AuctionTypeMotor,6.00", "AuctionTypeMotor,6.00\nAuctionTypeBusiness,20")],
+     ['#2: nothing in Quillet UK asks for "AuctionTypeBusiness"']),
+)
+
+
+class Check(Temporary):
+    def test_the_shipped_schedules_have_no_findings(self):
+        for program, name in SCHEDULES.items():
+            self.assertEqual(calc("--check", ROOT / "data" / name, program=program), (0, "", ""))
+
+    def test_each_fault_is_found_and_nothing_else(self):
+        for program, edits, findings in FINDINGS:
+            with self.subTest(program=program, edits=[new[:60] for _, new in edits]):
+                lines = (ROOT / "data" / SCHEDULES[program]).read_text().splitlines()
+                for old, new in edits:
+                    at = lines.index(old)
+                    lines[at:at + 1] = new.split("\n")
+                path = self.file("edited.dat", "\n".join(lines) + "\n")
+                expected = "".join(f"{path}:{self.numbered(finding, lines, at)}\n"
+                                   for finding in findings)
+                status, out, _ = calc("--check", path, program=program)
+                self.assertEqual(out, expected)
+                self.assertEqual(status, 1 if findings else 0)
+
+    @staticmethod
+    def numbered(finding, lines, at):
+        """The finding with line numbers in place of @Key, # and a number from the edit, and $."""
+        def line_of(match):
+            return str(next(i for i, line in enumerate(lines, 1)
+                            if re.match(re.escape(match[1]) + r"\b", line)))
+        finding = re.sub(r"^#(\d)", lambda match: str(at + int(match[1])), finding)
+        finding = re.sub(r"^\$", str(len(lines)), finding)
+        return re.sub(r"@(\w+)", line_of, finding)
+
+    def test_a_schedule_of_the_other_region_misses_keys(self):
+        status, out, _ = calc("--check", ROOT / "data" / SCHEDULES[US], program=UK)
+        self.assertEqual(status, 1)
+        self.assertIn('"AuctionTypeMotor" is missing', out)
+        self.assertIn('nothing in Quillet UK asks for "AuctionTypeBusiness"', out)
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])
