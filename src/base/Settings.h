@@ -41,7 +41,7 @@ inline constexpr Setting kFtpServer{HiveRoot::Machine, "Config", "FtpServer", kB
 inline constexpr Setting kCode{HiveRoot::User, "Config", "Code", ""};
 /// The way to the Internet, "host" or "host:port"; none for the user's own settings. Read only. The
 /// section looks absolute, but lies under RegistryRoot like every other.
-inline constexpr Setting kProxyName{HiveRoot::Machine, "Software\\Velmor\\Gavel Ledger\\FTP",
+inline constexpr Setting kProxyName{HiveRoot::Machine, R"(Software\Velmor\Gavel Ledger\FTP)",
                                     "ProxyName", ""};
 /// Size of the interface in percent.
 inline constexpr Setting kZoom{HiveRoot::User, "Config", "Zoom", ""};

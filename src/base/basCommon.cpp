@@ -25,8 +25,8 @@ std::string_view TrimSpaces(std::string_view sText) {
 /// Where a file lies that comes with the program and changes later.
 std::string PathOfChangingFile(const std::string& sName) {
   const std::string sBelow = NativePath("\\" + sName);
-  const std::string sShipped = TheHost().ProgramFolder() + sBelow;
-  const std::string sOwn = TheHost().DataFolder() + sBelow;
+  std::string sShipped = TheHost().ProgramFolder() + sBelow;
+  std::string sOwn = TheHost().DataFolder() + sBelow;
   if (sOwn == sShipped) {
     return sShipped;
   }
@@ -41,7 +41,7 @@ bool IsControlCharacter(char cToken) {
 }  // namespace
 
 std::string EditionName() {
-  const std::string sTitle = "Quillet";
+  std::string sTitle = "Quillet";
   switch (RegionCode()) {
     case 0:
       return sTitle + " UK";

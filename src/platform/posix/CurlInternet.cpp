@@ -12,8 +12,6 @@
 namespace quillet {
 namespace {
 
-constexpr std::size_t kPiece = 65536;  // bytes that Read can give at once
-
 /// A path for a URL: each part between the "/" escaped; one in front is part of the path.
 std::string EscapePath(const std::string& sPath) {
   std::string sEscaped = sPath.starts_with('/') ? "%2F" : "";
@@ -148,7 +146,7 @@ bool CurlInternet::FindFile(InternetHandle hFtp, const std::string& sRemoteFile,
 }
 
 InternetHandle CurlInternet::OpenRequest(InternetHandle hHttp, const std::string& sRequest) {
-  m_aoRequests[++m_hLast] = {hHttp, sRequest, {}, 0};
+  m_aoRequests[++m_hLast] = {hHttp, sRequest, {}};
   return m_hLast;
 }
 
@@ -161,26 +159,18 @@ bool CurlInternet::SendRequest(InternetHandle hRequest) {
   TransferResult oResult = Run(iRequest->second.hHttp, [&](TransferRequest& oRequest) {
     oRequest.sUrl += iRequest->second.sPath;
   });
-  iRequest->second.sAnswer = std::move(oResult.sBody);
-  iRequest->second.nGiven = 0;
+  iRequest->second.oAnswer = HttpAnswer(std::move(oResult.sBody));
   return oResult.bDone;
 }
 
 std::size_t CurlInternet::DataAvailable(InternetHandle hRequest) {
   const auto iRequest = m_aoRequests.find(hRequest);
-  return iRequest == m_aoRequests.end()
-             ? 0
-             : std::min(iRequest->second.sAnswer.size() - iRequest->second.nGiven, kPiece);
+  return iRequest == m_aoRequests.end() ? 0 : iRequest->second.oAnswer.Available();
 }
 
 std::size_t CurlInternet::Read(InternetHandle hRequest, char* pBuffer, std::size_t nSize) {
   const auto iRequest = m_aoRequests.find(hRequest);
-  if (iRequest == m_aoRequests.end()) {
-    return 0;
-  }
-  const std::size_t nGiven = iRequest->second.sAnswer.copy(pBuffer, nSize, iRequest->second.nGiven);
-  iRequest->second.nGiven += nGiven;
-  return nGiven;
+  return iRequest == m_aoRequests.end() ? 0 : iRequest->second.oAnswer.Take(pBuffer, nSize);
 }
 
 void CurlInternet::Close(InternetHandle hHandle) {

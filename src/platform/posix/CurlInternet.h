@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 
+#include "platform/HttpAnswer.h"
 #include "platform/Internet.h"
 #include "platform/posix/CurlTransfer.h"
 
@@ -48,8 +49,7 @@ class CurlInternet : public Internet {
   struct Request {
     InternetHandle hHttp = 0;
     std::string sPath;
-    std::string sAnswer;
-    std::size_t nGiven = 0;  ///< bytes of the answer that Read has handed out
+    HttpAnswer oAnswer;
   };
 
   /// Runs a transfer that `fnChange` makes from what the session's transfers have in common, and

@@ -1,13 +1,13 @@
 #include "platform/posix/TerminalHost.h"
 
 #include <chrono>
+#include <clocale>
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
 #include <thread>
 
 #include <langinfo.h>
-#include <locale.h>
 
 #include "platform/UserData.h"
 

@@ -1,12 +1,8 @@
 #include "platform/UserData.h"
 
 #include <cstdlib>
-#include <filesystem>
-#include <limits>
 
 #include <unistd.h>
-
-#include "platform/Files.h"
 
 namespace quillet {
 namespace {
@@ -28,24 +24,6 @@ std::string FolderForChanges(const std::string& sProgramFolder) {
   }
   const std::string sHome = Environment("HOME");
   return sHome.empty() ? sProgramFolder : sHome + "/.local/share/quillet";
-}
-
-std::error_code SeedFile(const std::string& sShipped, const std::string& sOwn) {
-  std::error_code oError;
-  const auto oShippedTime = std::filesystem::last_write_time(sShipped, oError);
-  if (oError) {
-    return oError;
-  }
-  const auto oOwnTime = std::filesystem::last_write_time(sOwn, oError);
-  if (!oError && oOwnTime >= oShippedTime) {
-    return {};
-  }
-  std::filesystem::create_directories(std::filesystem::path(sOwn).parent_path(), oError);
-  std::string sContent;
-  if (!oError) {
-    oError = ReadWholeFile(sShipped, std::numeric_limits<std::size_t>::max(), sContent);
-  }
-  return oError ? oError : ReplaceFile(sOwn, sContent);
 }
 
 }  // namespace quillet

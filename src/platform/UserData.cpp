@@ -1,0 +1,35 @@
+#include "platform/UserData.h"
+
+#include <filesystem>
+#include <limits>
+
+#include "platform/Files.h"
+
+namespace quillet {
+namespace {
+
+std::filesystem::path PathOf(const std::string& sUtf8) {
+  return {std::u8string(sUtf8.begin(), sUtf8.end())};
+}
+
+}  // namespace
+
+std::error_code SeedFile(const std::string& sShipped, const std::string& sOwn) {
+  std::error_code oError;
+  const auto oShippedTime = std::filesystem::last_write_time(PathOf(sShipped), oError);
+  if (oError) {
+    return oError;
+  }
+  const auto oOwnTime = std::filesystem::last_write_time(PathOf(sOwn), oError);
+  if (!oError && oOwnTime >= oShippedTime) {
+    return {};
+  }
+  std::filesystem::create_directories(PathOf(sOwn).parent_path(), oError);
+  std::string sContent;
+  if (!oError) {
+    oError = ReadWholeFile(sShipped, std::numeric_limits<std::size_t>::max(), sContent);
+  }
+  return oError ? oError : ReplaceFile(sOwn, sContent);
+}
+
+}  // namespace quillet

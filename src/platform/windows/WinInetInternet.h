@@ -1,0 +1,77 @@
+// The Internet by WinINet. Its calls block, so they run on a thread of their own, one at a time,
+// while this one pumps the host's events.
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <map>
+#include <string>
+
+#include "platform/HttpAnswer.h"
+#include "platform/Internet.h"
+
+namespace quillet {
+
+class WinInetInternet : public Internet {
+ public:
+  explicit WinInetInternet(InternetLimits oLimits = {}) : m_oLimits(oLimits) {}
+  WinInetInternet(const WinInetInternet&) = delete;
+  WinInetInternet& operator=(const WinInetInternet&) = delete;
+  ~WinInetInternet() override;
+
+  [[nodiscard]] bool IsConnected() override;
+  [[nodiscard]] InternetHandle Open(const std::string& sAgent, InternetAccess eAccess,
+                                    const std::string& sProxy) override;
+  [[nodiscard]] InternetHandle Connect(InternetHandle hInternet, const std::string& sHost,
+                                       std::uint16_t nPort, const std::string& sUser,
+                                       const std::string& sPassword,
+                                       InternetService eService) override;
+  [[nodiscard]] bool SetDirectory(InternetHandle hFtp, const std::string& sDirectory) override;
+  [[nodiscard]] bool GetFile(InternetHandle hFtp, const std::string& sRemoteFile,
+                             const std::string& sLocalFile, TransferType eType) override;
+  [[nodiscard]] bool FindFile(InternetHandle hFtp, const std::string& sRemoteFile,
+                              std::uint64_t& nSize) override;
+  [[nodiscard]] InternetHandle OpenRequest(InternetHandle hHttp,
+                                           const std::string& sRequest) override;
+  [[nodiscard]] bool SendRequest(InternetHandle hRequest) override;
+  [[nodiscard]] std::size_t DataAvailable(InternetHandle hRequest) override;
+  [[nodiscard]] std::size_t Read(InternetHandle hRequest, char* pBuffer,
+                                 std::size_t nSize) override;
+  [[nodiscard]] bool IsExtendedError() const override;
+  [[nodiscard]] std::string LastResponse() const override { return m_oLast.sResponse; }
+  [[nodiscard]] std::string LastErrorText() const override;
+  void Close(InternetHandle hHandle) override;
+
+ private:
+  /// How a call ended: the platform's error number, 0 for none, and what the server said to it.
+  struct Outcome {
+    unsigned long nError = 0;
+    std::string sResponse;
+  };
+  /// What has been opened. The platform has no handle for an HTTP session without a server.
+  struct Item {
+    void* pHandle = nullptr;
+    InternetHandle hOwner = 0;
+    HttpAnswer oAnswer;
+  };
+
+  [[nodiscard]] static Outcome OutcomeOf(bool bDone);
+  [[nodiscard]] static Outcome ReadAll(void* pHandle, const InternetLimits& oLimits,
+                                       std::string& sContent);
+  [[nodiscard]] static Outcome ReadAnswer(void* pRequest, const InternetLimits& oLimits,
+                                          std::string& sContent);
+
+  /// Runs a call on a handle and keeps its outcome; true if it went well. A call that overruns its
+  /// limit is ended by closing the handle.
+  [[nodiscard]] bool Await(InternetHandle hHandle, std::chrono::milliseconds oLimit,
+                           const std::function<Outcome(void*)>& fnCall);
+  [[nodiscard]] InternetHandle Keep(void* pHandle, InternetHandle hOwner);
+  void SetLimits(void* pHandle) const;
+
+  InternetLimits m_oLimits;
+  InternetHandle m_hLast = 0;  ///< the latest one given out
+  std::map<InternetHandle, Item> m_aoItems;
+  Outcome m_oLast;
+};
+
+}  // namespace quillet
