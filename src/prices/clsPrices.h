@@ -19,7 +19,7 @@ namespace quillet {
 class clsPrices {
  public:
   /// Bytes; no sane fee schedule is larger, and none that is gets loaded.
-  static constexpr std::size_t kLargestFile = std::size_t{8} << 20U;
+  static constexpr std::size_t kLargestFile = std::size_t{1} << 20U;
 
   /// Reads the region's update file, in five attempts. If it can't be read, or holds a key twice,
   /// says so in a message box and closes the application; the table is left as far as it got.

@@ -33,6 +33,8 @@ void ReportUnasked(Schedule& oSchedule, const Catalogue& oCatalogue) {
   }
 }
 
+}  // namespace
+
 std::vector<Finding> CheckSchedule(std::string_view sText) {
   const Catalogue oCatalogue(RegionCode());
   Schedule oSchedule(sText, oCatalogue);
@@ -46,8 +48,6 @@ std::vector<Finding> CheckSchedule(std::string_view sText) {
   ReportUnasked(oSchedule, oCatalogue);
   return oSchedule.Findings();
 }
-
-}  // namespace
 
 Status CheckScheduleFile(const std::string& sPath) {
   std::string sBytes;
