@@ -93,6 +93,7 @@ ctlWizard::ctlWizard(QWidget* pParent)
   MakeFrames();
   MakeButtons();
   MakeKeys();
+  setFocusPolicy(Qt::ClickFocus);  // a click beside the section leaves the box that was typed into
   Place(0, 0, kDesignWidth, kDesignHeight);
 }
 
@@ -400,7 +401,7 @@ void ctlWizard::FocusFirstInput() {
     return p->isEnabled() && p->isVisibleTo(m_tCurrent->oSection);
   });
   if (pFirst != aoInputs.end()) {
-    (*pFirst)->setFocus(Qt::OtherFocusReason);
+    (*pFirst)->setFocus(Qt::TabFocusReason);  // what is typed replaces what stands there
   }
 }
 

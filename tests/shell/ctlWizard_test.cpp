@@ -1,0 +1,375 @@
+#include "shell/ctlWizard.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTest>
+#include <QWheelEvent>
+
+#include <gtest/gtest.h>
+
+#include "base/basMain.h"
+#include "base/clsRegistryAccess.h"
+#include "sections/ImageButton.h"
+#include "sections/ScrollBar.h"
+#include "shell/WizardSteps.h"
+#include "shell/ctlCalculator.h"
+#include "support/PanelScript.h"
+
+namespace quillet {
+namespace {
+
+/// A cleared auction of one item, as the wizard finds it.
+void ClearAuction() {
+  WorkingAuction().Clear();
+  WorkingAuction().m_oOutlay.m_lQuantity = 1;
+  WorkingAuction().SetDirty(false);
+}
+
+/// Fills in a section as a user would.
+void Enter(const SectionPanel& oSection) {
+  const std::string sKey = oSection.SectionKey();
+  if (sKey == "AuctionType") {
+    ClickOn(oSection, "chkBuyItNow");
+  } else if (sKey == "Outlay") {
+    TypeInto(oSection, "txtOutlay", "40");
+    TypeInto(oSection, "txtEstimatedEndPrice", "149");
+  } else if (sKey == "SellingFeatures") {
+    ClickOn(oSection, "chkBold chkHighlight");
+  } else if (sKey == "PayPal") {
+    ClickOn(oSection, "chkUsePayPal optPremierAccount");
+  } else {
+    ClickOn(oSection, "chkUsePostage optManual");
+    TypeInto(oSection, "txtManual", "8.50");
+  }
+}
+
+std::string Text() {
+  std::string sText;
+  WorkingAuction().Serialize(sText, true);
+  return sText;
+}
+
+/// The auction's text and the figures that a view shows of it.
+std::string StateIn(const SectionSet& oSet) {
+  std::string sState = Text();
+  for (const char* const sName : {"lblListingCostTotal", "lblFinalValueFeeTotal", "lblPayPalTotal",
+                                  "lblPostageTotal", "lblProfitGrandTotal"}) {
+    sState += "\n" + oSet.ctlSellingCostsSection.The(sName).Caption().toStdString();
+  }
+  return sState;
+}
+
+class Wizard : public ::testing::Test {
+ protected:
+  Wizard() {
+    ClearAuction();
+    m_oWindow.resize(1200, 1200);
+  }
+
+  /// Shows a wizard of that size, in twips. The main window's smallest gives it 10215 by 8010.
+  void Start(int nWidth = 10215, int nHeight = 8010) {
+    m_pView = new ctlWizard(&m_oWindow);
+    m_pView->SetVisible(false);
+    m_pView->Place(0, 0, nWidth, nHeight);
+    m_oWindow.show();
+    m_oWindow.activateWindow();
+    m_pView->SetVisible(true);
+    QApplication::processEvents();
+  }
+
+  template <typename Kind>
+  Kind& The(const char* sName) {
+    return dynamic_cast<Kind&>(*m_pView->findChild<QWidget*>(sName));
+  }
+  void Click(const char* sButton) {
+    auto& oButton = The<ImageButton>(sButton);
+    QTest::mouseClick(&oButton, Qt::LeftButton, {}, oButton.rect().center());
+  }
+  int Page() { return m_pView->Current()->lIndex; }
+  SectionPanel& Section() { return *m_pView->Current()->oSection; }
+  std::string Focus() {
+    const QWidget* const pFocus = QApplication::focusWidget();
+    const bool bBox = pFocus != nullptr && pFocus->objectName() == "txtValue";
+    return pFocus == nullptr ? "none"
+                             : (bBox ? pFocus->parentWidget() : pFocus)->objectName().toStdString();
+  }
+  std::string PlaceOf(const char* sName) {
+    const auto& o = The<Control>(sName);
+    return std::to_string(o.Left()) + "," + std::to_string(o.Top()) + "," +
+           std::to_string(o.Width()) + "," + std::to_string(o.Height());
+  }
+  void Press(int nKey, Qt::KeyboardModifiers eWith = {}) {
+    QWidget* const pFocus = QApplication::focusWidget();
+    QTest::keyClick(pFocus != nullptr ? pFocus : m_pView, static_cast<Qt::Key>(nKey), eWith);
+  }
+  void TurnWheel(int nUnits, Qt::KeyboardModifiers eWith) {
+    const QPointF oAt = The<Frame>("fraViewPort").geometry().center();
+    QWheelEvent oEvent(oAt, m_pView->mapToGlobal(oAt), {}, {0, nUnits}, {}, eWith,
+                       Qt::NoScrollPhase, false);
+    QApplication::sendEvent(m_pView, &oEvent);
+  }
+
+  QWidget m_oWindow;
+  ctlWizard* m_pView = nullptr;
+};
+
+TEST_F(Wizard, ClicksLeadThroughTheFivePagesInTheirOrder) {
+  const struct {
+    const char* sSection;
+    const char* sInfo;
+    const char* sFocus;
+    const char* sStep;
+  } kPages[] = {
+      {"ctlAuctionTypeSection", "Please enter your type of auction", "optStandardAution",
+       "Step 1 of 5 · Auction Type"},
+      {"ctlOutlaySection", "Please enter your costs and the price you wish to sell for.",
+       "txtOutlay", "Step 2 of 5 · Outlay"},
+      {"ctlSellingFeaturesSection", "Please enter extra features you want to use",
+       "chkHomePageFeatured", "Step 3 of 5 · Features"},
+      {"ctlPayPalSection", "Do you want to accept payment through PayPal?", "chkUsePayPal",
+       "Step 4 of 5 · PayPal"},
+      {"ctlPostageSection", "Do you want to send it through Royal Mail?", "chkUsePostage",
+       "Step 5 of 5 · Postage"},
+  };
+  Start();
+  QSignalSpy oComplete(m_pView, &ctlWizard::WizardComplete);
+  for (int i = 0; i < 5; ++i) {
+    const auto& [sSection, sInfo, sFocus, sStep] = kPages[i];
+    for (const auto& oOther : kPages) {
+      const auto& oSection = The<SectionPanel>(oOther.sSection);
+      EXPECT_EQ(oSection.isVisible(), std::string(oOther.sSection) == sSection) << sStep;
+    }
+    EXPECT_EQ(The<Label>("lblInfo").Caption(), sInfo);
+    EXPECT_EQ(Focus(), sFocus);
+    EXPECT_EQ(The<WizardSteps>("Steps").Caption(), QString::fromUtf8(sStep));
+    EXPECT_EQ(The<ImageButton>("imgBack").isVisible(), i > 0) << sStep;
+    EXPECT_EQ(The<ImageButton>("imgNext").Caption(), i < 4 ? "&Next" : "&Finish") << sStep;
+    EXPECT_EQ(The<ImageButton>("imgNext").Picture() == ButtonPicture::Finish, i == 4) << sStep;
+    EXPECT_EQ(oComplete.count(), 0) << sStep;
+    Click("imgNext");
+  }
+  EXPECT_EQ(oComplete.count(), 1);
+  EXPECT_EQ(Page(), 4) << "the window turns the view off";
+}
+
+TEST_F(Wizard, KeysLeadThroughThePages) {
+  const struct {
+    int nKey;
+    Qt::KeyboardModifiers eWith;
+    int nPage;
+    int nComplete;
+    const char* sWhat;
+  } kKeys[] = {
+      {Qt::Key_Left, Qt::AltModifier, 0, 0, "nothing to go back to"},
+      {Qt::Key_Return, {}, 1, 0, "from an option"},
+      {Qt::Key_Enter, Qt::KeypadModifier, 2, 0, "from a numeric box"},
+      {Qt::Key_Left, Qt::AltModifier, 1, 0, "back"},
+      {Qt::Key_Right, Qt::AltModifier, 2, 0, "on"},
+      {Qt::Key_N, Qt::AltModifier, 3, 0, "Next by its access key"},
+      {Qt::Key_B, Qt::AltModifier, 2, 0, "Back by its own"},
+      {Qt::Key_Return, {}, 3, 0, "from a box"},
+      {Qt::Key_Return, {}, 4, 0, "from a box"},
+      {Qt::Key_Right, Qt::AltModifier, 4, 0, "nothing to go on to"},
+      {Qt::Key_Return, {}, 4, 1, "Finish"},
+      {Qt::Key_Escape, {}, 4, 2, "Cancel"},
+      {Qt::Key_F, Qt::AltModifier, 4, 3, "Finish by its access key"},
+      {Qt::Key_C, Qt::AltModifier, 4, 4, "Cancel by its own"},
+  };
+  Start();
+  QSignalSpy oComplete(m_pView, &ctlWizard::WizardComplete);
+  for (const auto& [nKey, eWith, nPage, nComplete, sWhat] : kKeys) {
+    Press(nKey, eWith);
+    // A button that is worked by its access key stays down for a moment.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Page() == nPage && oComplete.count() == nComplete; }))
+        << sWhat << ": page " << Page() << ", complete " << oComplete.count();
+  }
+  The<ImageButton>("imgBack").setFocus();
+  Press(Qt::Key_Return);
+  EXPECT_EQ(Page(), 3) << "Enter works the button that has the focus";
+}
+
+TEST_F(Wizard, TabGoesFromThePageToTheButtonsAndScrollsToWhereItIs) {
+  Start(10215, 5205);
+  const auto& oView = The<Frame>("fraViewPort");
+  std::string sButtons;
+  for (int i = 0; i < 60 && !sButtons.ends_with("imgCancel"); ++i) {
+    const QWidget* const pFocus = QApplication::focusWidget();
+    if (oView.isAncestorOf(pFocus)) {
+      const QRect oPlace(pFocus->mapTo(&oView, QPoint()), pFocus->size());
+      EXPECT_TRUE(oView.rect().contains(oPlace)) << Focus() << " after " << i << " tabs";
+    } else {
+      sButtons += " " + Focus();
+    }
+    Press(Qt::Key_Tab);
+  }
+  EXPECT_EQ(sButtons, " imgNext imgCancel");
+}
+
+TEST_F(Wizard, TheInstructionOfAFrameCanBeReplacedInTheSettings) {
+  Registry().SetRegSettingString(HiveRoot::User, "What does it cost?", "Page0", "Wizard");
+  Start();
+  EXPECT_EQ(The<Label>("lblInfo").Caption(), "Please enter your type of auction");
+  Click("imgNext");
+  EXPECT_EQ(The<Label>("lblInfo").Caption(), "What does it cost?");
+  std::string sText;
+  EXPECT_FALSE(Registry().GetRegSettingString(HiveRoot::User, sText, "Page1", "Wizard", ""))
+      << "what isn't there isn't created";
+}
+
+TEST_F(Wizard, EachStepComesToWhatTheCalculatorComesTo) {
+  Start();
+  std::vector<std::string> asStates;
+  std::vector<std::string> asSections;
+  for (int i = 0; i < 5; ++i) {
+    Enter(Section());
+    asStates.push_back(StateIn(m_pView->Set()));
+    asSections.push_back(Section().Name());
+    EXPECT_TRUE(i == 0 || asStates[static_cast<std::size_t>(i)] != asStates[0]) << i;
+    Click("imgNext");
+  }
+  EXPECT_TRUE(WorkingAuction().IsDirty());
+
+  ClearAuction();
+  m_pView->SetVisible(false);
+  auto* const pCalculator = new ctlCalculator(&m_oWindow);
+  pCalculator->SetVisible(true);
+  for (std::size_t i = 0; i < asStates.size(); ++i) {
+    for (const SectionPanel* const pSection : pCalculator->Set().Sections()) {
+      if (pSection->Name() == asSections[i]) {
+        Enter(*pSection);
+      }
+    }
+    EXPECT_EQ(asStates[i], StateIn(pCalculator->Set())) << asSections[i];
+  }
+}
+
+TEST_F(Wizard, CancelKeepsWhatWasEnteredAndTheNextShowBeginsAnew) {
+  Start();
+  QSignalSpy oChanged(m_pView, &ctlWizard::Changed);
+  Enter(Section());
+  EXPECT_TRUE(oChanged.last().at(0).toBool());
+  Click("imgNext");
+  Enter(Section());
+  Press(Qt::Key_Return);
+  const std::string sText = Text();
+  QSignalSpy oComplete(m_pView, &ctlWizard::WizardComplete);
+  Click("imgCancel");
+  EXPECT_EQ(oComplete.count(), 1);
+  EXPECT_EQ(Text(), sText);
+  EXPECT_EQ(WorkingAuction().m_oOutlay.m_fEstimatedEndPrice, 149.0F);
+
+  m_pView->SetVisible(true);
+  EXPECT_EQ(Page(), 2) << "it is on view already";
+  m_pView->SetVisible(false);
+  ClearAuction();
+  m_pView->SetVisible(true);
+  EXPECT_EQ(Page(), 0);
+  EXPECT_FALSE(WorkingAuction().IsDirty()) << "showing an auction doesn't change it";
+  Click("imgNext");
+  EXPECT_EQ(dynamic_cast<ctlNumericText&>(ControlOf(Section(), "txtOutlay")).Value(), 0.0F);
+}
+
+TEST_F(Wizard, TypingCountsWhicheverWayThePageIsLeft) {
+  Start();
+  Click("imgNext");
+  QTest::keyClicks(QApplication::focusWidget(), "12");
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(WorkingAuction().m_oOutlay.m_fOutlay, 12.0F) << "before the window takes over";
+  The<SectionPanel>("ctlOutlaySection")
+      .InputsInReadingOrder()
+      .first()
+      ->setFocus(Qt::TabFocusReason);
+  QTest::keyClicks(QApplication::focusWidget(), "34");
+  Press(Qt::Key_Left, Qt::AltModifier);
+  EXPECT_EQ(WorkingAuction().m_oOutlay.m_fOutlay, 34.0F);
+}
+
+TEST_F(Wizard, EverythingFollowsTheSizeOfTheView) {
+  const struct {
+    int nWidth;
+    int nHeight;
+    const char* sInfo;
+    const char* sViewPort;  // down to 120 above the summary, which ends 500 above the bottom
+    const char* sSummary;
+    const char* sButtons;  // at the right edge, but not over the summary, which ends at 4500
+    int nFrameLeft;        // the frame is 3495 wide
+  } kRows[] = {
+      {10215, 8010, "0,360,10215,1095", "0,1455,10215,3805", "120,5380,4380,2130",
+       "4500,6535,6135,975", 3360},
+      {15005, 9000, "0,360,15005,1095", "0,1455,15005,4795", "120,6370,4380,2130",
+       "8870,7525,6135,975", 5755},
+      {105, 100, "0,360,105,1095", "0,1455,105,1", "120,-2530,4380,2130", "4500,-1375,6135,975",
+       -1695},
+  };
+  Start();
+  for (const auto& [nWidth, nHeight, sInfo, sViewPort, sSummary, sButtons, nFrameLeft] : kRows) {
+    m_pView->Place(0, 0, nWidth, nHeight);
+    EXPECT_EQ(PlaceOf("lblInfo"), sInfo) << nWidth;
+    EXPECT_EQ(PlaceOf("fraViewPort"), sViewPort) << nWidth;
+    EXPECT_EQ(PlaceOf("ctlSellingCostsSection"), sSummary) << nWidth;
+    EXPECT_EQ(PlaceOf("fraButtons"), sButtons) << nWidth;
+    EXPECT_EQ(Section().Container()->Left(), nFrameLeft) << nWidth;
+  }
+}
+
+TEST_F(Wizard, TheBarComesWhenTheSectionIsHigherThanTheViewport) {
+  Start();
+  const auto& oBar = The<ScrollBar>("vsbVert");
+  constexpr int kBeyond = 4205;  // of the view's height, what the viewport doesn't get
+  const int nSection = Section().Height();
+  for (const int nMissing : {0, 1}) {
+    m_pView->SetHeight(nSection - nMissing + kBeyond);
+    EXPECT_EQ(oBar.Visible(), nMissing == 1) << nMissing;
+  }
+  m_pView->SetHeight(1000 + kBeyond);
+  EXPECT_EQ(PlaceOf("vsbVert"), "9705,0,255,1000");  // two widths from the edge
+  EXPECT_EQ(oBar.maximum(), 6335) << "the frame's 7335 less the viewport's 1000";
+  EXPECT_EQ(oBar.singleStep(), 126);
+  EXPECT_EQ(oBar.pageStep(), 1260);
+  m_pView->SetHeight(100);
+  EXPECT_TRUE(oBar.Visible());
+  EXPECT_EQ(oBar.maximum(), 7334);
+}
+
+TEST_F(Wizard, ThePageMovesWhenTheThumbIsLetGo) {
+  Start(10215, 5205);
+  auto& oBar = The<ScrollBar>("vsbVert");
+  oBar.setSliderDown(true);
+  oBar.setSliderPosition(400);
+  EXPECT_EQ(Section().Top(), 120);
+  oBar.setSliderDown(false);
+  EXPECT_EQ(Section().Top(), -400);
+  EXPECT_EQ(Section().Container()->Top(), 0);
+  TurnWheel(-120, {});
+  EXPECT_EQ(Section().Top(), -1120) << "three rows";
+  TurnWheel(-120, Qt::ControlModifier);
+  EXPECT_EQ(Section().Top(), -1120) << "the zoom's";
+
+  m_pView->SetHeight(12600);
+  EXPECT_FALSE(oBar.Visible());
+  EXPECT_EQ(Section().Top(), -1120) << "it stays until the next page";
+  Click("imgNext");
+  Click("imgBack");
+  EXPECT_EQ(Section().Top(), 0);
+}
+
+TEST_F(Wizard, NoButtonIsTooSmallForItsWords) {
+  Start();
+  for (const double fZoom : {0.75, 1.0, 1.25, 1.5, 2.0, 3.0}) {
+    SetZoom(fZoom);
+    RescaleAll(m_oWindow);
+    for (int i = 0; i < 5; ++i, Click("imgNext")) {
+      for (const char* const sName : {"imgBack", "imgNext", "imgCancel"}) {
+        const auto& oButton = The<ImageButton>(sName);
+        EXPECT_LE(oButton.sizeHint().width(), oButton.width()) << sName << " at " << fZoom;
+        EXPECT_LE(oButton.sizeHint().height(), oButton.height()) << sName << " at " << fZoom;
+      }
+    }
+    m_pView->SetVisible(false);
+    m_pView->SetVisible(true);
+  }
+}
+
+}  // namespace
+}  // namespace quillet
