@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTest>
 #include <QWidget>
 
 #include <gtest/gtest.h>
@@ -61,6 +62,7 @@ TEST(FormPosition, AMaximisedWindowKeepsThePlaceThatItGoesBackTo) {
   Form oFirst;
   oFirst.show();
   oFirst.showMaximized();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return oFirst.width() > kDesign.width(); }, 5000));
   SaveFormPosition(oFirst);
   for (int i = 0; i < 2; ++i) {  // and doesn't wander from one start to the next
     EXPECT_EQ(Stored(), (std::vector<std::string>{"600", "450", "4500", "6000", "2"}));
@@ -69,6 +71,7 @@ TEST(FormPosition, AMaximisedWindowKeepsThePlaceThatItGoesBackTo) {
     RestoreFormPosition(oForm);
     oForm.show();
     EXPECT_TRUE(oForm.isMaximized());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return oForm.width() > kDesign.width(); }, 5000));
     SaveFormPosition(oForm);
   }
 }
