@@ -7,6 +7,7 @@
 #include <QShowEvent>
 #include <QWheelEvent>
 #include <algorithm>
+#include <vector>
 
 #include "base/basMain.h"
 #include "base/clsRegistryAccess.h"
@@ -44,6 +45,22 @@ Kind* Make(const char* sName, Arguments&&... oArguments) {
 
 std::string PageInfoText(std::int16_t nFrame) {
   return Registry().Get(settings::kPageInfo.at(static_cast<std::size_t>(nFrame)));
+}
+
+/// A section that turns visible gives its rows the colour of text, and nothing fills it in anew
+/// when its page comes: what can't be chosen stays grey.
+void ShowWithGreys(SectionPanel& oSection) {
+  std::vector<Control*> aoGrey;
+  for (QWidget* const pWidget : oSection.findChildren<QWidget*>()) {
+    auto* const pControl = dynamic_cast<Control*>(pWidget);
+    if (pControl != nullptr && pControl->ForeColor() == kColourGreyText) {
+      aoGrey.push_back(pControl);
+    }
+  }
+  oSection.SetVisible(true);
+  for (Control* const pControl : aoGrey) {
+    pControl->SetForeColor(kColourGreyText);
+  }
 }
 
 /// As wide to the left as to the right of the frame's middle, which the instruction stands above.
@@ -230,7 +247,7 @@ void ctlWizard::TurnTo(const WizardPage& tPage) {
   m_pInfo->SetCaption(QString::fromStdString(tPage.sInfo));
   m_pSteps->SetCurrent(tPage.lIndex);
   oSection.SetShowConfig(false);
-  oSection.SetVisible(true);
+  ShowWithGreys(oSection);
   m_pBack->SetVisible(!tPage.bFirst);
   m_pNext->SetVisible(true);
   oSection.SetTop(std::max(oSection.Top(), 0));
