@@ -1,6 +1,7 @@
 #include "prices/PriceTable.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "base/text.h"
 
@@ -16,7 +17,9 @@ std::uint32_t SlotHash(const KeyText& oKey) {
 
 /// Most callers write a key as the schedule does, and whole keys compare faster than letters do.
 bool SameKey(std::string_view sLeft, std::string_view sRight) {
-  return sLeft == sRight || EqualIgnoringCase(sLeft, sRight);
+  return sLeft.size() == sRight.size() &&
+         (std::memcmp(sLeft.data(), sRight.data(), sLeft.size()) == 0 ||
+          EqualIgnoringCase(sLeft, sRight));
 }
 
 }  // namespace

@@ -6,8 +6,10 @@
 #include "base/basMain.h"
 #include "base/conversions.h"
 #include "base/failure.h"
+#include "base/plainNumber.h"
 #include "base/text.h"
 #include "platform/Files.h"
+#include "platform/Host.h"
 #include "prices/clsTokeniser.h"
 #include "prices/lines.h"
 
@@ -64,15 +66,24 @@ class TierReader {
   bool Read(TierPart ePart, std::int32_t nTier, Single& fValue) {
     fValue = 0;
     if (nTier >= 1 && static_cast<std::uint32_t>(nTier) <= m_oTiers->nLinked) {
-      return ReadSingle(m_oTable.TierText(*m_oTiers, static_cast<std::uint32_t>(nTier), ePart),
-                        fValue);
+      return ReadText(m_oTable.TierText(*m_oTiers, static_cast<std::uint32_t>(nTier), ePart),
+                      fValue);
     }
     const KeyBranch oBranch(m_oKey);
     m_oKey.Append(kTierWords[static_cast<std::size_t>(ePart)]).Append(nTier);
-    return ReadSingle(m_oTable.Find(m_oKey).value_or(std::string_view{}), fValue);
+    return ReadText(m_oTable.Find(m_oKey).value_or(std::string_view{}), fValue);
   }
 
  private:
+  bool ReadText(std::string_view sText, Single& fValue) const {
+    float fPlain = 0;
+    if (ReadPlainNumber(sText, m_sSeparator, fPlain)) {
+      fValue = Single::OfFinite(fPlain);
+      return true;
+    }
+    return ReadSingle(sText, fValue);
+  }
+
   [[noreturn]] void RaiseNoCount() const {
     const std::string sKey = "\"" + std::string(m_oKey.Text()) + "Ranges\"";
     throw Failure(FailureNumber::TypeMismatch, m_oTiers ? "The fee schedule's " + sKey +
@@ -82,6 +93,7 @@ class TierReader {
   }
 
   const PriceTable& m_oTable;
+  const std::string& m_sSeparator = TheHost().DecimalSeparator();
   PriceKey m_oKey;
   std::optional<PriceTable::Tiers> m_oTiers;
 };
@@ -132,9 +144,8 @@ bool clsPrices::GetData(const KeyText& oName, std::string_view& sData) const {
 }
 
 bool clsPrices::GetPrice(const KeyText& oName, Single& fValue, std::int32_t nShop) const {
-  const KeyText oSuffix = ShopSuffix(nShop);
-  return oSuffix.Text().empty() ? ReadNumber(oName, fValue)
-                                : ReadNumber(PriceKey(oName).Append(oSuffix), fValue);
+  return nShop == kShopNone ? ReadNumber(oName, fValue)
+                            : ReadNumber(PriceKey(oName).Append(ShopSuffix(nShop)), fValue);
 }
 
 bool clsPrices::GetRange(const KeyText& oName, std::int16_t nRangeNumber, clsPriceRange& oRange,
