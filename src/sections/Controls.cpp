@@ -70,6 +70,7 @@ void Label::SetCaption(const QString& sCaption) {
   if (m_sCaption != sCaption) {
     m_sCaption = sCaption;
     setText(QString(sCaption).replace("&&", "&"));
+    SetWidth(Width());
   }
 }
 
@@ -91,6 +92,7 @@ void Label::SetFontSize(double fPoints, QFont::Weight eWeight) {
 void Label::Rescale() {
   Control::Rescale();
   setFont(ThemeFont(m_fPoints, m_eWeight));
+  SetWidth(Width());
 }
 
 CheckBox::CheckBox(QWidget* pParent) : QCheckBox(pParent), Choice(static_cast<QWidget&>(*this)) {}

@@ -21,6 +21,11 @@ class Label : public QLabel, public Control {
   void SetFontSize(double fPoints, QFont::Weight eWeight);
   void Rescale() override;
 
+ protected:
+  [[nodiscard]] int PixelsForCaption() const override {
+    return wordWrap() ? 0 : sizeHint().width();
+  }
+
  private:
   QString m_sCaption;
   double m_fPoints;

@@ -11,6 +11,7 @@ class GrandTotal : public Label {
   explicit GrandTotal(QWidget* pParent) : Label(pParent) {}
 
  protected:
+  [[nodiscard]] int PixelsForCaption() const override { return 0; }
   void paintEvent(QPaintEvent* pEvent) override;
 };
 
