@@ -283,11 +283,11 @@ std::optional<std::uint8_t> ToByte(std::string_view sText) {
 }
 
 std::optional<bool> ToBoolean(std::string_view sText) {
-  if (EqualIgnoringCase(Trim(sText), "True")) {
-    return true;
-  }
-  if (EqualIgnoringCase(Trim(sText), "False")) {
-    return false;
+  for (const bool bValue : {false, true}) {
+    const std::string_view sWord = BooleanText(bValue);
+    if (sText == sWord || EqualIgnoringCase(Trim(sText), sWord)) {
+      return bValue;
+    }
   }
   const std::optional<double> fValue = ToDouble(sText);
   return fValue ? std::optional<bool>(*fValue != 0) : std::nullopt;

@@ -28,6 +28,8 @@ std::string_view Between(std::string_view sData, std::string_view sMarker) {
 
 SectionWriter::SectionWriter(std::string& sData, std::string_view sMarker)
     : m_sData(sData), m_sMarker(sMarker) {
+  constexpr std::size_t kUsualSection = 80;  // bytes
+  m_sData.reserve(m_sData.size() + kUsualSection);
   m_sData += m_sMarker;
 }
 
@@ -49,6 +51,10 @@ SectionWriter& SectionWriter::Add(bool bValue) {
 
 SectionWriter& SectionWriter::AddPadded(std::int32_t nValue, std::size_t nDigits) {
   Separate();
+  if (nDigits == 1 && nValue >= 0 && nValue <= 9) {
+    m_sData += static_cast<char>('0' + nValue);  // nearly every one of them
+    return *this;
+  }
   std::array<char, 12> acDigits{};
   const auto oEnd = std::to_chars(acDigits.data(), acDigits.data() + acDigits.size(), nValue);
   const std::string_view sDigits(acDigits.data(), oEnd.ptr);
