@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QLineEdit>
 #include <QTest>
+#include <algorithm>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -46,6 +48,15 @@ inline void ClickOn(const SectionPanel& oPanel, const std::string& sNames) {
   }
 }
 
+/// Types into a numeric box in place of what it holds, and leaves it.
+inline void TypeInto(const SectionPanel& oPanel, const std::string& sName,
+                     const std::string& sText) {
+  QLineEdit* const pText = dynamic_cast<ctlNumericText&>(ControlOf(oPanel, sName)).TextBox();
+  pText->setFocus(Qt::TabFocusReason);
+  QTest::keyClicks(pText, QString::fromStdString(sText));
+  pText->clearFocus();
+}
+
 /// The names of the controls that a test accepts, in the panel's order, separated by blanks.
 template <typename Accept>
 std::string NamesWhere(const SectionPanel& oPanel, Accept&& fnAccept) {
@@ -82,23 +93,44 @@ inline std::string PlacesIn(const SectionPanel& oPanel) {
   return sPlaces;
 }
 
-/// Those captions that are wider than their control at any zoom that the program offers.
+/// Out of config mode the Show boxes stand beyond the panel's edge, disabled.
+inline bool IsOnView(const Control& oControl) {
+  return oControl.Visible() && (oControl.Enabled() || !IsShowCheck(oControl));
+}
+
+/// How far a caption may reach, in its panel's pixels: to the next control of its row on view, or
+/// to the panel's edge.
+inline int RoomFor(const Control& oCaptioned) {
+  const QWidget& oWidget = oCaptioned.Widget();
+  int nRoom = oWidget.parentWidget()->width();
+  for (const QObject* const pChild : oWidget.parentWidget()->children()) {
+    const auto* const pOther = dynamic_cast<const Control*>(pChild);
+    if (pOther != nullptr && pOther->Visible() && pOther->Top() == oCaptioned.Top() &&
+        pOther->Left() > oCaptioned.Left()) {
+      nRoom = std::min(nRoom, pOther->Widget().x());
+    }
+  }
+  return nRoom - oWidget.x();
+}
+
+/// Those captions on view that are cut off at any zoom that the program offers.
 inline std::string ClippedCaptionsIn(SectionPanel& oPanel) {
   std::string sClipped;
   for (const double fZoom : {0.75, 1.0, 1.25, 1.5, 2.0, 3.0}) {
     SetZoom(fZoom);
-    RescaleAll(oPanel);
+    RescaleAll(*oPanel.window());
     for (Control* const pControl : AllControls(oPanel)) {
-      const bool bCaptioned = !pControl->Caption().isEmpty() && !IsHeaderImage(*pControl);
       const int nWanted = pControl->Widget().sizeHint().width();
-      if (bCaptioned && nWanted > pControl->Widget().width()) {
+      const int nRoom = std::min(pControl->Widget().width(), RoomFor(*pControl));
+      if (!pControl->Caption().isEmpty() && !IsHeaderImage(*pControl) && IsOnView(*pControl) &&
+          nWanted > nRoom) {
         sClipped += pControl->Name() + " at zoom " + std::to_string(fZoom) + ": " +
-                    std::to_string(nWanted) + " in " + std::to_string(pControl->Widget().width()) +
-                    "\n";
+                    std::to_string(nWanted) + " in " + std::to_string(nRoom) + "\n";
       }
     }
   }
   SetZoom(1.0);
+  RescaleAll(*oPanel.window());
   return sClipped;
 }
 

@@ -1,0 +1,340 @@
+#include "sections/ctlAuctionType.h"
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <map>
+#include <memory>
+#include <random>
+#include <sstream>
+#include <utility>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "base/failure.h"
+#include "support/PanelTest.h"
+
+namespace quillet {
+namespace {
+
+/// The fields that differ from a listing at rest: a standard auction without anything, whose shop
+/// duration the section has set to none.
+std::string Fields(const clsAuctionType& o) {
+  std::ostringstream oText;
+  const auto fnField = [&](const char* sName, std::int32_t lValue, std::int32_t lAtRest) {
+    if (lValue != lAtRest) {
+      oText << (oText.str().empty() ? "" : " ") << sName << lValue;
+    }
+  };
+  fnField("kind", o.m_eAuctionType, kAuctionStandard);
+  fnField("fixed", o.m_bBuyItNowOnly ? 1 : 0, 0);
+  fnField("shop", o.m_bShopInventory ? 1 : 0, 0);
+  fnField("duration", o.m_eShopDuration, kShopNone);
+  fnField("motor", o.m_eMotorType, kMotorPassenger);
+  fnField("land", o.m_eRealEstateType, kRealEstateTimeshare);
+  fnField("sale", o.m_eRealEstateSaleFormat, kSaleAuction10);
+  fnField("binding", o.m_bRealEstateBinding ? 1 : 0, 0);
+  return oText.str();
+}
+
+/// A listing by its fields, as Fields tells them.
+clsAuctionType Listing(const std::string& sFields) {
+  clsAuctionType o;
+  const std::map<std::string, std::int32_t*> anCodes = {{"kind", &o.m_eAuctionType},
+                                                        {"duration", &o.m_eShopDuration},
+                                                        {"motor", &o.m_eMotorType},
+                                                        {"land", &o.m_eRealEstateType},
+                                                        {"sale", &o.m_eRealEstateSaleFormat}};
+  const std::map<std::string, bool*> abFlags = {{"fixed", &o.m_bBuyItNowOnly},
+                                                {"shop", &o.m_bShopInventory},
+                                                {"binding", &o.m_bRealEstateBinding}};
+  o.m_eShopDuration = kShopNone;
+  std::istringstream oText(sFields);
+  for (std::string sField; oText >> sField;) {
+    const std::size_t nDigits = sField.find_first_of("-0123456789");
+    const std::string sName = sField.substr(0, nDigits);
+    const std::int32_t lValue = std::stoi(sField.substr(nDigits));
+    if (abFlags.contains(sName)) {
+      *abFlags.at(sName) = lValue != 0;
+    } else {
+      *anCodes.at(sName) = lValue;
+    }
+  }
+  return o;
+}
+
+/// Item: starting price 10, end price 20, one of it.
+class AuctionTypeSection : public PanelTest<ctlAuctionType> {
+ protected:
+  AuctionTypeSection() {
+    m_oAuction.m_oOutlay.m_fStartingPrice = 10;
+    m_oAuction.m_oOutlay.m_fEstimatedEndPrice = 20;
+    SetScreen("");
+  }
+
+  /// A listing that lives as long as the section.
+  clsAuctionType& NewListing(const std::string& sFields) {
+    return *m_aoListings.emplace_back(std::make_unique<clsAuctionType>(Listing(sFields)));
+  }
+  void Apply(clsAuctionType& oListing) {
+    static_cast<void>(oListing.DoCalc(m_oAuction.m_oOutlay));
+    m_oSection.ApplyAuctionType(oListing);
+  }
+  /// Shows a listing at rest, whatever stood on screen before, and then clicks: that listing.
+  clsAuctionType& SetScreen(const std::string& sClicks) {
+    clsAuctionType& oListing = NewListing("");
+    for (int i = 0; i < 3; ++i) {  // the first times the screen may overwrite the listing
+      oListing = Listing("");
+      Apply(oListing);
+    }
+    EXPECT_EQ(Fields(oListing), "");
+    ClickOn(sClicks);
+    return oListing;
+  }
+  static bool IsInput(const Control& o) {
+    return dynamic_cast<const Choice*>(&o) != nullptr && !IsShowCheck(o);
+  }
+
+  /// What must hold whenever the section has come to rest.
+  void ExpectScreenShowsListing(clsAuctionType& oListing) const {
+    const std::array<std::pair<const char*, bool>, 7> abChosen = {
+        {{"optStandardAution", oListing.m_eAuctionType == 0},
+         {"optMotorAuction", oListing.m_eAuctionType == 1},
+         {"optRealEstateAuction", oListing.m_eAuctionType == 2},
+         {"optBusinessAuction", oListing.m_eAuctionType == 3},
+         {"chkBuyItNow", oListing.m_bBuyItNowOnly},
+         {"chkShopInventory", oListing.m_bShopInventory},
+         {"chkRealEstateBinding", oListing.m_bRealEstateBinding && oListing.m_eAuctionType == 2}}};
+    for (const auto& [sName, bChosen] : abChosen) {
+      const auto& oInput = dynamic_cast<const Choice&>(ControlOf(m_oSection, sName));
+      EXPECT_EQ(oInput.Value() != 0, bChosen) << sName;
+    }
+    const std::array<std::pair<const char*, bool>, 3> abActive = {
+        {{"ctlMotorAuction", oListing.m_eAuctionType == 1},
+         {"ctlRealEstateOption", oListing.m_eAuctionType == 2},
+         {"ctlShopDuration", oListing.m_bShopInventory}}};
+    for (const auto& [sName, bActive] : abActive) {
+      const auto& oPanel = dynamic_cast<const SectionPanel&>(ControlOf(m_oSection, sName));
+      EXPECT_EQ(NamesWhere(oPanel, IsGrey), bActive ? "" : NamesWhere(oPanel, IsInput)) << sName;
+    }
+    EXPECT_EQ(Total(), "Section Total " + FormatMoney(oListing.DoCalc(m_oAuction.m_oOutlay)));
+  }
+
+  std::vector<std::unique_ptr<clsAuctionType>> m_aoListings;
+};
+
+struct ClickRow {
+  const char* sClicks;
+  const char* sFields;
+  const char* sTotal = "";  ///< without the words before it; empty where another row has told it
+};
+
+class ClicksOnAuctionType : public AuctionTypeSection {
+ protected:
+  void Run(std::initializer_list<ClickRow> aoRows) {
+    for (const ClickRow& oRow : aoRows) {
+      SCOPED_TRACE(oRow.sClicks);
+      clsAuctionType& oListing = SetScreen(oRow.sClicks);
+      EXPECT_EQ(Fields(oListing), oRow.sFields);
+      EXPECT_TRUE(oListing.m_bDirty);
+      ExpectScreenShowsListing(oListing);
+      EXPECT_THAT(Total(), ::testing::EndsWith(oRow.sTotal));
+    }
+  }
+};
+
+// Fixed price and shop put each other out; the shop goes with a standard auction only, and without
+// it there is no duration.
+TEST_F(ClicksOnAuctionType, KindFixedPriceAndShopGiveWayToTheLastOneClicked) {
+  Run({
+      {"optMotorAuction", "kind1"},
+      {"optRealEstateAuction", "kind2"},
+      {"chkBuyItNow", "fixed1"},
+      {"chkBuyItNow chkBuyItNow", ""},
+      {"chkShopInventory", "shop1"},
+      {"chkShopInventory optShop30Days", "shop1 duration0"},
+      {"chkShopInventory optShop90Days", "shop1 duration1"},
+      {"chkShopInventory optShop90Days optShopGoodTillCancelled", "shop1 duration2"},
+      {"chkShopInventory optShop90Days chkShopInventory", ""},
+      {"chkShopInventory optShop90Days chkBuyItNow", "fixed1"},
+      {"chkShopInventory optShop90Days optMotorAuction", "kind1"},
+      {"chkBuyItNow chkShopInventory", "shop1"},
+      {"optMotorAuction chkShopInventory", "shop1"},
+      {"optRealEstateAuction chkShopInventory", "shop1"},
+      {"chkBuyItNow optRealEstateAuction", "kind2 fixed1"},
+      {"chkBuyItNow optMotorAuction optStandardAution", "fixed1"},
+      {"optShop90Days", ""},
+  });
+}
+
+TEST_F(ClicksOnAuctionType, EachKindHasItsTotal) {
+  // United States: 0.60 to open at 10, and 5.25 % of 20; shop: 0.15, and 10 % of 20.
+  // United Kingdom: 0.35 and the same percentages; a vehicle 6.00 and 15.00.
+  Run({
+      {"optMotorAuction optStandardAution", "", ByRegion("£1.40", "$1.65")},
+      {"chkShopInventory optShop90Days", "shop1 duration1", ByRegion("£2.15", "$2.15")},
+      {"optMotorAuction", "kind1", ByRegion("£21.00", "$90.00")},
+      {"optRealEstateAuction", "kind2", ByRegion("£35.00", "$35.00")},
+  });
+}
+
+// What a grey option is clicked to is kept; a grey box doesn't stay ticked.
+TEST_F(ClicksOnAuctionType, TheOptionsOfEachKindReachTheListing) {
+  if (RegionCode() != 1) {
+    GTEST_SKIP() << "the United Kingdom has none of these";
+  }
+  Run({
+      {"optBusinessAuction", "kind3", "$20.20"},
+      {"chkShopInventory optBusinessAuction", "kind3"},
+      {"chkShopInventory optShop60Days", "shop1 duration4", "$2.10"},
+      {"chkShopInventory optShop120Days", "shop1 duration5", "$2.20"},
+      {"optMotorAuction optMotorcycle", "kind1 motor1", "$60.00"},
+      {"optMotorAuction optPowersports", "kind1 motor2", "$60.00"},
+      {"optMotorAuction optPocketBikes", "kind1 motor3", "$6.00"},
+      {"optMotorAuction optOtherVehicle", "kind1 motor4", "$80.00"},
+      {"optMotorAuction optParts", "kind1 motor5", "$0.60"},
+      {"optMotorAuction optParts optPassenger", "kind1", "$90.00"},
+      {"optParts", "motor5", "$1.65"},
+      {"optRealEstateAuction optRealEstateOther", "kind2 land1", "$100.00"},
+      {"optRealEstateAuction optRealEstate30DayAuction", "kind2 sale1", "$50.00"},
+      {"optRealEstateAuction optRealEstate30DayAd", "kind2 sale2", "$150.00"},
+      {"optRealEstateAuction optRealEstate90DayAd", "kind2 sale3", "$300.00"},
+      {"optRealEstateAuction chkRealEstateBinding", "kind2 binding1", "$70.00"},
+      {"optRealEstateAuction chkRealEstateBinding optRealEstateOther", "kind2 land1 binding1",
+       "$135.00"},
+      {"optRealEstateAuction chkRealEstateBinding optStandardAution", ""},
+      {"optRealEstateAuction chkRealEstateBinding optMotorAuction optRealEstateAuction", "kind2"},
+      {"chkRealEstateBinding", ""},
+  });
+}
+
+// A listing of another kind than the one on screen takes the flags that were on screen.
+TEST_F(AuctionTypeSection, AListingIsShownOrOverwrittenByWhatStoodOnScreen) {
+  struct Row {
+    const char* sOnScreen;
+    const char* sListing;
+    const char* sOutcome;
+    bool bDirty;
+  };
+  const std::array aoRows = std::to_array<Row>({
+      {"", "", "", false},
+      {"", "fixed1", "fixed1", true},  // the box's own click writes it back
+      {"chkBuyItNow", "fixed1", "fixed1", false},
+      {"chkBuyItNow", "", "", true},
+      {"", "shop1 duration1", "shop1 duration1", true},
+      {"chkShopInventory", "shop1 duration5", "shop1 duration5", true},
+      {"", "kind1", "kind1", true},
+      {"", "kind1 fixed1", "kind1", true},
+      {"chkBuyItNow", "kind1", "kind1 fixed1", true},
+      {"optMotorAuction", "kind1 fixed1", "kind1 fixed1", true},
+      {"optMotorAuction", "shop1 duration1", "", true},
+      {"chkShopInventory", "kind2", "kind2", true},
+      {"", "fixed1 shop1 duration1", "fixed1", true},
+      {"", "binding1", "", true},
+      {"optRealEstateAuction", "kind2 binding1", "kind2 binding1", true},
+      {"optRealEstateAuction", "kind2 land1 binding1", "kind2 land1", true},
+      {"optMotorAuction", "kind1 shop1 duration1", "shop1 duration1", true},
+      {"", "kind1 motor5", "kind1 motor5", true},
+      {"", "kind9", "kind9", true},
+      {"", "kind-1 motor9 land7 sale-2", "kind-1 motor9 land7 sale-2", true},
+      {"chkShopInventory", "shop1 duration77", "shop1 duration77", false},
+  });
+  for (const Row& oRow : aoRows) {
+    SCOPED_TRACE(std::string(oRow.sOnScreen) + ", then " + oRow.sListing);
+    const clsAuctionType& oBefore = SetScreen(oRow.sOnScreen);
+    clsAuctionType& oListing = NewListing(oRow.sListing);
+    const std::string sBefore = Fields(oBefore);
+    Apply(oListing);
+    EXPECT_EQ(Fields(oListing), oRow.sOutcome);
+    EXPECT_EQ(oListing.m_bDirty, oRow.bDirty);
+    EXPECT_EQ(Fields(oBefore), sBefore);
+    ExpectScreenShowsListing(oListing);
+  }
+}
+
+TEST_F(AuctionTypeSection, CodesOutsideTheListsChooseNothing) {
+  clsAuctionType& oListing = NewListing("kind9 motor9 land7 sale-2 duration77");
+  Apply(oListing);
+  EXPECT_EQ(Chosen(), "");
+}
+
+/// Stops a runaway recursion before the stack does, and says where it began.
+class ClickCounter {
+ public:
+  ClickCounter(const SectionPanel& oPanel, const std::string& sWhere) {
+    for (Control* const pControl : AllControls(oPanel)) {
+      if (auto* const pButton = dynamic_cast<QAbstractButton*>(pControl)) {
+        QObject::connect(pButton, &QAbstractButton::toggled, &m_oContext, [this, sWhere] {
+          if (++m_nClicks > 2000) {
+            std::fprintf(stderr, "No end of clicks: %s\n", sWhere.c_str());
+            std::abort();
+          }
+        });
+      }
+    }
+  }
+
+ private:
+  QObject m_oContext;
+  int m_nClicks = 0;
+};
+
+TEST_F(AuctionTypeSection, AnyListingComesToRestOnAnyScreen) {
+  constexpr unsigned kSeed = 20070131;
+  std::mt19937 oRandom(kSeed);
+  const auto fnNumber = [&](int nFrom, int nTo) {
+    return std::uniform_int_distribution<int>(nFrom, nTo)(oRandom);
+  };
+  std::vector<std::string> asOnView;
+  for (const Control* const pControl : AllControls(m_oSection)) {
+    if (IsInput(*pControl) && pControl->Widget().isVisible()) {
+      asOnView.push_back(pControl->Name());
+    }
+  }
+  for (int nRound = 0; nRound < 500 && !HasFailure(); ++nRound) {
+    const std::string sWhere =
+        "seed " + std::to_string(kSeed) + ", round " + std::to_string(nRound);
+    SCOPED_TRACE(sWhere);
+    const ClickCounter oCounter(m_oSection, sWhere);
+    for (int i = fnNumber(0, 4); i > 0; --i) {
+      ClickOn(
+          asOnView[static_cast<std::size_t>(fnNumber(0, static_cast<int>(asOnView.size()) - 1))]);
+    }
+    clsAuctionType& oListing = NewListing("");
+    oListing.m_eAuctionType = fnNumber(-1, 4);
+    oListing.m_bBuyItNowOnly = fnNumber(0, 1) != 0;
+    oListing.m_bShopInventory = fnNumber(0, 1) != 0;
+    oListing.m_eShopDuration = fnNumber(-1, 6);
+    oListing.m_eMotorType = fnNumber(-1, 6);
+    oListing.m_eRealEstateType = fnNumber(-1, 2);
+    oListing.m_eRealEstateSaleFormat = fnNumber(-1, 4);
+    oListing.m_bRealEstateBinding = fnNumber(0, 1) != 0;
+    Apply(oListing);
+    ExpectScreenShowsListing(oListing);
+    const std::string sAtRest = Fields(oListing);
+    oListing.m_bDirty = false;
+    Apply(oListing);
+    EXPECT_EQ(Fields(oListing), sAtRest);
+    EXPECT_FALSE(oListing.m_bDirty) << "the second time nothing changes";
+  }
+}
+
+TEST_F(AuctionTypeSection, EachWriteIntoTheListingIsTold) {
+  const auto fnTold = [this](const char* sClicks) {
+    m_oChanged.clear();
+    ClickOn(sClicks);
+    return m_oChanged.count();
+  };
+  EXPECT_EQ(fnTold("chkBuyItNow"), 1);
+  EXPECT_EQ(fnTold("optStandardAution"), 0) << "it is chosen already";
+  EXPECT_EQ(fnTold("chkShopInventory"), 2) << "one for the box that it put out";
+}
+
+TEST_F(AuctionTypeSection, AListingWithoutFeesYetIsAFailure) {
+  clsAuctionType& oListing = NewListing("");
+  EXPECT_THROW(m_oSection.ApplyAuctionType(oListing), Failure);
+}
+
+}  // namespace
+}  // namespace quillet
