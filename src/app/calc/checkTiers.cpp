@@ -1,5 +1,7 @@
 #include "app/calc/checkTiers.h"
 
+#include <algorithm>
+
 #include "base/Single.h"
 #include "base/conversions.h"
 #include "platform/Host.h"
@@ -172,12 +174,9 @@ class TierCheck {
   }
 
   [[nodiscard]] bool IsInATier(double fValue) const {
-    for (const Tier& oTier : m_aoTiers) {
-      if (fValue >= oTier.fStart && (oTier.IsEndless() || fValue <= oTier.fEnd)) {
-        return true;
-      }
-    }
-    return false;
+    return std::any_of(m_aoTiers.begin(), m_aoTiers.end(), [fValue](const Tier& oTier) {
+      return fValue >= oTier.fStart && (oTier.IsEndless() || fValue <= oTier.fEnd);
+    });
   }
 
   Schedule& m_oSchedule;
