@@ -76,17 +76,6 @@ TEST(Calculate, AMissingTableOfTiersReachesTheCaller) {
   EXPECT_EQ(oAuction.m_fSellCost, 3);  // as far as it came
 }
 
-TEST(Calculate, AFreshAuctionCostsNothing) {
-  UseShippedSchedule();
-  clsCalculate oAuction;
-  oAuction.DoCalc();
-  for (const Single& fTotal :
-       {oAuction.m_fSellCost, oAuction.m_fProfit, oAuction.m_fListingCost, oAuction.m_fReserveCost,
-        oAuction.m_fFinalValueFee, oAuction.m_fPayPayCost, oAuction.m_fPostageCost}) {
-    EXPECT_EQ(fTotal, 0);
-  }
-}
-
 TEST(Calculate, IsDirtyIfAnyModelIs) {
   clsCalculate oAuction;
   for (bool* const pDirty : {&oAuction.m_oAuctionType.m_bDirty, &oAuction.m_oOutlay.m_bDirty,

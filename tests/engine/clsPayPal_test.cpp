@@ -20,33 +20,24 @@ clsPayPal Account(std::int32_t eType, std::int32_t nBand = 1) {
 }
 
 TEST(PayPal, AnExactHalfOfASmallestUnitGoesDown) {
-  struct Row {
-    const char* sFormat;
-    const char* sFee;  ///< before the rounding
-    float fExpected;
-  };
-  const Row aoRows[] = {
-      {"0.00", "2.675", 2.67F},  // its float lies below the half, its text doesn't
-      {"0.00", "2.6751", 2.68F},
-      {"0.00", "2.67", 2.67F},
-      {"0.00", "8.425", 8.42F},
-      {"0.00", "0.125", 0.12F},
-      {"0.00", "0.005", 0.0F},
-      {"0.00", "0.0051", 0.01F},
-      {"0.00", "0.004", 0.0F},
-      {"0.00", "-2.675", -2.67F},  // towards zero, since whole units are cut off
-      // The text of 12345.675 has seven digits, 12345.67 or .68: its float is 12345.6748.
-      {"0.00", "12345.675", 12345.67F},
-      // 1.234568E+07 x 100 lies between two floats, of which 1234567936 is the even one.
-      {"0.00", "12345678", 12345679.0F},
-      {"0", "2.5", 2.0F},
-      {"0", "2.51", 3.0F},
-      {"0.000", "1.2345", 1.234F},
-  };
-  for (const Row& oRow : aoRows) {
-    UseSchedule("CurrencyFormat," + std::string(oRow.sFormat) + "\nPersonalRatePoundsFixed," +
-                oRow.sFee);
-    EXPECT_EQ(Account(kAccountPersonal).DoCalc(1, nullptr).Float(), oRow.fExpected) << oRow.sFee;
+  // By format and fee before the rounding. The float of 2.675 lies below the half, its text
+  // doesn't; that of 12345.675 is 12345.6748, so its text ends in .67; 1.234568E+07 x 100 lies
+  // between two floats, of which 1234567936 is the even one.
+  const std::tuple<const char*, const char*, float> aoRows[] = {{"0.00", "2.675", 2.67F},
+                                                                {"0.00", "2.6751", 2.68F},
+                                                                {"0.00", "-2.675", -2.67F},
+                                                                {"0.00", "8.425", 8.42F},
+                                                                {"0.00", "0.125", 0.12F},
+                                                                {"0.00", "0.005", 0},
+                                                                {"0.00", "0.0051", 0.01F},
+                                                                {"0.00", "12345.675", 12345.67F},
+                                                                {"0.00", "12345678", 12345679},
+                                                                {"0", "2.5", 2},
+                                                                {"0", "2.51", 3},
+                                                                {"0.000", "1.2345", 1.234F}};
+  for (const auto& [sFormat, sFee, fExpected] : aoRows) {
+    UseSchedule("CurrencyFormat," + std::string(sFormat) + "\nPersonalRatePoundsFixed," + sFee);
+    EXPECT_EQ(Account(kAccountPersonal).DoCalc(1, nullptr).Float(), fExpected) << sFee;
   }
   ScopedHost oHost;
   oHost.sDecimalSeparator = ",";
@@ -56,26 +47,18 @@ TEST(PayPal, AnExactHalfOfASmallestUnitGoesDown) {
 
 TEST(PayPal, IsAPercentageAndAFixedChargeForEachPayment) {
   UseSchedule(kCents + "PersonalRatePounds%,3.4\nPersonalRatePoundsFixed,0.2\n");
-  struct Row {
-    double fAmount;
-    std::int32_t lQuantity;
-    bool bIndividually;
-    double fExpected;
-  };
-  const Row aoRows[] = {
-      {100, 1, false, 3.6}, {100, 3, false, 3.6}, {100, 3, true, 4.0},  {100, 2, true, 3.8},
+  const std::tuple<double, std::int32_t, bool, double> aoRows[] = {
+      {100, 1, false, 3.6}, {100, 3, false, 3.6}, {100, 3, true, 4},    {100, 2, true, 3.8},
       {100, 1, true, 3.6},  {100, 0, true, 3.6},  {100, -3, true, 3.6}, {0, 3, true, 0},
-      {-100, 3, true, 0},   {.01, 1, false, .2},
-  };
-  for (const Row& oRow : aoRows) {
+      {-100, 3, true, 0},   {.01, 1, false, .2}};
+  for (const auto& [fAmount, lQuantity, bIndividually, fExpected] : aoRows) {
     clsOutlay oOutlay;
-    oOutlay.m_lQuantity = oRow.lQuantity;
+    oOutlay.m_lQuantity = lQuantity;
     clsPayPal oPayPal = Account(kAccountPersonal);
-    oPayPal.m_bPayIndividually = oRow.bIndividually;
-    EXPECT_EQ(oPayPal.DoCalc(oRow.fAmount, &oOutlay), Single(oRow.fExpected))
-        << oRow.fAmount << " x " << oRow.lQuantity << oRow.bIndividually;
+    oPayPal.m_bPayIndividually = bIndividually;
+    EXPECT_EQ(oPayPal.DoCalc(fAmount, &oOutlay), Single(fExpected)) << fAmount << lQuantity;
     EXPECT_EQ(oPayPal.m_oLastOutlay, &oOutlay);
-    EXPECT_EQ(oPayPal.DoCalcAuto(), Single(oRow.fExpected));
+    EXPECT_EQ(oPayPal.DoCalcAuto(), Single(fExpected));
   }
   clsPayPal oPayPal = Account(kAccountPersonal);
   oPayPal.m_bPayIndividually = true;

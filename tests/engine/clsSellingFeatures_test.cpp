@@ -83,29 +83,18 @@ TEST_F(SellingFeatures, TwoCategoriesMultiplyAllButHomePageAndSchedule) {
 
 TEST_F(SellingFeatures, AreAddedInTheirOrder) {
   // 2^24 + 1 rounds to 2^24: with -2^24 behind it the sum is 0, with -2^24 before it 1.
-  const std::pair<std::int32_t, std::string> aoOrder[] = {{0x4, "Highlight"},
-                                                          {0x8, "ItemSubtitle"},
-                                                          {0x10, "Bold"},
-                                                          {0x20, "Gallery"},
-                                                          {0x40, "FeaturedGallery"},
-                                                          {0x80, "BuyItNow"},
-                                                          {0x400, "SlideShow"},
-                                                          {0x800, "SupersizePictures"},
-                                                          {0x2000, "ListingDesigner"},
-                                                          {0x4000, "FeaturedInSearch"},
-                                                          {0x8000, "10DayDuration"},
-                                                          {0x10000, "GiftServices"},
-                                                          {0x20000, "PreviewPicture"},
-                                                          {0x40000, "Border"},
-                                                          {0x80000, "ListingItem"},
-                                                          {0x100000, "CarAd"},
-                                                          {0, "ExtraImage"}};
-  for (std::size_t i = 1; i < std::size(aoOrder); ++i) {
-    const auto& [lFirst, sFirst] = aoOrder[i - 1];
-    const auto& [lSecond, sSecond] = aoOrder[i];
-    UseSchedule("FeatureBuyItNowRanges,0\nFeaturePlus,16777216\nFeature" + sFirst + ",1\nFeature" +
-                sSecond + ",-16777216\n");
-    EXPECT_EQ(Fee(0x2 | lFirst | lSecond, lSecond == 0 ? 1 : 0), 0) << sFirst;
+  const std::vector<std::string> asOrder = {
+      "Highlight",       "ItemSubtitle",     "Bold",          "Gallery",
+      "FeaturedGallery", "BuyItNow",         "SlideShow",     "SupersizePictures",
+      "ListingDesigner", "FeaturedInSearch", "10DayDuration", "GiftServices",
+      "PreviewPicture",  "Border",           "ListingItem",   "CarAd",
+      "ExtraImage"};
+  constexpr std::int32_t kPlusAndThese = 0x1FECFE;
+  for (std::size_t i = 1; i < asOrder.size(); ++i) {
+    m_oFeatures = clsSellingFeatures();  // without the prices of the pair before
+    UseSchedule("FeatureBuyItNowRanges,0\nFeaturePlus,16777216\nFeature" + asOrder[i - 1] +
+                ",1\nFeature" + asOrder[i] + ",-16777216\n");
+    EXPECT_EQ(Fee(kPlusAndThese, 1), 0) << asOrder[i];
   }
 }
 
