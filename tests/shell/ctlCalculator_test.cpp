@@ -9,6 +9,7 @@
 
 #include "base/basMain.h"
 #include "base/clsRegistryAccess.h"
+#include "base/region.h"
 #include "support/PanelScript.h"
 
 namespace quillet {
