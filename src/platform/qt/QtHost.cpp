@@ -12,6 +12,7 @@
 #include <QUrl>
 
 #include "platform/qt/Theme.h"
+#include "platform/UserData.h"
 
 namespace quillet {
 namespace {
@@ -142,6 +143,10 @@ std::string QtHost::CommandLine() const {
 
 std::string QtHost::ProgramFolder() const {
   return NativeText(QCoreApplication::applicationDirPath());
+}
+
+std::string QtHost::DataFolder() const {
+  return FolderForChanges(ProgramFolder());
 }
 
 std::string QtHost::DocumentsFolder() const {

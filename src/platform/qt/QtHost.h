@@ -24,6 +24,7 @@ class QtHost : public Host {
   [[nodiscard]] std::int64_t TickCount() const override { return m_oClock.elapsed(); }
   [[nodiscard]] std::string CommandLine() const override;
   [[nodiscard]] std::string ProgramFolder() const override;
+  [[nodiscard]] std::string DataFolder() const override;
   [[nodiscard]] std::string DocumentsFolder() const override;
   void OpenLink(const std::string& sTarget) override;
   [[nodiscard]] const std::string& DecimalSeparator() const override { return m_sDecimalSeparator; }
