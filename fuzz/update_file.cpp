@@ -1,6 +1,5 @@
 // The text of an update file: loading and checking it, tiers by their links and by their keys, and
 // auctions of every kind against it.
-#include <algorithm>
 #include <array>
 #include <memory>
 #include <string>
@@ -35,6 +34,25 @@ clsPriceRange Asked(Ask&& fnAsk) {
   return oTier;
 }
 
+/// What a hit test is to give: the tiers one by one, each read whole.
+clsPriceRange HitOneByOne(const clsPrices& oPrices, const std::string& sTable, Single fValue) {
+  clsPriceRange oTier;
+  (void)oPrices.GetRange(sTable, 1, oTier, kShopNone);
+  const int nCount = oTier.m_nCount;
+  for (int i = 1; i <= nCount; ++i) {
+    (void)oPrices.GetRange(sTable, static_cast<std::int16_t>(i), oTier, kShopNone);
+    if (fValue >= oTier.m_fStart && (fValue <= oTier.m_fEnd || oTier.m_fEnd == -1.0)) {
+      return oTier;
+    }
+  }
+  if (nCount < 1) {
+    oTier = {};
+    oTier.m_nCount = static_cast<std::int16_t>(nCount);
+  }
+  oTier.m_nIndex = 0;
+  return oTier;
+}
+
 void CheckTable(const clsPrices& oLinked, const clsPrices& oUnlinked, const std::string& sTable) {
   for (const int nTier : {-1, 0, 1, 2, 3, 9, 10, 32767}) {
     const auto fnTier = [&](const clsPrices& oPrices) {
@@ -48,12 +66,13 @@ void CheckTable(const clsPrices& oLinked, const clsPrices& oUnlinked, const std:
     const auto fnHit = [&](const clsPrices& oPrices) {
       return Asked([&](clsPriceRange& oTier) {
         const bool bHit = oPrices.HitTestRanges(sTable, fValue, oTier, kShopNone);
-        Require(bHit == (oTier.m_nIndex != 0) &&
-                oTier.m_nIndex <= std::max<int>(oTier.m_nCount, 0));
-        Require(!bHit || Single(fValue) >= oTier.m_fStart);
+        Require(bHit == (oTier.m_nIndex != 0));
       });
     };
     Require(SameTier(fnHit(oLinked), fnHit(oUnlinked)));
+    Require(SameTier(fnHit(oLinked), Asked([&](clsPriceRange& oTier) {
+                       oTier = HitOneByOne(oLinked, sTable, fValue);
+                     })));
   }
 }
 

@@ -153,10 +153,11 @@ PriceKey clsSellingFeatures::GetPriceKey(const KeyText& oName) const {
 /// A price that the schedule lacks stays what it was, be it that of another kind of listing.
 void clsSellingFeatures::RefreshPrices() {
   const std::int32_t nShop = AuctionType().m_eShopDuration;
+  const clsPrices& oPrices = Prices();
   PriceKey oKey = GetPriceKey("");
   for (const FeaturePrice& oPrice : kFeaturePrices) {
     const KeyBranch oBranch(oKey);
-    Prices().GetPrice(oKey.Append(oPrice.oName), this->*oPrice.fPrice, nShop);
+    oPrices.GetPrice(oKey.Append(oPrice.oName), this->*oPrice.fPrice, nShop);
   }
 }
 

@@ -22,8 +22,13 @@ class KeyText {
       : KeyText(std::string_view(acLiteral, nSize - 1)) {}
 
   constexpr KeyText(std::string_view sText) : m_sText(sText) {  // NOLINT: likewise
-    for (const char c : sText) {
-      m_nHash = m_nHash * kBase + static_cast<unsigned char>(LowerCase(c));
+    // Two characters at a time, since each step waits for the one before.
+    for (; sText.size() >= 2; sText.remove_prefix(2)) {
+      m_nHash = m_nHash * (kBase * kBase) + (Digit(sText[0]) * kBase + Digit(sText[1]));
+      m_nPower *= kBase * kBase;
+    }
+    if (!sText.empty()) {
+      m_nHash = m_nHash * kBase + Digit(sText.front());
       m_nPower *= kBase;
     }
   }
@@ -36,6 +41,10 @@ class KeyText {
  private:
   friend class PriceKey;
   static constexpr std::uint64_t kBase = 0x9E3779B97F4A7C15;
+
+  [[nodiscard]] static constexpr std::uint64_t Digit(char c) {
+    return static_cast<unsigned char>(LowerCase(c));
+  }
 
   KeyText(std::string_view sText, std::uint64_t nHash, std::uint64_t nPower)
       : m_sText(sText), m_nHash(nHash), m_nPower(nPower) {}

@@ -24,6 +24,36 @@ bool SameKey(std::string_view sLeft, std::string_view sRight) {
 
 }  // namespace
 
+std::string_view PriceTable::KeyAt(std::size_t nEntry) const {
+  const Entry& oEntry = m_aoEntries[nEntry];
+  return {m_sTexts.data() + oEntry.nKeyAt, oEntry.nKeyLength};
+}
+
+/// The slot that holds the key, or else the free one where it belongs.
+inline std::size_t PriceTable::SlotOf(std::string_view sKey, std::uint32_t nHash) const {
+  const std::size_t nMask = m_anSlots.size() - 1;
+  std::size_t nSlot = nHash & nMask;
+  for (; m_anSlots[nSlot] != 0; nSlot = (nSlot + 1) & nMask) {
+    const std::uint32_t nEntry = m_anSlots[nSlot] - 1;
+    if (m_aoEntries[nEntry].nHash == nHash && SameKey(KeyAt(nEntry), sKey)) {
+      break;
+    }
+  }
+  return nSlot;
+}
+
+inline const PriceTable::Entry* PriceTable::EntryOf(const KeyText& oKey) const {
+  if (m_aoEntries.empty()) {
+    return nullptr;
+  }
+  const std::uint32_t nSlot = m_anSlots[SlotOf(oKey.Text(), SlotHash(oKey))];
+  return nSlot == 0 ? nullptr : &m_aoEntries[nSlot - 1];
+}
+
+inline std::string_view PriceTable::ValueOf(const Entry& oEntry) const {
+  return {m_sTexts.data() + oEntry.nKeyAt + oEntry.nKeyLength, oEntry.nValueLength};
+}
+
 bool PriceTable::Add(const KeyText& oKey, std::string_view sValue) {
   if (m_anSlots.size() < (m_aoEntries.size() + 1) * 2) {
     Grow();
@@ -77,23 +107,6 @@ void PriceTable::Clear() {
   m_bLinked = false;
 }
 
-std::string_view PriceTable::KeyAt(std::size_t nEntry) const {
-  const Entry& oEntry = m_aoEntries[nEntry];
-  return {m_sTexts.data() + oEntry.nKeyAt, oEntry.nKeyLength};
-}
-
-const PriceTable::Entry* PriceTable::EntryOf(const KeyText& oKey) const {
-  if (m_aoEntries.empty()) {
-    return nullptr;
-  }
-  const std::uint32_t nSlot = m_anSlots[SlotOf(oKey.Text(), SlotHash(oKey))];
-  return nSlot == 0 ? nullptr : &m_aoEntries[nSlot - 1];
-}
-
-std::string_view PriceTable::ValueOf(const Entry& oEntry) const {
-  return {m_sTexts.data() + oEntry.nKeyAt + oEntry.nKeyLength, oEntry.nValueLength};
-}
-
 /// However large its count is, the links end at the first tier that isn't there.
 void PriceTable::LinkTable(std::string_view sTable) {
   PriceKey oTable{KeyText(sTable)};
@@ -114,19 +127,6 @@ PriceTable::Link PriceTable::LinkOf(PriceKey& oTable, std::int32_t nTier) const 
     }
   }
   return oLink;
-}
-
-/// The slot that holds the key, or else the free one where it belongs.
-inline std::size_t PriceTable::SlotOf(std::string_view sKey, std::uint32_t nHash) const {
-  const std::size_t nMask = m_anSlots.size() - 1;
-  std::size_t nSlot = nHash & nMask;
-  for (; m_anSlots[nSlot] != 0; nSlot = (nSlot + 1) & nMask) {
-    const std::uint32_t nEntry = m_anSlots[nSlot] - 1;
-    if (m_aoEntries[nEntry].nHash == nHash && SameKey(KeyAt(nEntry), sKey)) {
-      break;
-    }
-  }
-  return nSlot;
 }
 
 void PriceTable::Grow() {

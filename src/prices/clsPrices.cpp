@@ -168,16 +168,17 @@ bool clsPrices::HitTestRanges(const KeyText& oName, Single fHitTestValue, clsPri
   oRange.m_nCount = oTiers.Count();
   bool bHit = false;
   std::int32_t nTier = 0;
+  // Of a tier that the value lies beyond nothing else is read, as nothing else is ever seen.
   while (nTier < oRange.m_nCount && !bHit) {
     ++nTier;
-    oTiers.Read(TierPart::Start, nTier, oRange.m_fStart);
     oTiers.Read(TierPart::End, nTier, oRange.m_fEnd);
-    bHit = fHitTestValue >= oRange.m_fStart &&
-           (fHitTestValue <= oRange.m_fEnd || oRange.m_fEnd == clsPriceRange::kNoUpperLimit);
-  }
-  // The values of tiers passed over on the way are never seen.
-  if (nTier > 0) {
-    oTiers.Read(TierPart::Value, nTier, oRange.m_fValue);
+    const bool bBeyond =
+        fHitTestValue > oRange.m_fEnd && oRange.m_fEnd != clsPriceRange::kNoUpperLimit;
+    if (!bBeyond || nTier == oRange.m_nCount) {
+      oTiers.Read(TierPart::Start, nTier, oRange.m_fStart);
+      oTiers.Read(TierPart::Value, nTier, oRange.m_fValue);
+      bHit = !bBeyond && fHitTestValue >= oRange.m_fStart;
+    }
   }
   oRange.m_nIndex = static_cast<std::int16_t>(bHit ? nTier : 0);
   return bHit;

@@ -94,7 +94,7 @@ std::error_code ReadWholeFile(const std::string& sPath, std::size_t nLimit, std:
     return LastError();
   }
   std::string sRead;
-  std::array<char, 65536> acBlock{};
+  std::array<char, 65536> acBlock;  // NOLINT: zeros would only take time
   while (true) {
     std::size_t nRead = 0;
     if (std::error_code oError = ReadSome(oFile.Handle(), acBlock.data(), acBlock.size(), nRead)) {
