@@ -1,0 +1,208 @@
+#include "sections/ctlPayPal.h"
+
+#include "sections/ctlPaypalBusinessTypes.h"
+#include "support/PanelTest.h"
+
+namespace quillet {
+namespace {
+
+constexpr const char* kBandNames = "optBand1 optBand2 optBand3 optBand4 optBand5";
+
+/// For an amount of 100.
+class PayPal : public PanelTest<ctlPayPal> {
+ protected:
+  PayPal() { Start(1); }
+
+  void Start(int nQuantity, clsPayPal oModel = {}) {
+    m_oAuction.m_oOutlay.m_lQuantity = nQuantity;
+    m_oModel = std::move(oModel);
+    IgnoreFailure([&] { static_cast<void>(m_oModel.DoCalc(100, nullptr)); });
+    m_oSection.ApplyFeatures(m_oModel, &m_oAuction.m_oOutlay);
+    m_oModel.m_bDirty = false;
+    m_oChanged.clear();
+  }
+  /// "used, account 1, band 1, individually"
+  std::string Fields() const {
+    return std::string(m_oModel.m_bEnabled ? "used, " : "") + "account " +
+           std::to_string(m_oModel.m_eAccountType) + ", band " +
+           std::to_string(m_oModel.m_nBusinessBand) +
+           (m_oModel.m_bPayIndividually ? ", individually" : "");
+  }
+  ctlPaypalBusinessTypes& Bands() const {
+    return dynamic_cast<ctlPaypalBusinessTypes&>(ControlOf(m_oSection, "ctlPaypalBusinessType"));
+  }
+
+  clsPayPal m_oModel;
+};
+
+TEST_F(PayPal, ClicksReachTheModelAndTheTotalAtOnce) {
+  struct Row {
+    int nQuantity;
+    const char* sClicks;
+    const char* sFields;
+    const char* sChosen;
+    bool bBandsGrey;
+    const char* sUnitedStates;
+    const char* sUnitedKingdom;
+  };
+  // United States: 2.9 % + 0.30 for a personal account and band 1, 2.2 % for band 3.
+  // United Kingdom: 3.4 % + 0.20, and 2.4 %.
+  const std::array aoRows = std::to_array<Row>({
+      {1, "chkUsePayPal", "used, account 0, band 1", "optBand1 optPersonalAccount chkUsePayPal",
+       true, "$3.20", "£3.60"},
+      {1, "chkUsePayPal chkUsePayPal", "account 0, band 1", "optBand1 optPersonalAccount", true,
+       "$0.00", "£0.00"},
+      {1, "chkUsePayPal optBand3", "used, account 0, band 3",
+       "optBand3 optPersonalAccount chkUsePayPal", true, "$3.20", "£3.60"},
+      {1, "chkUsePayPal optBand3 optPremierAccount", "used, account 1, band 3",
+       "optBand3 optPremierAccount chkUsePayPal", false, "$2.50", "£2.60"},
+      {1, "chkUsePayPal optBusinessAccount optBand3", "used, account 2, band 3",
+       "optBand3 optBusinessAccount chkUsePayPal", false, "$2.50", "£2.60"},
+      {1, "optBusinessAccount optBand5 optPersonalAccount chkUsePayPal", "used, account 0, band 5",
+       "optBand5 optPersonalAccount chkUsePayPal", true, "$3.20", "£3.60"},
+      // Two payments: the fixed charge comes twice.
+      {2, "chkUsePayPal chkPayInduvidually", "used, account 0, band 1, individually",
+       "optBand1 optPersonalAccount chkPayInduvidually chkUsePayPal", true, "$3.50", "£3.80"},
+  });
+  for (const Row& oRow : aoRows) {
+    SCOPED_TRACE(oRow.sClicks);
+    Start(oRow.nQuantity);
+    ClickOn(oRow.sClicks);
+    EXPECT_EQ(Fields(), oRow.sFields);
+    EXPECT_EQ(Chosen(), oRow.sChosen);
+    EXPECT_EQ(NamesWhere(Bands(), IsGrey), oRow.bBandsGrey ? kBandNames : "");
+    EXPECT_EQ(Total(),
+              std::string("Section Total ") + ByRegion(oRow.sUnitedKingdom, oRow.sUnitedStates));
+    EXPECT_TRUE(m_oModel.m_bDirty);
+    EXPECT_GE(m_oChanged.count(), 1);
+  }
+}
+
+TEST_F(PayPal, OneUnitCannotBePaidForIndividually) {
+  clsPayPal oModel;
+  oModel.m_bPayIndividually = true;
+  Start(1, oModel);
+  EXPECT_EQ(Chosen(), "optBand1 optPersonalAccount");
+  EXPECT_TRUE(IsGrey(ControlOf(m_oSection, "chkPayInduvidually")));
+  EXPECT_FALSE(Usable("chkPayInduvidually"));
+  EXPECT_TRUE(m_oModel.m_bPayIndividually) << "until the section writes its boxes";
+  ClickOn("chkUsePayPal");
+  EXPECT_FALSE(m_oModel.m_bPayIndividually);
+
+  Start(2, oModel);
+  EXPECT_TRUE(Usable("chkPayInduvidually"));
+  EXPECT_EQ(Chosen(), "optBand1 optPersonalAccount chkPayInduvidually");
+}
+
+TEST_F(PayPal, AModelReplacesAnyBandThatWasOnShow) {
+  for (const int nBefore : {0, 1, 4}) {
+    for (const int nBand : {-1, 0, 1, 3, 5, 6}) {
+      SCOPED_TRACE(std::to_string(nBefore) + ", then " + std::to_string(nBand));
+      clsPayPal oModel;
+      oModel.m_nBusinessBand = nBefore;
+      Start(1, oModel);
+      oModel.m_nBusinessBand = nBand;
+      Start(1, oModel);
+      EXPECT_EQ(m_oModel.m_nBusinessBand, nBand);
+      EXPECT_EQ(ChosenIn(Bands()), nBand < 1 || nBand > 5 ? "" : "optBand" + std::to_string(nBand));
+    }
+  }
+}
+
+TEST_F(PayPal, BandsAreCalledAsTheScheduleSays) {
+  EXPECT_EQ(Caption("optBand2"), ByRegion("to £6000", "to $10000"));
+  UseSchedule("BusinessRateBand1Name,small\n");
+  Start(1);
+  EXPECT_EQ(Caption("optBand1"), "small");
+  EXPECT_EQ(Caption("optBand3"), "");
+}
+
+TEST_F(PayPal, ABandWithoutRatesLeavesTheSectionUsable) {
+  UseSchedule("PersonalRatePounds%,2\n");
+  Start(1);
+  ClickOn("chkUsePayPal");
+  m_oChanged.clear();
+  ClickOn("optPremierAccount");
+  EXPECT_EQ(m_oChanged.count(), 0);
+  ClickOn("optPersonalAccount");
+  EXPECT_EQ(m_oChanged.count(), 1);
+  EXPECT_EQ(Total(), "Section Total £2.00");
+  EXPECT_THROW(m_oSection.ApplyFeatures(m_oModel, nullptr), Failure);
+}
+
+TEST_F(PayPal, EachShowBoxStandsForItsRowAlone) {
+  constexpr std::array kRows = std::to_array<RowOfBox>({
+      {"chkShowUsePayPal", "chkUsePayPal"},
+      {"chkShowPayInduvidually", "fraPayInduvidually"},
+      {"chkShowPersonalAccount", "optPersonalAccount"},
+      {"chkShowPremierAccount", "optPremierAccount"},
+      {"chkShowBusinessAccount", "optBusinessAccount"},
+      {"chkShowTotal", "lblTotal"},
+  });
+  ExpectRows(m_oSection, kRows);
+  constexpr std::array kBandRows = std::to_array<RowOfBox>({
+      {"chkShowBusinessRateBand1", "optBand1"},
+      {"chkShowBusinessRateBand2", "optBand2"},
+      {"chkShowBusinessRateBand3", "optBand3"},
+      {"chkShowBusinessRateBand4", "optBand4"},
+      {"chkShowBusinessRateBand5", "optBand5"},
+  });
+  ExpectRows(Bands(), kBandRows);
+}
+
+// They have no Show box of their own.
+TEST_F(PayPal, TheBandsLeaveTheListWithAnyTickAndComeBackWhenTheSectionIsShownAgain) {
+  const auto fnListed = [] {
+    return LoadVisibleList("PayPal").Exists("ctlPaypalBusinessType", false);
+  };
+  EXPECT_TRUE(fnListed());
+  EXPECT_TRUE(Bands().Visible());
+  m_oSection.SetShowConfig(true);
+  ClickOn("chkShowPremierAccount");
+  EXPECT_FALSE(fnListed());
+  EXPECT_TRUE(Bands().Visible()) << "in config mode every row is on view";
+  m_oSection.SetShowConfig(false);
+  EXPECT_FALSE(Bands().Visible());
+  EXPECT_EQ(ControlOf(m_oSection, "lblTotal").Top(), 1480) << "right below the business account";
+  m_oSection.hide();
+  m_oSection.show();
+  EXPECT_TRUE(fnListed());
+  m_oSection.SetShowConfig(false);
+  EXPECT_TRUE(Bands().Visible());
+  EXPECT_FALSE(ControlOf(m_oSection, "optPremierAccount").Visible());
+}
+
+TEST_F(PayPal, TheRowsBelowTheBandsFollowTheirHeight) {
+  struct Row {
+    const char* sBoxes;
+    int nBandsHeight;
+    int nTotalTop;
+  };
+  const std::array aoRows = std::to_array<Row>({
+      {"", 1375, 3135},
+      {"chkShowBusinessRateBand5", 1095, 2855},
+      {"chkShowBusinessRateBand1 chkShowBusinessRateBand2 chkShowBusinessRateBand3", 255, 2015},
+      {"chkShowBusinessRateBand4", 0, 1760},
+  });
+  for (const Row& oRow : aoRows) {
+    SCOPED_TRACE(oRow.sBoxes);
+    m_oSection.SetShowConfig(true);
+    EXPECT_EQ(m_oSection.Width(), 3145);
+    ClickOn(oRow.sBoxes);
+    m_oSection.SetShowConfig(false);
+    EXPECT_EQ(m_oSection.Width(), 2150);
+    EXPECT_EQ(Bands().Height(), oRow.nBandsHeight);
+    EXPECT_EQ(ControlOf(m_oSection, "lblTotal").Top(), oRow.nTotalTop);
+    EXPECT_EQ(m_oSection.Height(), oRow.nTotalTop + 255);
+  }
+}
+
+TEST_F(PayPal, NoCaptionIsClippedAndEveryInputHasAName) {
+  m_oSection.SetShowConfig(true);
+  ClickOn("chkUsePayPal");
+  EXPECT_EQ(ClippedCaptionsIn(m_oSection), "");
+  EXPECT_EQ(UnnamedInputsIn(m_oSection), "");
+}
+
+}  // namespace
+}  // namespace quillet

@@ -1,0 +1,309 @@
+#include "sections/ctlPostage.h"
+
+#include <sstream>
+
+#include "sections/ctlPostageParcelInsurance.h"
+#include "support/PanelTest.h"
+
+namespace quillet {
+namespace {
+
+class Postage : public PanelTest<ctlPostage> {
+ protected:
+  Postage() { Start(1); }
+
+  void Start(int nQuantity, clsPostage oModel = {}) {
+    m_oAuction.m_oOutlay.m_lQuantity = nQuantity;
+    m_oModel = std::move(oModel);
+    m_oSection.ApplyFeatures(m_oModel, &m_oAuction.m_oOutlay);
+    m_oModel.m_bDirty = false;
+    m_oChanged.clear();
+  }
+  /// Clicks "name" and types "name=text".
+  void Play(const std::string& sScript) {
+    std::istringstream oScript(sScript);
+    for (std::string sStep; oScript >> sStep;) {
+      const std::size_t nEquals = sStep.find('=');
+      if (nEquals == std::string::npos) {
+        ClickOn(sStep);
+      } else {
+        TypeInto(sStep.substr(0, nEquals), sStep.substr(nEquals + 1));
+      }
+    }
+  }
+  /// "class 1, band 0, recorded, proof, each"
+  std::string Fields() const {
+    return "class " + std::to_string(m_oModel.m_ePostageClass) + ", band " +
+           std::to_string(m_oModel.m_eInsuranceBand) +
+           (m_oModel.m_bRecordedDelivery ? ", recorded" : "") +
+           (m_oModel.m_bProofOfDelivery ? ", proof" : "") +
+           (m_oModel.m_bSendIndividually ? ", each" : "");
+  }
+  /// What must hold whenever the section has come to rest.
+  void ExpectScreenShowsModel() {
+    const auto fnValue = [&](const char* sName) {
+      return dynamic_cast<const Choice&>(ControlOf(m_oSection, sName)).Value() != 0;
+    };
+    constexpr std::array kClasses = {"optFirstClass", "optSecondClass", "optParcelService",
+                                     "optManual"};
+    for (int i = 0; i < 4; ++i) {
+      EXPECT_EQ(fnValue(kClasses[static_cast<std::size_t>(i)]), m_oModel.m_ePostageClass == i);
+      EXPECT_EQ(fnValue(("optBand" + std::to_string(i + 1)).c_str()),
+                m_oModel.m_eInsuranceBand == i);
+    }
+    EXPECT_EQ(fnValue("chkUsePostage"), m_oModel.m_bEnabled);
+    EXPECT_EQ(fnValue("chkRecordedDelivery"), m_oModel.m_bRecordedDelivery);
+    EXPECT_EQ(fnValue("chkProofOfDelivery"), m_oModel.m_bProofOfDelivery);
+    EXPECT_EQ(fnValue("chkSendInduvidually"), m_oModel.m_bSendIndividually);
+    EXPECT_EQ(Total(), "Section Total " + FormatMoney(m_oModel.DoCalc(&m_oAuction.m_oOutlay)));
+  }
+  ctlPostageParcelInsurance& Insurance() const {
+    return dynamic_cast<ctlPostageParcelInsurance&>(ControlOf(m_oSection, "ctlParcelInsurance"));
+  }
+
+  clsPostage m_oModel;
+};
+
+struct ScriptRow {
+  int nQuantity;
+  const char* sScript;
+  const char* sFields;
+  const char* sTotal;
+};
+
+class PostageScripts : public Postage {
+ protected:
+  void Run(std::span<const ScriptRow> aoRows) {
+    for (const ScriptRow& oRow : aoRows) {
+      SCOPED_TRACE(oRow.sScript);
+      Start(oRow.nQuantity);
+      Play(oRow.sScript);
+      Play("chkUsePostage");
+      EXPECT_EQ(Fields(), oRow.sFields);
+      EXPECT_EQ(Total(), std::string("Section Total ") + oRow.sTotal);
+      EXPECT_TRUE(m_oModel.m_bDirty);
+      EXPECT_GE(m_oChanged.count(), 1);
+      ExpectScreenShowsModel();
+    }
+  }
+};
+
+TEST_F(PostageScripts, InTheUnitedKingdomTheModelDecidesWhatIsChosen) {
+  if (RegionCode() != 0) {
+    GTEST_SKIP() << "the Royal Mail is the United Kingdom's";
+  }
+  Run(std::array<ScriptRow, 19>{{
+      {1, "", "class 0, band 0", "£1.00"},
+      {1, "txtWeight=0.2", "class 0, band 0", "£1.27"},
+      {1, "txtWeight=0.2 optSecondClass", "class 1, band 0", "£1.09"},
+      {1, "txtWeight=1 optSecondClass", "class 1, band 0", "£2.14"},
+      // Beyond the second class: on to the parcel, and beyond that to manual.
+      {1, "txtWeight=1.1 optSecondClass", "class 2, band 0", "£3.85"},
+      {1, "optSecondClass txtWeight=1.1", "class 2, band 0", "£3.85"},
+      {1, "txtWeight=20.5 optSecondClass", "class 3, band 0", "£0.00"},
+      {1, "optParcelService txtWeight=20.5", "class 3, band 0", "£0.00"},
+      // The first class never ends: 4.74 and 0.85 for each of three quarters of a kilogram.
+      {1, "txtWeight=2", "class 0, band 0", "£7.29"},
+      {1, "optManual txtManual=8.5", "class 3, band 0", "£8.50"},
+      {1, "txtManual=8.5 optManual optFirstClass", "class 0, band 0", "£1.00"},
+      // Only a parcel is insured above the first band. The band stays with another class, without
+      // a premium, until the bands are clicked.
+      {1, "optParcelService optBand3", "class 2, band 2", "£6.10"},
+      {1, "optBand3", "class 0, band 0", "£1.00"},
+      {1, "optParcelService optBand3 optFirstClass", "class 0, band 2", "£1.00"},
+      {1, "optParcelService optBand3 optFirstClass optBand2", "class 0, band 0", "£1.00"},
+      // Proof of delivery goes with recorded delivery, and that with letters.
+      {1, "chkProofOfDelivery", "class 0, band 0", "£1.00"},
+      {1, "chkRecordedDelivery chkProofOfDelivery", "class 0, band 0, recorded, proof", "£3.88"},
+      {1, "chkRecordedDelivery chkProofOfDelivery chkRecordedDelivery", "class 0, band 0", "£1.00"},
+      {2, "chkRecordedDelivery optParcelService chkSendInduvidually", "class 2, band 0, each",
+       "£7.70"},
+  }});
+}
+
+TEST_F(PostageScripts, InTheUnitedStatesTheAmountIsTypedByHand) {
+  if (RegionCode() != 1) {
+    GTEST_SKIP() << "the United Kingdom has priced services";
+  }
+  EXPECT_EQ(Fields(), "class 0, band 0") << "until the section first writes its boxes";
+  EXPECT_EQ(Chosen(), "optBand1 optFirstClass");
+  Run(std::array<ScriptRow, 4>{{
+      {1, "", "class 3, band 0", "$0.00"},
+      {1, "txtManual=8.5", "class 3, band 0", "$8.50"},
+      {1, "txtManual=8.5 txtManual=abc", "class 3, band 0", "$8.50"},
+      {3, "txtManual=8.5 chkSendInduvidually", "class 3, band 0, each", "$25.50"},
+  }});
+}
+
+TEST_F(Postage, PricesStandBesideTheServices) {
+  if (RegionCode() != 0) {
+    GTEST_SKIP() << "the Royal Mail is the United Kingdom's";
+  }
+  const auto fnPrices = [&] {
+    std::string sPrices;
+    for (const char* const sLabel :
+         {"lblSecondClass", "lblFirstClass", "lblParcelService", "lblParcelInsuranceCost",
+          "lblRecordedDelivery", "lblProofOfDelivery"}) {
+      sPrices += Caption(sLabel) + " ";
+    }
+    return sPrices;
+  };
+  Play("txtWeight=0.3");
+  EXPECT_EQ(fnPrices(), "£1.44 £1.70 £3.85 £0.00 £0.00 £0.00 ");
+  Play("chkRecordedDelivery chkProofOfDelivery");
+  EXPECT_EQ(fnPrices(), "£1.44 £1.70 £3.85 £0.00 £0.68 £2.20 ");
+  Play("optParcelService optBand4 txtWeight=3");
+  EXPECT_EQ(fnPrices(), "£0.00 £10.69 £6.70 £8.00 £0.00 £0.00 ");
+  EXPECT_EQ(Box("txtWeight").Text(), "3.000");
+}
+
+TEST_F(Postage, WhatCannotBeChosenIsGrey) {
+  struct Row {
+    int nQuantity;
+    const char* sScript;
+    const char* sUnitedKingdom;
+    const char* sUnitedStates;  ///< null where the script needs the other region's rows
+  };
+  const std::array aoRows = std::to_array<Row>({
+      {1, "chkUsePostage",
+       "txtProfit chkProofOfDelivery optBand2 optBand3 optBand4 chkSendInduvidually",
+       "txtProfit chkProofOfDelivery chkRecordedDelivery optBand2 optBand3 optBand4 "
+       "optParcelService optFirstClass optSecondClass chkSendInduvidually"},
+      {2, "chkProfit", "chkProofOfDelivery optBand2 optBand3 optBand4",
+       "chkProofOfDelivery chkRecordedDelivery optBand2 optBand3 optBand4 optParcelService "
+       "optFirstClass optSecondClass"},
+      {2, "chkProfit chkRecordedDelivery", "optBand2 optBand3 optBand4", nullptr},
+      {2, "chkProfit optParcelService", "chkProofOfDelivery chkRecordedDelivery", nullptr},
+      {2, "chkProfit optParcelService txtWeight=1.5",
+       "chkProofOfDelivery chkRecordedDelivery optSecondClass", nullptr},
+      {2, "chkProfit txtWeight=30",
+       "chkProofOfDelivery optBand2 optBand3 optBand4 optParcelService optSecondClass", nullptr},
+  });
+  for (const Row& oRow : aoRows) {
+    const char* const sGrey = ByRegion(oRow.sUnitedKingdom, oRow.sUnitedStates);
+    if (sGrey == nullptr) {
+      continue;
+    }
+    SCOPED_TRACE(oRow.sScript);
+    Start(oRow.nQuantity);
+    Play(oRow.sScript);
+    EXPECT_EQ(Grey(), sGrey);
+    EXPECT_EQ(Usable("txtProfit"), !IsGrey(Box("txtProfit")));
+    EXPECT_EQ(Usable("chkSendInduvidually"), oRow.nQuantity >= 2);
+  }
+}
+
+TEST_F(Postage, TheProfitIsKeptWhileItIsSwitchedOff) {
+  Play("chkProfit txtProfit=2.5 chkUsePostage");
+  const std::string sTotal = Total();
+  EXPECT_EQ(m_oModel.DoCalcProfit(), 2.5);
+  Play("chkProfit");
+  EXPECT_EQ(m_oModel.DoCalcProfit(), 0);
+  EXPECT_EQ(m_oModel.m_fProfit, 2.5);
+  EXPECT_EQ(Box("txtProfit").Text(), FormatMoney(2.5));
+  EXPECT_EQ(Total(), sTotal) << "the cost alone";
+}
+
+TEST_F(Postage, OneUnitCannotBeSentIndividually) {
+  clsPostage oModel;
+  oModel.m_bSendIndividually = true;
+  Start(1, oModel);
+  EXPECT_TRUE(m_oModel.m_bSendIndividually) << "until the section writes its boxes";
+  Play("chkUsePostage");
+  EXPECT_FALSE(m_oModel.m_bSendIndividually);
+}
+
+// The section writes the amount back into the box at each step.
+TEST_F(Postage, AnAmountCanBeSteppedAgainAndAgain) {
+  Play("optManual txtManual=8.5");
+  QLineEdit& oText = *Box("txtManual").TextBox();
+  oText.setFocus();
+  oText.setCursorPosition(2);
+  QTest::keyClick(&oText, Qt::Key_Up);
+  QTest::keyClick(&oText, Qt::Key_Up);
+  EXPECT_EQ(m_oModel.m_fManualPostage, 10.5);
+}
+
+TEST_F(Postage, TheScheduleNamesTheServiceAndTheBands) {
+  EXPECT_EQ(Caption("chkUsePostage"), ByRegion("Use Royal Mail Postage", "Use Postage"));
+  EXPECT_EQ(ControlOf(m_oSection, "chkShowUsePostage").Widget().accessibleName().toStdString(),
+            ByRegion("Show Use Royal Mail Postage", "Show Use Postage"));
+  EXPECT_EQ(Caption("optBand4"), ByRegion("up to £2500", "not offered"));
+  const std::string sBefore = Caption("chkUsePostage");
+  UseSchedule(Tiers("FirstClass", {}) + Tiers("SecondClass", {}) + Tiers("Parcel", {}) +
+              "InsuranceBandName2,some\n");
+  Start(1);
+  EXPECT_EQ(Caption("chkUsePostage"), sBefore);
+  EXPECT_EQ(Caption("optBand2"), "some");
+}
+
+TEST_F(Postage, AScheduleWithoutTheTiersLeavesTheSectionUsable) {
+  UseSchedule("");
+  ClickOn("chkUsePostage");
+  EXPECT_EQ(m_oChanged.count(), 0);
+  UseShippedSchedule();
+  ClickOn("chkUsePostage");
+  EXPECT_EQ(m_oChanged.count(), 1);
+  EXPECT_THROW(m_oSection.ApplyFeatures(m_oModel, nullptr), Failure);
+}
+
+TEST_F(Postage, EachShowBoxStandsForItsRowAlone) {
+  constexpr std::array kRows = std::to_array<RowOfBox>({
+      {"chkShowUsePostage", "chkUsePostage"},
+      {"chkShowSendInduvidually", "fraSendInduvidually"},
+      {"chkShowWeight", "lblWeight txtWeight", "UK"},
+      {"chkShowSecondClass", "optSecondClass lblSecondClass", "UK"},
+      {"chkShowFirstClass", "optFirstClass lblFirstClass", "UK"},
+      {"chkShowParcelService", "optParcelService lblParcelService", "UK"},
+      {"chkShowManual", "optManual txtManual"},
+      {"chkShowParcelInsurance", "ctlParcelInsurance lblParcelInsurance lblParcelInsuranceCost",
+       "UK"},
+      {"chkShowRecordedDelivery", "chkRecordedDelivery lblRecordedDelivery", "UK"},
+      {"chkShowProofOfDelivery", "chkProofOfDelivery lblProofOfDelivery", "UK"},
+      {"chkShowProfit", "chkProfit txtProfit"},
+      {"chkShowTotal", "lblTotal"},
+  });
+  ExpectRows(m_oSection, kRows);
+  constexpr std::array kBands = std::to_array<RowOfBox>({
+      {"chkShowBand1", "optBand1"},
+      {"chkShowBand2", "optBand2"},
+      {"chkShowBand3", "optBand3"},
+      {"chkShowBand4", "optBand4"},
+  });
+  ExpectRows(Insurance(), kBands);
+}
+
+TEST_F(Postage, TheRowsOfTheRegionArePacked) {
+  for (const bool bConfig : {false, true, false}) {
+    m_oSection.SetShowConfig(bConfig);
+    EXPECT_EQ(m_oSection.Width(), bConfig ? 4345 : 3470);
+    EXPECT_EQ(ControlOf(m_oSection, "optManual").Top(), ByRegion(2040, 920));
+    EXPECT_EQ(ControlOf(m_oSection, "chkProfit").Top(), ByRegion(4280, 1200));
+    EXPECT_EQ(ControlOf(m_oSection, "lblTotal").Top(), ByRegion(4560, 1480));
+    EXPECT_EQ(m_oSection.Height(), ByRegion(4815, 1735));
+    if (bConfig) {
+      EXPECT_EQ(ControlOf(m_oSection, "chkShowProfit").Top(), ByRegion(4280, 1200));
+    }
+  }
+}
+
+TEST_F(Postage, TheRowsBelowTheInsuranceFollowItsHeight) {
+  if (RegionCode() != 0) {
+    GTEST_SKIP() << "the row is the United Kingdom's";
+  }
+  m_oSection.SetShowConfig(true);
+  ClickOn("chkShowBand2 chkShowBand3 chkShowWeight");
+  m_oSection.SetShowConfig(false);
+  EXPECT_EQ(Insurance().Height(), 540);  // two rows, and the gap of 30 behind the first
+  EXPECT_EQ(ControlOf(m_oSection, "chkRecordedDelivery").Top(), 3720 - 280 - (1095 - 540));
+}
+
+TEST_F(Postage, NoCaptionIsClippedAndEveryInputHasAName) {
+  Play(ByRegion("optParcelService optBand4 chkUsePostage", "txtManual=100 chkUsePostage"));
+  m_oSection.SetShowConfig(true);
+  EXPECT_EQ(ClippedCaptionsIn(m_oSection), "");
+  EXPECT_EQ(UnnamedInputsIn(m_oSection), "");
+}
+
+}  // namespace
+}  // namespace quillet
