@@ -11,8 +11,8 @@
 #include <QThread>
 #include <QUrl>
 
-#include "platform/qt/Theme.h"
 #include "platform/UserData.h"
+#include "platform/qt/Theme.h"
 
 namespace quillet {
 namespace {
