@@ -78,10 +78,11 @@ void CheckTable(const clsPrices& oLinked, const clsPrices& oUnlinked, const std:
 
 void CheckTables(const clsPrices& oLinked, const clsPrices& oUnlinked) {
   constexpr std::size_t kMostTables = 20;
+  constexpr std::size_t kLongestKey = 100;  // longer ones are no key of any table
   std::size_t nTables = 0;
   for (std::size_t i = 0; i < oLinked.Table().Size() && nTables < kMostTables; ++i) {
     const std::string sKey(oLinked.Table().KeyAt(i));
-    if (sKey.ends_with("Ranges")) {
+    if (sKey.ends_with("Ranges") && sKey.size() <= kLongestKey) {
       CheckTable(oLinked, oUnlinked, sKey.substr(0, sKey.size() - 6));
       ++nTables;
     }
