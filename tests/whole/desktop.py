@@ -64,7 +64,7 @@ class Screen:
     def start(self, name="quillet", **environment):
         self.program = subprocess.Popen([PROGRAMS / name], cwd=self.home,
                                         env={**self.environment, **environment})
-        self.window("Quillet ..")
+        self.window("Quillet ..( - Default Configuration)?")
 
     def windows(self, title):
         return self.output("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split()
