@@ -109,6 +109,15 @@ TEST_F(PayPal, AModelReplacesAnyBandThatWasOnShow) {
   }
 }
 
+TEST_F(PayPal, OnlyTheModelShownLastIsWrittenTo) {
+  clsPayPal oNext;
+  m_oSection.ApplyFeatures(oNext, &m_oAuction.m_oOutlay);
+  ClickOn("optBand2 chkUsePayPal");
+  EXPECT_EQ(oNext.m_nBusinessBand, 2);
+  EXPECT_TRUE(oNext.m_bEnabled);
+  EXPECT_EQ(Fields(), "account 0, band 1");
+}
+
 TEST_F(PayPal, BandsAreCalledAsTheScheduleSays) {
   EXPECT_EQ(Caption("optBand2"), ByRegion("to £6000", "to $10000"));
   UseSchedule("BusinessRateBand1Name,small\n");

@@ -77,8 +77,8 @@ class PostageScripts : public Postage {
     for (const ScriptRow& oRow : aoRows) {
       SCOPED_TRACE(oRow.sScript);
       Start(oRow.nQuantity);
-      Play(oRow.sScript);
       Play("chkUsePostage");
+      Play(oRow.sScript);
       EXPECT_EQ(Fields(), oRow.sFields);
       EXPECT_EQ(Total(), std::string("Section Total ") + oRow.sTotal);
       EXPECT_TRUE(m_oModel.m_bDirty);
@@ -204,15 +204,6 @@ TEST_F(Postage, TheProfitIsKeptWhileItIsSwitchedOff) {
   EXPECT_EQ(Total(), sTotal) << "the cost alone";
 }
 
-TEST_F(Postage, OneUnitCannotBeSentIndividually) {
-  clsPostage oModel;
-  oModel.m_bSendIndividually = true;
-  Start(1, oModel);
-  EXPECT_TRUE(m_oModel.m_bSendIndividually) << "until the section writes its boxes";
-  Play("chkUsePostage");
-  EXPECT_FALSE(m_oModel.m_bSendIndividually);
-}
-
 // The section writes the amount back into the box at each step.
 TEST_F(Postage, AnAmountCanBeSteppedAgainAndAgain) {
   Play("optManual txtManual=8.5");
@@ -273,9 +264,18 @@ TEST_F(Postage, EachShowBoxStandsForItsRowAlone) {
   ExpectRows(Insurance(), kBands);
 }
 
-TEST_F(Postage, TheRowsOfTheRegionArePacked) {
+TEST_F(Postage, TheRowsOfTheRegionArePackedFromTheirDesignPlaces) {
+  m_oSection.SetShowConfig(true);
+  ClickOn("chkShowManual");
+  m_oSection.SetShowConfig(false);
+  EXPECT_EQ(ControlOf(m_oSection, "lblTotal").Top(), ByRegion(4280, 1200));
+  m_oSection.hide();
+  m_oSection.show();
+  m_oSection.SetShowConfig(true);
+  ClickOn("chkShowManual");
   for (const bool bConfig : {false, true, false}) {
     m_oSection.SetShowConfig(bConfig);
+    EXPECT_EQ(ControlOf(m_oSection, "chkShowWeight").Visible(), ByRegion(true, false));
     EXPECT_EQ(m_oSection.Width(), bConfig ? 4345 : 3470);
     EXPECT_EQ(ControlOf(m_oSection, "optManual").Top(), ByRegion(2040, 920));
     EXPECT_EQ(ControlOf(m_oSection, "chkProfit").Top(), ByRegion(4280, 1200));
