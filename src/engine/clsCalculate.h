@@ -18,6 +18,7 @@ class clsCalculate {
   explicit clsCalculate(std::string sName) : m_sName(std::move(sName)) {}
   clsCalculate(const clsCalculate&) = delete;  // the models keep references to one another
   clsCalculate& operator=(const clsCalculate&) = delete;
+  ~clsCalculate() = default;
 
   void SetDirty(bool bDirty);
   /// True if any model has changed since last saved.
