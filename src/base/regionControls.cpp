@@ -50,10 +50,11 @@ constexpr std::array<RegionalControl, 25> kControls = {{
 }  // namespace
 
 bool RegionAllowsControl(std::string_view sName) {
-  const auto oFound = std::find_if(kControls.begin(), kControls.end(), [&](const auto& oControl) {
-    return oControl.bWhole ? sName == oControl.sText
-                           : sName.find(oControl.sText) != std::string_view::npos;
-  });
+  const auto* const oFound =
+      std::find_if(kControls.begin(), kControls.end(), [&](const auto& oControl) {
+        return oControl.bWhole ? sName == oControl.sText
+                               : sName.find(oControl.sText) != std::string_view::npos;
+      });
   return oFound == kControls.end() || oFound->nRegion == RegionCode();
 }
 

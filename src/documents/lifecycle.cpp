@@ -147,8 +147,11 @@ bool DocumentLifecycle::PromptBeforeExit() {
 
 std::string DocumentLifecycle::NextNewAuctionName(const std::string& sFolder) {
   for (std::int32_t n = 0;; ++n) {
-    const std::string sName =
-        "NewAuction" + (n > 0 ? std::to_string(n) : std::string()) + kAuctionExtension;
+    std::string sName = "NewAuction";
+    if (n > 0) {
+      sName += std::to_string(n);
+    }
+    sName += kAuctionExtension;
     if (!FileExists(NativePath(sFolder + "\\" + sName))) {
       return sName;
     }
