@@ -49,6 +49,6 @@ build() {
     step "configuring $preset" cmake --preset "$preset" ${WERROR:+-DQUILLET_WERROR=ON}
   fi
   ninja -C "$folder" -n "$@" 2>/dev/null | grep -q 'no work to do' && return
-  say "Building ($preset)"
+  if [ -t 2 ]; then say "Building ($preset)" >&2; fi
   step "building $preset" ninja -C "$folder" "$@"
 }
