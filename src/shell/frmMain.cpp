@@ -74,6 +74,13 @@ ShockwaveFlash* MakeButton(const ButtonDesign& oButton, const char* sName, QWidg
   return pButton;
 }
 
+void SetGround(QWidget& oWidget, Ink eInk) {
+  QPalette oPalette = oWidget.palette();
+  oPalette.setColor(QPalette::Window, InkColour(eInk));
+  oWidget.setPalette(oPalette);
+  oWidget.setAutoFillBackground(true);
+}
+
 void PlaceInTwips(QWidget& oWidget, int nLeft, int nTop, int nWidth, int nHeight) {
   oWidget.setGeometry(Pixels(nLeft), Pixels(nTop), Pixels(nWidth), Pixels(nHeight));
 }
@@ -90,6 +97,9 @@ frmMain::frmMain()
   setObjectName("frmMain");
   m_pLhs->SetName("fraLHS");
   m_pRhs->SetName("fraRHS");
+  SetGround(*this, Ink::Hairline);  // a rule where it shows between the two frames
+  SetGround(*m_pLhs, Ink::Column);
+  SetGround(*m_pRhs, Ink::Ground);
   m_pCalculator->SetName("ctlCalculator1");
   m_pCalculator->SetVisible(false);
   m_pWizard->SetName("ctlWizard1");

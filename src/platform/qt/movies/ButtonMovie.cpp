@@ -22,6 +22,14 @@ constexpr double kIconStroke = 1.8;
 constexpr std::array<const char*, 7> kCaptions = {"New",  "Calculator", "Wizard", "Save",
                                                   "Load", "Configure",  "About"};
 
+void DrawFocus(QPainter& oPainter) {
+  const double fInset = kFocusWidth / 2.0;
+  oPainter.setPen(QPen(InkColour(Ink::Accent), kFocusWidth));
+  oPainter.setBrush(Qt::NoBrush);
+  oPainter.drawRoundedRect(kTile.adjusted(fInset, fInset, -fInset, -fInset), kTileRadius - fInset,
+                           kTileRadius - fInset);
+}
+
 }  // namespace
 
 ButtonMovie::ButtonMovie(Icon eIcon, QWidget& oStage, SendCommand oSend)
@@ -51,13 +59,13 @@ void ButtonMovie::keyPressEvent(QKeyEvent* pEvent) {
 
 ButtonMovie::Look ButtonMovie::LookNow() const {
   if (!isEnabled()) {
-    return {Ink::GreyText, Ink::GreyText, Ink::Column};
+    return {Ink::GreyText, Ink::GreyText, std::nullopt};
   }
   const Ink eCaption = m_bCurrent || isDown() || underMouse() ? Ink::Text : Ink::ColumnText;
-  const Ink eTile = isDown()       ? Ink::Hairline
-                    : m_bCurrent   ? Ink::Hover
-                    : underMouse() ? Ink::Panel
-                                   : Ink::Column;
+  const std::optional<Ink> eTile = isDown()       ? std::optional(Ink::Hairline)
+                                   : m_bCurrent   ? std::optional(Ink::Hover)
+                                   : underMouse() ? std::optional(Ink::Panel)
+                                                  : std::nullopt;
   return {m_bCurrent ? Ink::Accent : eCaption, eCaption, eTile};
 }
 
@@ -69,23 +77,17 @@ void ButtonMovie::paintEvent(QPaintEvent* /*pEvent*/) {
   oPainter.translate((width() - kSize * fScale) / 2.0, (height() - kSize * fScale) / 2.0);
   oPainter.save();
   oPainter.scale(fScale, fScale);
-  DrawTile(oPainter, oLook.eTile);
+  if (oLook.eTile) {
+    oPainter.setPen(Qt::NoPen);
+    oPainter.setBrush(InkColour(*oLook.eTile));
+    oPainter.drawRoundedRect(kTile, kTileRadius, kTileRadius);
+  }
+  if (hasFocus() && m_bShowFocus) {
+    DrawFocus(oPainter);
+  }
   DrawIcon(oPainter, m_eIcon, kIcon, InkColour(oLook.eIcon), kIconStroke);
   oPainter.restore();
   DrawCaption(oPainter, oLook.eCaption, fScale);
-}
-
-void ButtonMovie::DrawTile(QPainter& oPainter, Ink eTile) const {
-  oPainter.setPen(Qt::NoPen);
-  oPainter.setBrush(InkColour(eTile));
-  oPainter.drawRoundedRect(kTile, kTileRadius, kTileRadius);
-  if (hasFocus() && m_bShowFocus) {
-    const double fInset = kFocusWidth / 2.0;
-    oPainter.setPen(QPen(InkColour(Ink::Accent), kFocusWidth));
-    oPainter.setBrush(Qt::NoBrush);
-    oPainter.drawRoundedRect(kTile.adjusted(fInset, fInset, -fInset, -fInset), kTileRadius - fInset,
-                             kTileRadius - fInset);
-  }
 }
 
 /// Not within the painter's scale, since letters are fitted to the pixels of their own size.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QPushButton>
+#include <optional>
 
 #include "platform/qt/Theme.h"
 #include "platform/qt/movies/icons.h"
@@ -27,11 +28,10 @@ class ButtonMovie : public QPushButton, public Movie {
   struct Look {
     Ink eIcon;
     Ink eCaption;
-    Ink eTile;
+    std::optional<Ink> eTile;  ///< behind both
   };
 
   [[nodiscard]] Look LookNow() const;
-  void DrawTile(QPainter& oPainter, Ink eTile) const;
   void DrawCaption(QPainter& oPainter, Ink eCaption, double fScale) const;
 
   Icon m_eIcon;
