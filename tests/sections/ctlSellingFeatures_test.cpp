@@ -179,7 +179,7 @@ TEST_F(SellingFeatures, ABoxThatIsStruckOutIsUntickedEvenIfItEndsOpen) {
 TEST_F(SellingFeatures, ThePicturePackBoundsTheNumberOfPictures) {
   struct Row {
     const char* sName;
-    std::initializer_list<std::array<const char*, 3>> aoTiers;
+    std::vector<std::array<const char*, 3>> aoTiers;
     const char* sTyped;
     int nPictures;
   };

@@ -1,9 +1,11 @@
 // Fee schedules for tests, and how a Single prints.
 #pragma once
 
+#include <array>
 #include <memory>
 #include <ostream>
 #include <string>
+#include <vector>
 
 #include "base/Single.h"
 #include "base/conversions.h"
@@ -33,7 +35,7 @@ inline void UseShippedSchedule() {
 
 /// The lines of a tier table; an end of -1 is no upper limit.
 inline std::string Tiers(const std::string& sName,
-                         std::initializer_list<std::array<const char*, 3>> aoTiers) {
+                         const std::vector<std::array<const char*, 3>>& aoTiers) {
   std::string sLines = sName + "Ranges," + std::to_string(aoTiers.size()) + "\n";
   int nTier = 0;
   for (const auto& [sStart, sEnd, sValue] : aoTiers) {
