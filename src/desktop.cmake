@@ -45,7 +45,7 @@ add_library(quillet_desktop STATIC
   shell/zoomSteps.cpp
   )
 set_target_properties(quillet_desktop PROPERTIES AUTOMOC ON AUTORCC ON)
-target_link_libraries(quillet_desktop PUBLIC quillet_core Qt6::Core Qt6::Gui Qt6::Widgets)
+target_link_libraries(quillet_desktop PUBLIC quillet_online Qt6::Core Qt6::Gui Qt6::Widgets)
 
 include(${PROJECT_SOURCE_DIR}/cmake/Fonts.cmake)
 quillet_embed_fonts(quillet_desktop)

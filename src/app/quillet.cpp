@@ -6,6 +6,7 @@
 #include "base/basMain.h"
 #include "base/clsRegistryAccess.h"
 #include "base/version.h"
+#include "platform/Internet.h"
 #include "platform/qt/QtHost.h"
 #include "platform/qt/QtSettingsHive.h"
 #include "platform/qt/Theme.h"
@@ -24,7 +25,8 @@ int main(int nArguments, char** asArguments) {
   SetHost(oHost);
   QtSettingsHive oSettings;
   SetRegistryHive(oSettings);
-  DesktopApplication oApplication;
+  const std::unique_ptr<Internet> oInternet = PlatformInternet();
+  DesktopApplication oApplication(*oInternet);
   SetApplication(oApplication);
   Main();
 

@@ -42,6 +42,9 @@ class clsRegistryAccess {
   void DeleteValue(HiveRoot hKey, const std::string& sSection, const std::string& sSettingName,
                    bool bAbsoluteSection) const;
 
+  /// What has been stored so far outlives a crash.
+  void Flush() const { m_oHive->Flush(); }
+
   // The settings of the one table (Settings.h), by their row.
 
   /// The stored text or the row's default.

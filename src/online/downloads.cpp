@@ -122,6 +122,7 @@ void Downloads::SetUpdateSkip(bool bClear) {
   const Setting& oMark = settings::kFtpSkipFlag;
   if (!bClear) {
     Registry().Set(oMark, DayNumberText(m_fnNow()));
+    Registry().Flush();  // an attempt that takes the program down with it has been one, too
   } else if (IsUpdateSkipped()) {
     Registry().DeleteValue(oMark.eRoot, oMark.sSection, oMark.sName, false);
   }

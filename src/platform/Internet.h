@@ -4,6 +4,7 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 
 namespace quillet {
@@ -85,5 +86,8 @@ class Internet {
   /// Closes what was opened, with all that was opened from it. 0 is allowed.
   virtual void Close(InternetHandle hHandle) = 0;
 };
+
+/// The platform's own client.
+[[nodiscard]] std::unique_ptr<Internet> PlatformInternet();
 
 }  // namespace quillet

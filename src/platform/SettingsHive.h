@@ -28,6 +28,9 @@ class SettingsHive {
 
   /// Removes a value; nothing happens if there is none.
   virtual void Delete(HiveRoot eRoot, const std::string& sPath, const std::string& sName) = 0;
+
+  /// The changes made so far outlive the process from here on, however it ends.
+  virtual void Flush() = 0;
 };
 
 }  // namespace quillet

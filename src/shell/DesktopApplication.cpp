@@ -43,10 +43,6 @@ std::unique_ptr<SplashWindow> DesktopApplication::ShowSplash() {
   return std::make_unique<NoSplash>();
 }
 
-bool DesktopApplication::OpenConnection() {
-  return false;
-}
-
 std::unique_ptr<MainWindow> DesktopApplication::CreateMainWindow() {
   return std::make_unique<MainWindowHandle>();
 }

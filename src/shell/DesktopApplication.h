@@ -2,18 +2,25 @@
 #pragma once
 
 #include "base/Application.h"
+#include "online/downloads.h"
 
 namespace quillet {
 
 class DesktopApplication : public Application {
  public:
+  /// Updates itself through `oInternet`, which isn't owned.
+  explicit DesktopApplication(Internet& oInternet) : m_oDownloads(oInternet) {}
+
   [[nodiscard]] std::unique_ptr<SplashWindow> ShowSplash() override;
-  [[nodiscard]] bool OpenConnection() override;
-  void FetchActions() override {}
-  void FetchUpdateFile() override {}
-  void FetchAboutText() override {}
-  void CloseConnection() override {}
+  [[nodiscard]] bool OpenConnection() override { return m_oDownloads.OpenConnection(); }
+  void FetchActions() override { m_oDownloads.FetchActions(); }
+  void FetchUpdateFile() override { m_oDownloads.FetchUpdateFile(); }
+  void FetchAboutText() override { m_oDownloads.FetchAboutText(); }
+  void CloseConnection() override { m_oDownloads.CloseConnection(); }
   [[nodiscard]] std::unique_ptr<MainWindow> CreateMainWindow() override;
+
+ private:
+  Downloads m_oDownloads;
 };
 
 }  // namespace quillet

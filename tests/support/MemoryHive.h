@@ -30,6 +30,7 @@ class MemoryHive : public SettingsHive {
       asValues.erase({eRoot, sPath, sName});
     }
   }
+  void Flush() override {}
   void Clear() {
     asValues.clear();
     bWritable = true;

@@ -184,4 +184,8 @@ void CurlInternet::Close(InternetHandle hHandle) {
   }
 }
 
+std::unique_ptr<Internet> PlatformInternet() {
+  return std::make_unique<CurlInternet>();
+}
+
 }  // namespace quillet

@@ -144,13 +144,14 @@ QtSettingsHive::QtSettingsHive(std::unique_ptr<Store> oUser, std::unique_ptr<Sto
     : m_oUser(std::move(oUser)), m_oMachine(std::move(oMachine)) {
   m_oGathering.setSingleShot(true);
   m_oGathering.setInterval(kGatherMilliseconds);
-  m_oGathering.callOnTimeout([this] {
-    m_oUser->Flush();
-    m_oMachine->Flush();
-  });
+  m_oGathering.callOnTimeout([this] { Flush(); });
 }
 
 QtSettingsHive::~QtSettingsHive() {
+  Flush();
+}
+
+void QtSettingsHive::Flush() {
   m_oUser->Flush();
   m_oMachine->Flush();
 }

@@ -15,10 +15,10 @@ namespace quillet {
 /// Write answers false, the file stays whole, and reading gives what it holds.
 ///
 /// Replacing a file takes longer than a drag may pause, so changes are gathered: they are in the
-/// file kGatherMilliseconds later if the event loop runs, and at the latest when the hive is
-/// destroyed. Write tries beforehand whether that will work; if the disk fills up in between, the
-/// gathered changes are lost. Reading sees them at once, and always what other programs have
-/// stored.
+/// file upon Flush, kGatherMilliseconds later if the event loop runs, and at the latest when the
+/// hive is destroyed. Write tries beforehand whether that will work; if the disk fills up in
+/// between, the gathered changes are lost. Reading sees them at once, and always what other
+/// programs have stored.
 ///
 /// Made after the application object, whose event loop it uses.
 class QtSettingsHive : public SettingsHive {
@@ -38,6 +38,7 @@ class QtSettingsHive : public SettingsHive {
   bool Write(HiveRoot eRoot, const std::string& sPath, const std::string& sName,
              const std::string& sValue) override;
   void Delete(HiveRoot eRoot, const std::string& sPath, const std::string& sName) override;
+  void Flush() override;
 
  private:
   class Store;

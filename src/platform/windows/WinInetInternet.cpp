@@ -295,4 +295,8 @@ void WinInetInternet::Close(InternetHandle hHandle) {
   m_aoItems.erase(iItem);
 }
 
+std::unique_ptr<Internet> PlatformInternet() {
+  return std::make_unique<WinInetInternet>();
+}
+
 }  // namespace quillet
