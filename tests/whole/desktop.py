@@ -24,9 +24,11 @@ def wait_for(what, condition):
 
 
 class Screen:
-    """Xvfb on a number that is free, with openbox; and a home folder of its own."""
+    """Xvfb on a number that is free, with openbox; and a home folder of its own. What goes wrong
+    while it is open leaves a picture."""
 
-    def __init__(self, size="1920x1080"):
+    def __init__(self, name="screen", size="1920x1080"):
+        self.name = name
         self.home = pathlib.Path(tempfile.mkdtemp(prefix="quillet-home-"))
         (self.home / "Documents").mkdir()
         read, write = os.pipe()
@@ -47,6 +49,14 @@ class Screen:
         wait_for("the window manager", lambda: "_NET_SUPPORTING_WM_CHECK(WINDOW)" in self.output(
             "xprop", "-root", "_NET_SUPPORTING_WM_CHECK"))
         self.program = None
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, kind, error, trace):
+        if error:
+            print("picture:", self.keep_picture(self.name))
+        self.close()
 
     def output(self, *command):
         return subprocess.run(command, env=self.environment, capture_output=True, text=True,

@@ -1,23 +1,23 @@
 #!/usr/bin/env python3
 """The whole desktop program on a screen with a window manager, under real keys and mouse events."""
 
+import functools
 import re
-import sys
 import unittest
 
 from desktop import Screen, wait_for
 
 
+def on_a_screen(test):
+    """Runs a test on a screen of its own, which keeps a picture if the test fails."""
+    @functools.wraps(test)
+    def run(self):
+        with Screen(test.__name__) as self.screen:
+            test(self)
+    return run
+
+
 class WholeProgram(unittest.TestCase):
-    def setUp(self):
-        self.screen = Screen()
-        self.addCleanup(self.screen.close)
-
-    def tearDown(self):
-        """A failure leaves a picture."""
-        if sys.exc_info()[0] or any(error for _, error in self._outcome.errors):
-            print("picture:", self.screen.keep_picture(self.id().split(".")[-1]))
-
     def enter_camera(self):
         """Outlay 40, starting price 1, end price 149, quantity 1: from the first box on."""
         screen = self.screen
@@ -35,6 +35,7 @@ class WholeProgram(unittest.TestCase):
         screen.keys("Return")
         screen.window(f"Quillet US - {name.removesuffix('.qlt')}")
 
+    @on_a_screen
     def test_first_start_enters_saves_and_is_asked_before_leaving(self):
         screen = self.screen
         screen.start()
@@ -58,6 +59,7 @@ class WholeProgram(unittest.TestCase):
         self.assertEqual(screen.gone(), 0)
         self.assertEqual((screen.home / "Documents/camera.qlt").read_text(encoding="utf-8"), saved)
 
+    @on_a_screen
     def test_second_start_loads_what_the_first_has_saved(self):
         screen = self.screen
         screen.start()
@@ -77,6 +79,7 @@ class WholeProgram(unittest.TestCase):
         documents = screen.home / "Documents"
         self.assertEqual((documents / "again.qlt").read_text(), (documents / "camera.qlt").read_text())
 
+    @on_a_screen
     def test_a_dragged_section_stays_where_it_was_put(self):
         screen = self.screen
         screen.start()
