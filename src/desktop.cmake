@@ -2,12 +2,15 @@
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets)
 
 add_library(quillet_desktop STATIC
+  platform/Sound.cpp
   platform/qt/QtHost.cpp
   platform/qt/QtSettingsHive.cpp
   platform/qt/ShockwaveFlash.cpp
   platform/qt/Theme.cpp
   platform/qt/ThemeStyle.cpp
   platform/qt/movies/ButtonMovie.cpp
+  platform/qt/movies/SplashMovie.cpp
+  platform/qt/movies/drawing.cpp
   platform/qt/movies/icons.cpp
   platform/qt/movies/movies.cpp
   sections/AuctionOptionsPanel.cpp
@@ -42,6 +45,7 @@ add_library(quillet_desktop STATIC
   shell/ctlWizard.cpp
   shell/formPosition.cpp
   shell/frmMain.cpp
+  shell/frmSplash.cpp
   shell/zoomSteps.cpp
   )
 set_target_properties(quillet_desktop PROPERTIES AUTOMOC ON AUTORCC ON)
@@ -52,3 +56,25 @@ quillet_embed_fonts(quillet_desktop)
 file(GLOB quillet_icons CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/graphics/icons/*.png)
 qt_add_resources(quillet_desktop quillet_icons PREFIX /
                  BASE ${PROJECT_SOURCE_DIR}/graphics FILES ${quillet_icons})
+file(GLOB quillet_tunes CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/data/tunes/*.wav)
+qt_add_resources(quillet_desktop quillet_tunes PREFIX /
+                 BASE ${PROJECT_SOURCE_DIR}/data FILES ${quillet_tunes})
+
+# Sound: the system's own on Windows, elsewhere a library that is only made where there is something
+# to make it from.
+if(WIN32)
+  target_sources(quillet_desktop PRIVATE platform/windows/PlatformSound.cpp)
+  target_link_libraries(quillet_desktop PUBLIC winmm)
+else()
+  target_sources(quillet_desktop PRIVATE platform/qt/PlatformSound.cpp)
+  find_package(Qt6 QUIET OPTIONAL_COMPONENTS Multimedia)
+  if(TARGET Qt6::Multimedia)
+    add_library(quillet_sound MODULE platform/qt/soundLibrary.cpp)
+    target_include_directories(quillet_sound PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+    target_link_libraries(quillet_sound PRIVATE quillet_flags Qt6::Multimedia)
+    set_target_properties(quillet_sound PROPERTIES
+      PREFIX "" OUTPUT_NAME quillet-sound
+      LIBRARY_OUTPUT_DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+    add_dependencies(quillet_desktop quillet_sound)
+  endif()
+endif()

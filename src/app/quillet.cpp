@@ -7,6 +7,7 @@
 #include "base/clsRegistryAccess.h"
 #include "base/version.h"
 #include "platform/Internet.h"
+#include "platform/Sound.h"
 #include "platform/qt/QtHost.h"
 #include "platform/qt/QtSettingsHive.h"
 #include "platform/qt/Theme.h"
@@ -26,6 +27,8 @@ int main(int nArguments, char** asArguments) {
   QtSettingsHive oSettings;
   SetRegistryHive(oSettings);
   const std::unique_ptr<Internet> oInternet = PlatformInternet();
+  const std::unique_ptr<Sound> oSound = PlatformSound();
+  SetSound(oSound.get());
   DesktopApplication oApplication(*oInternet);
   SetApplication(oApplication);
   Main();

@@ -3,17 +3,10 @@
 #include <QPointer>
 
 #include "shell/frmMain.h"
+#include "shell/frmSplash.h"
 
 namespace quillet {
 namespace {
-
-/// There is nothing to wait for where no movie plays.
-class NoSplash : public SplashWindow {
- public:
-  [[nodiscard]] bool LoadComplete() const override { return true; }
-  [[nodiscard]] bool MovieComplete() const override { return true; }
-  void Hide() override {}
-};
 
 /// Holds the window, which is deleted only when the event loop has it in hand.
 class MainWindowHandle : public MainWindow {
@@ -40,7 +33,10 @@ class MainWindowHandle : public MainWindow {
 }  // namespace
 
 std::unique_ptr<SplashWindow> DesktopApplication::ShowSplash() {
-  return std::make_unique<NoSplash>();
+  auto pSplash = std::make_unique<frmSplash>();
+  pSplash->show();
+  pSplash->activateWindow();  // so that a key reaches it
+  return pSplash;
 }
 
 std::unique_ptr<MainWindow> DesktopApplication::CreateMainWindow() {

@@ -12,7 +12,6 @@
 #include "base/basCommon.h"
 #include "base/basError.h"
 #include "base/clsRegistryAccess.h"
-#include "base/conversions.h"
 #include "base/failure.h"
 #include "platform/Files.h"
 #include "platform/qt/ShockwaveFlash.h"
@@ -151,9 +150,9 @@ void frmMain::Show() {
 }
 
 void frmMain::Form_Load() {
-  const auto nZoom = ToLong(Registry().Get(settings::kZoom));
-  m_bFirstStart = !nZoom || !IsZoomStep(*nZoom);
-  SetZoom(m_bFirstStart ? 1.0 : *nZoom / 100.0);
+  const std::optional<int> nZoom = StoredZoom();
+  m_bFirstStart = !nZoom;
+  SetZoom(nZoom.value_or(100) / 100.0);
   m_lMinWidth = kWindowWidth;
   m_lMinHeight = kWindowHeight;
   m_lAboutBottomGap = m_lMinHeight - kAboutTop;

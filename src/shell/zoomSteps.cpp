@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <array>
 
+#include "base/clsRegistryAccess.h"
+#include "base/conversions.h"
+
 namespace quillet {
 namespace {
 
@@ -26,8 +29,10 @@ int LargestFittingZoom(double fWidth, double fHeight, double fRoomWidth, double 
   return pFits == kSteps.rend() ? kSteps.front() : *pFits;
 }
 
-bool IsZoomStep(int nPercent) {
-  return std::find(kSteps.begin(), kSteps.end(), nPercent) != kSteps.end();
+std::optional<int> StoredZoom() {
+  const auto nStored = ToLong(Registry().Get(settings::kZoom));
+  const bool bStep = nStored && std::find(kSteps.begin(), kSteps.end(), *nStored) != kSteps.end();
+  return bStep ? std::optional<int>(*nStored) : std::nullopt;
 }
 
 }  // namespace quillet

@@ -1,6 +1,8 @@
 // The sizes at which the interface can be drawn.
 #pragma once
 
+#include <optional>
+
 namespace quillet {
 
 /// The step above or below a zoom, both in percent; the last one at either end.
@@ -11,7 +13,7 @@ namespace quillet {
 [[nodiscard]] int LargestFittingZoom(double fWidth, double fHeight, double fRoomWidth,
                                      double fRoomHeight);
 
-/// True for a percentage that is one of the steps.
-[[nodiscard]] bool IsZoomStep(int nPercent);
+/// The step that the settings hold, in percent; nothing if there is none.
+[[nodiscard]] std::optional<int> StoredZoom();
 
 }  // namespace quillet

@@ -28,6 +28,12 @@ void ShockwaveFlash::SetMovie(const QString& sPath) {
   }
 }
 
+void ShockwaveFlash::Play() {
+  if (m_oMovie != nullptr) {
+    m_oMovie->Play();
+  }
+}
+
 void ShockwaveFlash::SetCurrent(bool bCurrent) {
   if (m_oMovie != nullptr) {
     m_oMovie->SetCurrent(bCurrent);

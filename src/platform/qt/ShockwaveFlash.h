@@ -17,6 +17,9 @@ class ShockwaveFlash : public QWidget {
   /// before. Only the file's name counts. A movie that isn't known shows and sends nothing.
   void SetMovie(const QString& sPath);
 
+  /// Starts a movie that waits for it; the others play from the beginning.
+  void Play();
+
   /// For a button's movie: whether its view is the one on show.
   void SetCurrent(bool bCurrent);
 

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/qt/movies/ButtonMovie.h"
+#include "platform/qt/movies/SplashMovie.h"
 
 namespace quillet {
 namespace {
@@ -12,6 +13,11 @@ using Maker = Movie* (*)(const QString& sParameters, QWidget& oStage, SendComman
 template <Icon eIcon>
 Movie* MakeButton(const QString& /*sParameters*/, QWidget& oStage, SendCommand oSend) {
   return new ButtonMovie(eIcon, oStage, std::move(oSend));
+}
+
+template <typename Kind>
+Movie* MakeWithParameters(const QString& sParameters, QWidget& oStage, SendCommand oSend) {
+  return new Kind(sParameters, oStage, std::move(oSend));
 }
 
 constexpr struct {
@@ -25,6 +31,7 @@ constexpr struct {
     {"Load_button.swf", MakeButton<Icon::Load>},
     {"Config_button.swf", MakeButton<Icon::Configure>},
     {"About_button.swf", MakeButton<Icon::About>},
+    {"Splash.swf", MakeWithParameters<SplashMovie>},
 };
 
 }  // namespace

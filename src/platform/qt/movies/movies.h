@@ -21,6 +21,8 @@ class Movie {
   virtual ~Movie() = default;
 
   [[nodiscard]] virtual QWidget& Widget() = 0;
+  /// For a movie that waits to be played.
+  virtual void Play() {}
   /// For a button: whether its view is the one on show.
   virtual void SetCurrent(bool /*bCurrent*/) {}
 };

@@ -1,0 +1,34 @@
+// The window that plays a movie while the program starts.
+#pragma once
+
+#include <QWidget>
+
+#include "base/Application.h"
+
+namespace quillet {
+
+class ShockwaveFlash;
+
+/// Borderless, in the middle of the screen and not in the task bar. Its movie is playing when it is
+/// made; it isn't shown yet.
+class frmSplash : public QWidget, public SplashWindow {
+  Q_OBJECT
+
+ public:
+  frmSplash();
+
+  [[nodiscard]] bool LoadComplete() const override { return m_bLoadComplete; }
+  [[nodiscard]] bool MovieComplete() const override { return m_bMovieComplete; }
+  void Hide() override { hide(); }
+
+ private:
+  void Form_Load();
+  void FitToScreen();
+  void ShockwaveFlash1_FSCommand(const QString& sCommand);
+
+  ShockwaveFlash* m_pShockwaveFlash1;
+  bool m_bLoadComplete = false;
+  bool m_bMovieComplete = false;
+};
+
+}  // namespace quillet
