@@ -203,7 +203,11 @@ void frmMain::FitFirstStart() {
 }
 
 void frmMain::ClickButton(int nIndex) {
-  CommitTyping();
+  if (nIndex == kButtonSave) {
+    CommitTyping();
+  } else {
+    LeaveBox();
+  }
   switch (nIndex) {
     case kButtonNew:
       m_oDocuments.NewAuction();
@@ -338,6 +342,15 @@ void frmMain::CommitTyping() {
   if (pText != nullptr && pText->isModified()) {
     pText->clearFocus();
     pText->setFocus();
+  }
+}
+
+/// A box that is left writes into the auction on view. So it is left before a command that may bring
+/// another one, which would else be changed by it.
+void frmMain::LeaveBox() {
+  if (qobject_cast<QLineEdit*>(QApplication::focusWidget()) != nullptr) {
+    QWidget& oView = m_pWizard->Visible() ? m_pWizard->Widget() : m_pCalculator->Widget();
+    oView.setFocus();
   }
 }
 

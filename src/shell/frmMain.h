@@ -65,6 +65,7 @@ class frmMain : public QWidget, private DocumentView {
   void PushDocument(bool bConfigMode, clsCalculate& oDocument, const std::string& sTitle);
   void MarkCurrent(int nIndex);
   void CommitTyping();
+  void LeaveBox();
   void FitFirstStart();
   void Rescale();
 

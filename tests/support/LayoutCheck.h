@@ -35,18 +35,19 @@ inline std::vector<PackedControl> Shown(const clsControlLocator& oLocator) {
 /// Every control is shown or hidden once, in the design's order; a row lies on one top, and no row
 /// on the one before it, but for as much as neighbouring rows of the design overlap. Where a row's
 /// last control is hidden behind one that is shown, the next row may lie on top of it.
-inline void CheckLayout(const clsControlLocator& oLocator, std::vector<DesignedControl> aoDesign) {
+inline void CheckRows(const std::vector<PackedControl>& aoShown,
+                      const std::vector<std::string>& asHidden,
+                      std::vector<DesignedControl> aoDesign) {
   std::stable_sort(aoDesign.begin(), aoDesign.end(),
                    [](const auto& a, const auto& b) { return a.nTop < b.nTop; });
   std::map<std::string, int> anSeen;
-  std::string sHidden;
-  for (int i = 0; oLocator.GetExcludedControl(i, sHidden) && i < oLocator.ExcludedCount(); ++i) {
+  for (const std::string& sHidden : asHidden) {
     ++anSeen[sHidden];
   }
   auto oAt = aoDesign.begin();
   const DesignedControl* pBefore = nullptr;
   int nTopBefore = 0;
-  for (const auto& [sName, nTop] : Shown(oLocator)) {
+  for (const auto& [sName, nTop] : aoShown) {
     ++anSeen[sName];
     oAt = std::find_if(oAt, aoDesign.end(), [&](const auto& o) { return o.sName == sName; });
     ASSERT_NE(oAt, aoDesign.end()) << sName << " is out of order";
@@ -62,6 +63,15 @@ inline void CheckLayout(const clsControlLocator& oLocator, std::vector<DesignedC
   for (const DesignedControl& oControl : aoDesign) {
     EXPECT_EQ(anSeen[oControl.sName], 1) << oControl.sName;
   }
+}
+
+inline void CheckLayout(const clsControlLocator& oLocator,
+                        const std::vector<DesignedControl>& aoDesign) {
+  std::vector<std::string> asHidden(static_cast<std::size_t>(oLocator.ExcludedCount()));
+  for (int i = 0; i < oLocator.ExcludedCount(); ++i) {
+    EXPECT_TRUE(oLocator.GetExcludedControl(i, asHidden[static_cast<std::size_t>(i)]));
+  }
+  CheckRows(Shown(oLocator), asHidden, aoDesign);
 }
 
 }  // namespace quillet

@@ -1,0 +1,222 @@
+#include "support/Walk.h"
+
+#include <QApplication>
+#include <QTest>
+#include <algorithm>
+#include <filesystem>
+#include <numeric>
+
+#include "sections/controlHelpers.h"
+#include "support/PanelScript.h"
+
+namespace quillet {
+namespace {
+
+constexpr std::size_t kTraced = 20;
+
+/// A click or a key reaches it: it is on view, and neither it nor what it stands in is disabled.
+bool IsReachable(const Control& oControl) {
+  return oControl.Widget().isVisible() && oControl.Widget().isEnabled();
+}
+
+std::vector<std::string> Samples() {
+  std::vector<std::string> asSamples;
+  const std::string sFolder = std::string(QUILLET_SOURCE_DIR) + "/data/samples";
+  for (const auto& oEntry : std::filesystem::directory_iterator(sFolder)) {
+    asSamples.push_back(oEntry.path().string());
+  }
+  std::sort(asSamples.begin(), asSamples.end());
+  return asSamples;
+}
+
+}  // namespace
+
+const std::vector<Walk::Kind> Walk::kKinds = {
+    {40, &Walk::Click},         {4, &Walk::PressKey},     {16, &Walk::Type},
+    {8, &Walk::StepNumber},     {14, &Walk::TickShowBox}, {5, &Walk::ShowConfiguration},
+    {6, &Walk::ShowCalculator}, {2, &Walk::StartNew},     {5, &Walk::Load},
+    {3, &Walk::Save},           {2, &Walk::VisitWizard},
+};
+
+Walk::Walk(frmMain& oWindow, TestHost& oHost, const TemporaryFolder& oFolder, unsigned nSeed)
+    : m_oWindow(oWindow),
+      m_oHost(oHost),
+      m_oFolder(oFolder),
+      m_oDice(nSeed),
+      m_asSamples(Samples()) {
+  for (SectionPanel* const pSection : oWindow.Calculator().Set().Sections()) {
+    m_aoPanels.push_back(pSection);
+    for (Control* const pControl : AllControls(*pSection)) {
+      if (auto* const pPanel = dynamic_cast<SectionPanel*>(pControl)) {
+        m_aoPanels.push_back(pPanel);
+      }
+    }
+  }
+}
+
+const WalkStep& Walk::Step() {
+  const int nWhole = std::accumulate(kKinds.begin(), kKinds.end(), 0,
+                                     [](int n, const Kind& o) { return n + o.nWeight; });
+  auto nDrawn = static_cast<int>(Below(static_cast<std::size_t>(nWhole)));
+  const auto pKind = std::find_if(kKinds.begin(), kKinds.end(), [&](const Kind& oKind) {
+    nDrawn -= oKind.nWeight;
+    return nDrawn < 0;
+  });
+  m_oStep = {};
+  (this->*pKind->pTake)();
+  m_oHost.aeAnswers.clear();
+  m_oHost.asChoices.clear();
+  m_asTrace.push_back(std::to_string(++m_nStep) + " " + m_oStep.sWhat);
+  if (m_asTrace.size() > kTraced) {
+    m_asTrace.pop_front();
+  }
+  return m_oStep;
+}
+
+std::string Walk::Trace() const {
+  return std::accumulate(m_asTrace.begin(), m_asTrace.end(), std::string(),
+                         [](const auto& sAll, const auto& sStep) { return sAll + sStep + "\n"; });
+}
+
+template <typename Accept>
+std::vector<Control*> Walk::ControlsWhere(Accept&& fnAccept) const {
+  std::vector<Control*> aoFound;
+  for (const SectionPanel* const pPanel : m_aoPanels) {
+    std::copy_if(pPanel->Controls().begin(), pPanel->Controls().end(), std::back_inserter(aoFound),
+                 [&](Control* p) { return IsReachable(*p) && fnAccept(*p); });
+  }
+  return aoFound;
+}
+
+Control* Walk::PickChoice() {
+  const std::vector<Control*> aoChoices = ControlsWhere([](const Control& oControl) {
+    return dynamic_cast<const Choice*>(&oControl) != nullptr && !IsShowCheck(oControl);
+  });
+  return aoChoices.empty() ? nullptr : Pick(aoChoices);
+}
+
+ctlNumericText* Walk::PickNumber() {
+  const std::vector<Control*> aoBoxes = ControlsWhere([](const Control& oControl) {
+    return dynamic_cast<const ctlNumericText*>(&oControl) != nullptr;
+  });
+  return aoBoxes.empty() ? nullptr : dynamic_cast<ctlNumericText*>(Pick(aoBoxes));
+}
+
+void Walk::Click() {
+  if (Control* const pChoice = PickChoice()) {
+    m_oStep = {.sWhat = "click " + pChoice->Name(), .bTouches = true};
+    QTest::mouseClick(&pChoice->Widget(), Qt::LeftButton, Qt::NoModifier,
+                      QPoint(4, pChoice->Widget().height() / 2));
+  }
+}
+
+void Walk::PressKey() {
+  static const std::vector<Qt::Key> aeKeys = {Qt::Key_Space, Qt::Key_Up, Qt::Key_Down, Qt::Key_Tab};
+  if (Control* const pChoice = PickChoice()) {
+    const Qt::Key eKey = Pick(aeKeys);
+    m_oStep = {.sWhat = "key " + std::to_string(eKey) + " on " + pChoice->Name(), .bTouches = true};
+    pChoice->Widget().setFocus();
+    QTest::keyClick(&pChoice->Widget(), eKey);
+  }
+}
+
+void Walk::Type() {
+  static const std::vector<std::string> asTexts = {
+      "0", "1",  "2",   "3",    "12",      "0.01",  "9.99", "24.995", "149",        "1200",
+      "",  "-5", "abc", "1e3",  "2.5",     ".",     "1,5",  "50000",  "3000000000", "1.1",
+      "7", "20", "0.2", "1.75", "0.12345", "$4.50", "£6",   "100"};
+  if (ctlNumericText* const pBox = PickNumber()) {
+    const std::string& sText = Pick(asTexts);
+    const bool bStays = Below(4) == 0;
+    m_oStep = {.sWhat = "type \"" + sText + "\" into " + pBox->Name() + (bStays ? ", stay" : ""),
+               .bTouches = true};
+    pBox->TextBox()->setFocus(Qt::TabFocusReason);
+    pBox->TextBox()->selectAll();
+    QTest::keyClick(pBox->TextBox(), Qt::Key_Delete);
+    QTest::keyClicks(pBox->TextBox(), QString::fromStdString(sText));
+    if (!bStays) {
+      pBox->TextBox()->clearFocus();
+    }
+  }
+}
+
+void Walk::StepNumber() {
+  if (ctlNumericText* const pBox = PickNumber()) {
+    const bool bUp = Below(3) != 0;
+    const bool bShift = Below(3) == 0;
+    const auto nCaret = static_cast<int>(Below(6));
+    m_oStep = {.sWhat = std::string(bUp ? "up" : "down") + (bShift ? ", shifted, at " : " at ") +
+                        std::to_string(nCaret) + " in " + pBox->Name(),
+               .bTouches = true};
+    pBox->TextBox()->setFocus(Qt::TabFocusReason);
+    pBox->TextBox()->setCursorPosition(nCaret);
+    QTest::keyClick(pBox->TextBox(), bUp ? Qt::Key_Up : Qt::Key_Down,
+                    bShift ? Qt::ShiftModifier : Qt::NoModifier);
+  }
+}
+
+void Walk::TickShowBox() {
+  const std::vector<Control*> aoBoxes = ControlsWhere(IsShowCheck);
+  if (aoBoxes.empty() || !m_oWindow.Calculator().ConfigMode()) {
+    Click();
+    return;
+  }
+  Control* const pBox = Pick(aoBoxes);
+  m_oStep = {.sWhat = "show box " + pBox->Name(),
+             .pTicked = dynamic_cast<const SectionPanel*>(pBox->Container())};
+  QTest::mouseClick(&pBox->Widget(), Qt::LeftButton, Qt::NoModifier,
+                    QPoint(4, pBox->Widget().height() / 2));
+}
+
+void Walk::ShowConfiguration() {
+  m_oStep = {.sWhat = "configuration", .bLaysOut = true};
+  m_oWindow.ClickButton(kButtonConfig);
+}
+
+void Walk::ShowCalculator() {
+  m_oStep = {.sWhat = "calculator", .bLaysOut = true};
+  m_oWindow.ClickButton(kButtonCalculator);
+}
+
+/// Now and then the question whether to save is answered by Cancel.
+void Walk::AnswerPrompts() {
+  const Answer eAnswer = Below(5) == 0 ? Answer::Cancel : Answer::No;
+  m_oStep.sWhat += eAnswer == Answer::No ? ", no save" : ", cancel";
+  m_oHost.aeAnswers = {eAnswer};
+}
+
+void Walk::StartNew() {
+  m_oStep.sWhat = "new";
+  AnswerPrompts();
+  const bool bGoesAhead = !WorkingAuction().IsDirty() || m_oHost.aeAnswers.front() == Answer::No;
+  m_oStep.bLaysOut = bGoesAhead;
+  m_oWindow.ClickButton(kButtonNew);
+}
+
+void Walk::Load() {
+  const std::string& sSample = Pick(m_asSamples);
+  m_oStep.sWhat = "load " + std::filesystem::path(sSample).filename().string();
+  m_oStep.bCleans = !m_oWindow.Calculator().ConfigMode();  // where it loads nothing
+  m_oHost.asChoices = {sSample};
+  m_oWindow.ClickButton(kButtonLoad);
+}
+
+void Walk::Save() {
+  const bool bDefault = m_oWindow.Calculator().ConfigMode();
+  m_oStep.sWhat = bDefault ? "save the default auction" : "save";
+  m_oStep.bCleans = true;
+  m_oStep.sSaved = bDefault ? "" : m_oFolder / "walk.qlt";
+  m_oHost.asChoices = {m_oFolder / "walk.qlt"};
+  m_oWindow.ClickButton(kButtonSave);
+}
+
+/// To the wizard and back; a Cancel of the question on the way stays with the calculator.
+void Walk::VisitWizard() {
+  m_oStep = {.sWhat = "wizard and back", .bLaysOut = true};
+  AnswerPrompts();
+  m_oStep.bShowsAgain = !WorkingAuction().IsDirty() || m_oHost.aeAnswers.front() == Answer::No;
+  m_oWindow.ClickButton(kButtonWizard);
+  m_oWindow.ClickButton(kButtonCalculator);
+}
+
+}  // namespace quillet
