@@ -8,12 +8,17 @@ add_library(quillet_desktop STATIC
   platform/qt/ShockwaveFlash.cpp
   platform/qt/Theme.cpp
   platform/qt/ThemeStyle.cpp
+  platform/qt/movies/AboutMovie.cpp
   platform/qt/movies/ButtonMovie.cpp
+  platform/qt/movies/MovieButton.cpp
+  platform/qt/movies/ScrollingText.cpp
   platform/qt/movies/SplashMovie.cpp
+  platform/qt/movies/aboutParameters.cpp
   platform/qt/movies/drawing.cpp
   platform/qt/movies/icons.cpp
   platform/qt/movies/movies.cpp
   sections/AuctionOptionsPanel.cpp
+  sections/ComboBox.cpp
   sections/Control.cpp
   sections/Controls.cpp
   sections/GrandTotal.cpp
@@ -44,6 +49,7 @@ add_library(quillet_desktop STATIC
   shell/ctlCalculator.cpp
   shell/ctlWizard.cpp
   shell/formPosition.cpp
+  shell/frmAbout.cpp
   shell/frmMain.cpp
   shell/frmSplash.cpp
   shell/zoomSteps.cpp

@@ -8,12 +8,15 @@
 #include <array>
 
 #include "platform/qt/Theme.h"
+#include "platform/qt/movies/icons.h"
 
 namespace quillet {
 namespace {
 
 constexpr int kPictureSize = 120;  // twips
+constexpr int kPageIconSize = 240;
 constexpr int kPictureGap = 120;
+constexpr int kPageIndent = 120;
 constexpr int kEdge = 45;  // around the face, for the line that shows the focus
 
 /// In units of the picture's square.
@@ -36,6 +39,18 @@ QPainterPath PathOf(ButtonPicture ePicture, const QRectF& oSquare) {
   return oPath;
 }
 
+bool IsIcon(ButtonPicture ePicture) {
+  return ePicture == ButtonPicture::About || ePicture == ButtonPicture::Settings;
+}
+
+int TwipsOf(ButtonPicture ePicture) {
+  return ePicture == ButtonPicture::None ? 0 : IsIcon(ePicture) ? kPageIconSize : kPictureSize;
+}
+
+int GapOf(ButtonPicture ePicture) {
+  return ePicture == ButtonPicture::None ? 0 : kPictureGap;
+}
+
 }  // namespace
 
 ImageButton::ImageButton(QWidget* pParent)
@@ -53,13 +68,19 @@ void ImageButton::SetPrimary(bool bPrimary) {
   update();
 }
 
+void ImageButton::SetPage(bool bPage) {
+  m_bPage = bPage;
+  setCheckable(bPage);
+  update();
+}
+
 void ImageButton::SetGap(int nGap) {
   m_nGap = nGap;
   update();
 }
 
 QSize ImageButton::sizeHint() const {
-  const int nPicture = m_ePicture == ButtonPicture::None ? 0 : Pixels(kPictureSize + kPictureGap);
+  const int nPicture = Pixels(TwipsOf(m_ePicture) + GapOf(m_ePicture));
   const QSize oWords = fontMetrics().size(Qt::TextShowMnemonic, text());
   return {oWords.width() + nPicture + Pixels(2 * kEdge + m_nGap),
           oWords.height() + Pixels(2 * kEdge)};
@@ -74,11 +95,31 @@ QColor ImageButton::FaceColour() const {
   constexpr int kLighter = 112;
   constexpr int kDarker = 115;
   const bool bHover = underMouse();
+  if (m_bPage) {
+    return PageColour();
+  }
   if (m_bPrimary) {
     const QColor oAccent = InkColour(Ink::Accent);
     return isDown() ? oAccent.darker(kDarker) : bHover ? oAccent.lighter(kLighter) : oAccent;
   }
   return isDown() ? InkColour(Ink::Field) : InkColour(bHover ? Ink::Hover : Ink::Panel);
+}
+
+QColor ImageButton::PageColour() const {
+  return isDown()       ? InkColour(Ink::Hairline)
+         : isChecked()  ? InkColour(Ink::Hover)
+         : underMouse() ? InkColour(Ink::Panel)
+                        : QColor(Qt::transparent);
+}
+
+QColor ImageButton::WordsColour() const {
+  if (!isEnabled()) {
+    return InkColour(Ink::GreyText);
+  }
+  if (m_bPage && !isChecked() && !underMouse()) {
+    return InkColour(Ink::ColumnText);
+  }
+  return InkColour(m_bPrimary ? Ink::OnAccent : Ink::Text);
 }
 
 void ImageButton::paintEvent(QPaintEvent* /*pEvent*/) {
@@ -87,7 +128,7 @@ void ImageButton::paintEvent(QPaintEvent* /*pEvent*/) {
   const QRectF oFace = Face();
   QPainter oPainter(this);
   oPainter.setRenderHint(QPainter::Antialiasing);
-  oPainter.setPen(m_bPrimary ? QPen(Qt::NoPen) : QPen(InkColour(Ink::FieldEdge), 1.0));
+  oPainter.setPen(m_bPrimary || m_bPage ? QPen(Qt::NoPen) : QPen(InkColour(Ink::FieldEdge), 1.0));
   oPainter.setBrush(FaceColour());
   oPainter.drawRoundedRect(oFace.adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
   if (hasFocus()) {
@@ -99,34 +140,38 @@ void ImageButton::paintEvent(QPaintEvent* /*pEvent*/) {
   DrawWords(oPainter, oFace);
 }
 
-/// The words and the picture, as one in the middle of the face.
+/// The words and the picture, as one in the middle of the face, or at its left.
 void ImageButton::DrawWords(QPainter& oPainter, const QRectF& oFace) const {
   const int nMnemonic = style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) != 0
                             ? Qt::TextShowMnemonic
                             : Qt::TextHideMnemonic;
-  const QColor oInk = InkColour(!isEnabled() ? Ink::GreyText
-                                : m_bPrimary ? Ink::OnAccent
-                                             : Ink::Text);
   QFont oFont = font();
-  oFont.setWeight(m_bPrimary ? QFont::DemiBold : QFont::Medium);
+  oFont.setWeight(m_bPrimary || isChecked() ? QFont::DemiBold : QFont::Medium);
   oPainter.setFont(oFont);
   const int nWords = oPainter.fontMetrics().size(Qt::TextShowMnemonic, text()).width();
-  const double fSize = Pixels(kPictureSize);
-  const double fBeside = m_ePicture == ButtonPicture::None ? 0 : fSize + Pixels(kPictureGap);
+  const double fSize = Pixels(TwipsOf(m_ePicture));
+  const double fBeside = fSize + Pixels(GapOf(m_ePicture));
   const bool bBehind = m_ePicture == ButtonPicture::Next;
-  const double fLeft = oFace.center().x() - (nWords + fBeside) / 2;
+  const double fLeft =
+      m_bPage ? oFace.left() + Pixels(kPageIndent) : oFace.center().x() - (nWords + fBeside) / 2;
   const QRectF oWords(fLeft + (bBehind ? 0 : fBeside), oFace.top(), nWords, oFace.height());
-  oPainter.setPen(oInk);
+  oPainter.setPen(WordsColour());
   oPainter.drawText(oWords, int{Qt::AlignVCenter} | int{Qt::AlignLeft} | nMnemonic, text());
-  if (m_ePicture == ButtonPicture::None) {
-    return;
+  DrawPicture(oPainter, {bBehind ? fLeft + nWords + fBeside - fSize : fLeft,
+                         oFace.center().y() - fSize / 2, fSize, fSize});
+}
+
+void ImageButton::DrawPicture(QPainter& oPainter, const QRectF& oSquare) const {
+  constexpr double kIconStroke = 1.9;
+  if (IsIcon(m_ePicture)) {
+    DrawIcon(oPainter, m_ePicture == ButtonPicture::About ? Icon::About : Icon::Configure, oSquare,
+             isChecked() ? InkColour(Ink::Accent) : WordsColour(), kIconStroke);
+  } else if (m_ePicture != ButtonPicture::None) {
+    oPainter.setBrush(Qt::NoBrush);
+    oPainter.setPen(QPen(WordsColour(), std::max(1.6, oSquare.width() * 0.2), Qt::SolidLine,
+                         Qt::RoundCap, Qt::RoundJoin));
+    oPainter.drawPath(PathOf(m_ePicture, oSquare));
   }
-  const QRectF oSquare(bBehind ? fLeft + nWords + fBeside - fSize : fLeft,
-                       oFace.center().y() - fSize / 2, fSize, fSize);
-  oPainter.setBrush(Qt::NoBrush);
-  oPainter.setPen(
-      QPen(oInk, std::max(1.6, fSize * 0.2), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  oPainter.drawPath(PathOf(m_ePicture, oSquare));
 }
 
 void ImageButton::keyPressEvent(QKeyEvent* pEvent) {

@@ -13,6 +13,8 @@ enum class ButtonPicture {
   Back,    ///< a chevron to the left, before the words
   Next,    ///< a chevron to the right, behind them
   Finish,  ///< a tick, before them
+  About,
+  Settings,
 };
 
 /// Works by the mouse, by Space and Enter, and by the access key of its caption.
@@ -30,6 +32,9 @@ class ImageButton : public QAbstractButton, public Control {
   /// The one that goes on: drawn in the accent.
   void SetPrimary(bool bPrimary);
 
+  /// One that chooses a page: without an edge, its words at the left, and lit while it is checked.
+  void SetPage(bool bPage);
+
   /// How much of the right side stays free, in twips, where a neighbour's place begins early.
   void SetGap(int nGap);
 
@@ -43,10 +48,14 @@ class ImageButton : public QAbstractButton, public Control {
  private:
   [[nodiscard]] QRectF Face() const;
   [[nodiscard]] QColor FaceColour() const;
+  [[nodiscard]] QColor PageColour() const;
+  [[nodiscard]] QColor WordsColour() const;
+  void DrawPicture(QPainter& oPainter, const QRectF& oSquare) const;
   void DrawWords(QPainter& oPainter, const QRectF& oFace) const;
 
   ButtonPicture m_ePicture = ButtonPicture::None;
   bool m_bPrimary = false;
+  bool m_bPage = false;
   int m_nGap = 0;
 };
 

@@ -16,6 +16,7 @@
 #include "platform/Files.h"
 #include "platform/qt/ShockwaveFlash.h"
 #include "platform/qt/Theme.h"
+#include "shell/frmAbout.h"
 #include "shell/formPosition.h"
 #include "shell/zoomSteps.h"
 
@@ -112,6 +113,8 @@ frmMain::frmMain()
   connect(m_pWizard, &ctlWizard::WizardComplete, this,
           [this] { IgnoreFailure([this] { ClickButton(kButtonCalculator); }); });
 }
+
+frmMain::~frmMain() = default;
 
 void frmMain::MakeButtons() {
   for (int i = 0; i < static_cast<int>(m_apMenuButtons.size()); ++i) {
@@ -275,7 +278,16 @@ void frmMain::ShowWizard() {
   Form_Resize();
 }
 
-void frmMain::ShowAboutBox() {}
+/// Returns when the window about the product is closed.
+void frmMain::ShowAboutBox() {
+  if (m_frmAboutBox == nullptr) {
+    m_frmAboutBox = std::make_unique<frmAbout>(this);
+    connect(m_frmAboutBox.get(), &frmAbout::ResetControlPositions, this,
+            [this] { IgnoreFailure([this] { m_pCalculator->ResetControlPositions(); }); });
+  }
+  m_frmAboutBox->exec();
+  m_frmAboutBox.reset();
+}
 
 void frmMain::MarkCurrent(int nIndex) {
   for (int i = 0; i < static_cast<int>(m_apMenuButtons.size()); ++i) {

@@ -3,6 +3,7 @@
 
 #include <QWidget>
 #include <array>
+#include <memory>
 #include <string>
 
 #include "documents/lifecycle.h"
@@ -13,6 +14,7 @@
 namespace quillet {
 
 class ShockwaveFlash;
+class frmAbout;
 
 /// The buttons of the column, by their index.
 enum MenuButton : int {
@@ -29,6 +31,7 @@ class frmMain : public QWidget, private DocumentView {
 
  public:
   frmMain();
+  ~frmMain() override;
 
   /// Loads, shows and activates the window; the first document is set up when this returns.
   void Show();
@@ -77,6 +80,7 @@ class frmMain : public QWidget, private DocumentView {
   ctlWizard* m_pWizard;
   std::array<ShockwaveFlash*, 6> m_apMenuButtons{};
   ShockwaveFlash* m_pAbout = nullptr;
+  std::unique_ptr<frmAbout> m_frmAboutBox;  ///< while it is open
   int m_lMinWidth = 0;        ///< twips; the smallest size while the wizard shows
   int m_lMinHeight = 0;       ///< likewise
   int m_lCalcMinWidth = 0;    ///< twips; what CalcMinSize told last

@@ -97,6 +97,32 @@ constexpr Step kCritical[] = {
     {Circle, 12, 12, 10},
     {Move, 8.5, 8.5}, {Line, 15.5, 15.5},  {Move, 15.5, 8.5},  {Line, 8.5, 15.5},
 };
+
+constexpr Step kNote[] = {
+    {Circle, 7.5, 17.5, 3},
+    {Move, 10.5, 17.5},  {Line, 10.5, 4},  {Round, 17, 10, 16, 5},
+};
+
+constexpr Step kSound[] = {
+    {Move, 4, 9},    {Line, 8, 9},    {Line, 12, 5},   {Line, 12, 19},
+    {Line, 8, 15},   {Line, 4, 15},   {Close},                         // loudspeaker
+    {Move, 15.5, 9.5},  {Round, 15.5, 14.5, 17.5, 12},
+    {Move, 18, 7},      {Round, 18, 17, 22, 12},
+};
+
+constexpr Step kMuted[] = {
+    {Move, 4, 9},    {Line, 8, 9},    {Line, 12, 5},   {Line, 12, 19},
+    {Line, 8, 15},   {Line, 4, 15},   {Close},
+    {Move, 16, 9.5},    {Line, 21, 14.5},  {Move, 21, 9.5},  {Line, 16, 14.5},
+};
+
+constexpr Step kLink[] = {
+    {Move, 14, 4},   {Line, 20, 4},   {Line, 20, 10},                  // arrow
+    {Move, 20, 4},   {Line, 11, 13},
+    {Move, 17, 14},  {Line, 17, 19},  {Round, 16, 20, 17, 20},
+    {Line, 5, 20},   {Round, 4, 19, 4, 20},
+    {Line, 4, 8},    {Round, 5, 7, 4, 7},  {Line, 10, 7},
+};
 // clang-format on
 
 std::span<const Step> StepsOf(Icon eIcon) {
@@ -121,6 +147,14 @@ std::span<const Step> StepsOf(Icon eIcon) {
       return kWarning;
     case Icon::Critical:
       return kCritical;
+    case Icon::Note:
+      return kNote;
+    case Icon::Sound:
+      return kSound;
+    case Icon::Muted:
+      return kMuted;
+    case Icon::Link:
+      return kLink;
   }
   return {};
 }

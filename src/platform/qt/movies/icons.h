@@ -18,6 +18,10 @@ enum class Icon {
   Question,
   Warning,
   Critical,
+  Note,
+  Sound,
+  Muted,
+  Link,
 };
 
 /// Draws an icon into a square, with lines of `fStroke` units; the square's side is 24 units.

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "platform/qt/movies/AboutMovie.h"
 #include "platform/qt/movies/ButtonMovie.h"
 #include "platform/qt/movies/SplashMovie.h"
 
@@ -31,6 +32,7 @@ constexpr struct {
     {"Load_button.swf", MakeButton<Icon::Load>},
     {"Config_button.swf", MakeButton<Icon::Configure>},
     {"About_button.swf", MakeButton<Icon::About>},
+    {"About.swf", MakeWithParameters<AboutMovie>},
     {"Splash.swf", MakeWithParameters<SplashMovie>},
 };
 

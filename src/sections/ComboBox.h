@@ -1,0 +1,19 @@
+// A box that opens a list to choose from.
+#pragma once
+
+#include <QComboBox>
+
+#include "sections/Control.h"
+
+namespace quillet {
+
+class ComboBox : public QComboBox, public Control {
+ public:
+  explicit ComboBox(QWidget* pParent);
+  [[nodiscard]] const char* TypeName() const override { return "ComboBox"; }
+
+ protected:
+  void paintEvent(QPaintEvent* pEvent) override;
+};
+
+}  // namespace quillet
