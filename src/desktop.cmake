@@ -55,6 +55,7 @@ add_library(quillet_desktop STATIC
   shell/zoomSteps.cpp
   )
 set_target_properties(quillet_desktop PROPERTIES AUTOMOC ON AUTORCC ON)
+target_precompile_headers(quillet_desktop PRIVATE <QApplication> <QPainter> <QWidget> <map> <string> <vector>)
 target_link_libraries(quillet_desktop PUBLIC quillet_online Qt6::Core Qt6::Gui Qt6::Widgets)
 
 include(${PROJECT_SOURCE_DIR}/cmake/Fonts.cmake)

@@ -8,3 +8,10 @@ target_compile_definitions(online_tests PRIVATE QUILLET_SOURCE_DIR="${PROJECT_SO
 target_link_libraries(online_tests PRIVATE quillet_online quillet_region_us GTest::gtest
                                            GTest::gmock)
 add_test(NAME online_tests COMMAND online_tests)
+
+add_executable(update_servers
+  support/UpdateServers.cpp
+  support/updateServersMain.cpp)
+target_include_directories(update_servers PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+target_compile_definitions(update_servers PRIVATE QUILLET_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+target_link_libraries(update_servers PRIVATE GTest::gtest quillet_core quillet_region_us)

@@ -47,6 +47,8 @@ class UpdateServers {
   void PutFile(const std::string& sName, const std::string& sContent) const;
   void RemoveFile(const std::string& sName) const;
 
+  /// Their files lie here below "web" and "ftp".
+  [[nodiscard]] const std::string& Folder() const { return m_oFolder.sPath; }
   [[nodiscard]] std::string WebServer() const;
   [[nodiscard]] std::string FtpServer() const;
 
