@@ -8,7 +8,7 @@
 #include "allocations.h"
 #include "engine/clsCalculate.h"
 #include "platform/Files.h"
-#include "platform/posix/TerminalHost.h"
+#include "platform/TerminalHost.h"
 #include "prices/clsPrices.h"
 
 namespace quillet {

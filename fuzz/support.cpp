@@ -4,7 +4,7 @@
 
 #include "base/failure.h"
 #include "base/region.h"
-#include "platform/posix/TerminalHost.h"
+#include "platform/TerminalHost.h"
 
 namespace quillet {
 namespace {

@@ -204,7 +204,10 @@ TEST(DayNumber, HoldsTheTimeInTheUsersDigits) {
             "09:05:07 AM Saturday, November 14, 2026");
   EXPECT_EQ(LongTimeAndDate(0), "12:00:00 AM Saturday, December 30, 1899");
   const std::time_t nNow = std::time(nullptr);
-  const double fDays = static_cast<double>(nNow + std::localtime(&nNow)->tm_gmtoff) / 86400;
+  std::tm oGreenwich = *std::gmtime(&nNow);
+  oGreenwich.tm_isdst = std::localtime(&nNow)->tm_isdst;
+  const double fOffset = std::difftime(nNow, std::mktime(&oGreenwich));
+  const double fDays = (static_cast<double>(nNow) + fOffset) / 86400;
   EXPECT_NEAR(CurrentDayNumber(), fDays + 25569, 5.0 / 86400);  // 25569: 1970-01-01
 }
 

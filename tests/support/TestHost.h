@@ -3,9 +3,11 @@
 
 #include <deque>
 #include <filesystem>
+#include <random>
 #include <string>
 #include <vector>
 
+#include "platform/Files.h"
 #include "platform/Host.h"
 
 namespace quillet {
@@ -77,8 +79,11 @@ class ScopedHost : public TestHost {
 class TemporaryFolder {
  public:
   TemporaryFolder() {
-    std::string sTemplate = (std::filesystem::temp_directory_path() / "quillet-XXXXXX").string();
-    sPath = ::mkdtemp(sTemplate.data());
+    std::random_device oRandom;
+    do {
+      const std::string sName = "quillet-" + std::to_string(oRandom());
+      sPath = (std::filesystem::temp_directory_path() / sName).string();
+    } while (!std::filesystem::create_directory(sPath));
   }
   TemporaryFolder(const TemporaryFolder&) = delete;
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
@@ -86,7 +91,7 @@ class TemporaryFolder {
     std::error_code oIgnored;
     std::filesystem::remove_all(sPath, oIgnored);
   }
-  std::string operator/(const std::string& sName) const { return sPath + "/" + sName; }
+  std::string operator/(const std::string& sName) const { return NativePath(sPath + "\\" + sName); }
 
   std::string sPath;
 };

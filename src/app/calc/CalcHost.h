@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "platform/posix/TerminalHost.h"
+#include "platform/TerminalHost.h"
 
 namespace quillet {
 

@@ -1,6 +1,6 @@
 #include "app/calc/LineStream.h"
 
-#include "platform/posix/Descriptors.h"
+#include "platform/Descriptors.h"
 
 namespace quillet {
 

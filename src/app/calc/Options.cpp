@@ -7,7 +7,7 @@
 #include "app/calc/Status.h"
 #include "base/basCommon.h"
 #include "base/version.h"
-#include "platform/posix/Descriptors.h"
+#include "platform/Descriptors.h"
 
 namespace quillet {
 namespace {

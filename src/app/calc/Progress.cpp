@@ -3,7 +3,7 @@
 #include <iostream>
 
 #include "platform/Host.h"
-#include "platform/posix/Descriptors.h"
+#include "platform/Descriptors.h"
 
 namespace quillet {
 namespace {

@@ -6,7 +6,7 @@
 #include "app/calc/Output.h"
 #include "app/calc/checkSchedule.h"
 #include "app/calc/run.h"
-#include "platform/posix/Descriptors.h"
+#include "platform/Descriptors.h"
 
 namespace quillet {
 namespace {

@@ -10,7 +10,7 @@
 #include "app/calc/calculate.h"
 #include "base/basCommon.h"
 #include "base/failure.h"
-#include "platform/posix/Descriptors.h"
+#include "platform/Descriptors.h"
 #include "prices/clsPrices.h"
 
 namespace quillet {

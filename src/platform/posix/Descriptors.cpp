@@ -1,4 +1,4 @@
-#include "platform/posix/Descriptors.h"
+#include "platform/Descriptors.h"
 
 #include <cerrno>
 #include <csignal>

@@ -9,7 +9,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "platform/posix/Descriptors.h"
+#include "platform/Descriptors.h"
 
 namespace quillet {
 namespace {

@@ -11,6 +11,7 @@
 
 #include "platform/Files.h"
 #include "platform/Host.h"
+#include "platform/windows/wide.h"
 
 namespace quillet {
 namespace {
@@ -18,23 +19,6 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds kPumpEvery{10};
-
-std::wstring Wide(const std::string& sText) {
-  const int nSize = static_cast<int>(sText.size());
-  const int nLength = ::MultiByteToWideChar(CP_UTF8, 0, sText.data(), nSize, nullptr, 0);
-  std::wstring sWide(static_cast<std::size_t>(nLength), L'\0');
-  ::MultiByteToWideChar(CP_UTF8, 0, sText.data(), nSize, sWide.data(), nLength);
-  return sWide;
-}
-
-std::string Narrow(const std::wstring& sWide) {
-  const int nSize = static_cast<int>(sWide.size());
-  const int nLength =
-      ::WideCharToMultiByte(CP_UTF8, 0, sWide.data(), nSize, nullptr, 0, nullptr, nullptr);
-  std::string sText(static_cast<std::size_t>(nLength), '\0');
-  ::WideCharToMultiByte(CP_UTF8, 0, sWide.data(), nSize, sText.data(), nLength, nullptr, nullptr);
-  return sText;
-}
 
 /// What an FTP server said last, to a call on this thread.
 std::string ServerResponse() {

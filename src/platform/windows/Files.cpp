@@ -1,0 +1,143 @@
+#include "platform/Files.h"
+
+#include <algorithm>
+#include <array>
+
+#include <windows.h>
+#undef ReplaceFile  // the system's name for something else
+
+#include "platform/Descriptors.h"
+#include "platform/windows/wide.h"
+
+namespace quillet {
+namespace {
+
+constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+/// An open file, closed when it goes out of scope.
+class OpenFile {
+ public:
+  OpenFile(const std::string& sPath, DWORD nAccess, DWORD nShare, DWORD nHow)
+      : m_hFile(::CreateFileW(Wide(sPath).c_str(), nAccess, nShare, nullptr, nHow,
+                              FILE_ATTRIBUTE_NORMAL, nullptr)) {}
+  OpenFile(const OpenFile&) = delete;
+  OpenFile& operator=(const OpenFile&) = delete;
+  ~OpenFile() { (void)Close(); }
+
+  [[nodiscard]] bool IsOpen() const { return m_hFile != INVALID_HANDLE_VALUE; }
+  [[nodiscard]] HANDLE Handle() const { return m_hFile; }
+
+  std::error_code Close() {
+    if (!IsOpen()) {
+      return {};
+    }
+    const HANDLE hFile = m_hFile;
+    m_hFile = INVALID_HANDLE_VALUE;
+    return ::CloseHandle(hFile) != FALSE ? std::error_code{} : LastError();
+  }
+
+ private:
+  HANDLE m_hFile;
+};
+
+std::error_code Write(HANDLE hFile, std::string_view sContent) {
+  constexpr std::size_t kPiece = 1U << 30U;
+  while (!sContent.empty()) {
+    const auto nSize = static_cast<DWORD>(std::min(sContent.size(), kPiece));
+    DWORD nWritten = 0;
+    if (::WriteFile(hFile, sContent.data(), nSize, &nWritten, nullptr) == FALSE) {
+      return LastError();
+    }
+    sContent.remove_prefix(nWritten);
+  }
+  return {};
+}
+
+std::error_code WriteNewFile(const std::string& sPath, std::string_view sContent) {
+  OpenFile oFile(sPath, GENERIC_WRITE, 0, CREATE_ALWAYS);
+  if (!oFile.IsOpen()) {
+    return LastError();
+  }
+  if (std::error_code oError = Write(oFile.Handle(), sContent)) {
+    return oError;
+  }
+  if (::FlushFileBuffers(oFile.Handle()) == FALSE) {
+    return LastError();
+  }
+  return oFile.Close();
+}
+
+}  // namespace
+
+std::string NativePath(std::string sPath) {
+  std::replace(sPath.begin(), sPath.end(), '/', '\\');
+  return sPath;
+}
+
+bool FileExists(const std::string& sPath) {
+  return ::GetFileAttributesW(Wide(sPath).c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+std::uint64_t FileSize(const std::string& sPath) {
+  WIN32_FILE_ATTRIBUTE_DATA oData{};
+  const bool bFile =
+      ::GetFileAttributesExW(Wide(sPath).c_str(), GetFileExInfoStandard, &oData) != FALSE &&
+      (oData.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+  return bFile ? std::uint64_t{oData.nFileSizeHigh} << 32U | oData.nFileSizeLow : 0;
+}
+
+std::error_code RemoveFile(const std::string& sPath) {
+  return ::DeleteFileW(Wide(sPath).c_str()) != FALSE ? std::error_code{} : LastError();
+}
+
+std::error_code ReadWholeFile(const std::string& sPath, std::size_t nLimit, std::string& sContent) {
+  const OpenFile oFile(sPath, GENERIC_READ, kShareAll, OPEN_EXISTING);
+  if (!oFile.IsOpen()) {
+    return LastError();
+  }
+  std::string sRead;
+  std::array<char, 65536> acBlock;  // NOLINT: zeros would only take time
+  while (true) {
+    DWORD nRead = 0;
+    if (::ReadFile(oFile.Handle(), acBlock.data(), acBlock.size(), &nRead, nullptr) == FALSE) {
+      return LastError();
+    }
+    if (nRead == 0) {
+      break;
+    }
+    sRead.append(acBlock.data(), nRead);
+    if (sRead.size() > nLimit) {
+      return std::make_error_code(std::errc::file_too_large);
+    }
+  }
+  sContent = std::move(sRead);
+  return {};
+}
+
+std::error_code ReplaceFile(const std::string& sPath, std::string_view sContent) {
+  const std::string sTemporary = sPath + "." + std::to_string(::GetCurrentProcessId()) + ".tmp";
+  std::error_code oError = WriteNewFile(sTemporary, sContent);
+  if (!oError && ::MoveFileExW(Wide(sTemporary).c_str(), Wide(sPath).c_str(),
+                               MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) == FALSE) {
+    oError = LastError();
+  }
+  if (oError) {
+    ::DeleteFileW(Wide(sTemporary).c_str());
+  }
+  return oError;
+}
+
+std::error_code AppendToFile(const std::string& sPath, std::string_view sContent,
+                             std::string_view sHeaderIfEmpty) {
+  OpenFile oFile(sPath, FILE_APPEND_DATA | FILE_READ_ATTRIBUTES, kShareAll, OPEN_ALWAYS);
+  LARGE_INTEGER oSize{};
+  if (!oFile.IsOpen() || ::GetFileSizeEx(oFile.Handle(), &oSize) == FALSE) {
+    return LastError();
+  }
+  std::string sText(oSize.QuadPart == 0 ? sHeaderIfEmpty : std::string_view{});
+  sText += sContent;
+  const std::error_code oError = Write(oFile.Handle(), sText);
+  return oError ? oError : oFile.Close();
+}
+
+}  // namespace quillet
