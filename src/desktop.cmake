@@ -23,6 +23,7 @@ add_library(quillet_desktop STATIC
   sections/Controls.cpp
   sections/GrandTotal.cpp
   sections/ImageButton.cpp
+  sections/OptionInterface.cpp
   sections/ScrollBar.cpp
   sections/SectionPanel.cpp
   sections/SpinButton.cpp

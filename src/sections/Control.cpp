@@ -54,6 +54,15 @@ void Control::Rescale() {
   Place(m_nLeft, m_nTop, m_nWidth, m_nHeight);
 }
 
+QString WordsOf(const Control& oControl) {
+  constexpr QChar kAmpersand(0x1);
+  return oControl.Caption()
+      .replace("&&", kAmpersand)
+      .remove('&')
+      .replace(kAmpersand, '&')
+      .trimmed();
+}
+
 void RescaleAll(QWidget& oWidget) {
   for (QWidget* const pWidget : oWidget.findChildren<QWidget*>()) {
     if (auto* const pControl = dynamic_cast<Control*>(pWidget)) {

@@ -96,6 +96,9 @@ class Choice : public Control {
   using Control::Control;
 };
 
+/// A control's caption as it reads, without the mark of its access key.
+[[nodiscard]] QString WordsOf(const Control& oControl);
+
 /// Rescale of every control below a widget.
 void RescaleAll(QWidget& oWidget);
 

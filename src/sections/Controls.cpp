@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "platform/qt/Theme.h"
+#include "sections/OptionInterface.h"
 
 namespace quillet {
 namespace {
@@ -126,6 +127,7 @@ void CheckBox::paintEvent(QPaintEvent* /*pEvent*/) {
 OptionButton::OptionButton(QWidget* pParent)
     : QRadioButton(pParent), Choice(static_cast<QWidget&>(*this)) {
   setAutoExclusive(false);
+  OptionInterface::Install();
   // Before any other listener, so that a click finds one option chosen at the most.
   connect(this, &QAbstractButton::toggled, this, &OptionButton::PutOutOthers);
 }

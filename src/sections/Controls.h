@@ -52,6 +52,8 @@ class CheckBox : public QCheckBox, public Choice {
 /// One of the options of its container. Unlike the toolkit's it can be unset by code, so that none
 /// is chosen. Raises toggled() as its click; an option that another one puts out raises nothing.
 class OptionButton : public QRadioButton, public Choice {
+  Q_OBJECT
+
  public:
   explicit OptionButton(QWidget* pParent);
   [[nodiscard]] const char* TypeName() const override { return "OptionButton"; }

@@ -64,6 +64,7 @@ SectionPanel::SectionPanel(const PanelDesign& oDesign, QWidget* pParent)
     MakeControl(oControl);
   }
   NameInputs();
+  setAccessibleName(QString::fromUtf8(oDesign.sTitle));
   Place(0, 0, oDesign.nWidth, oDesign.nHeight);
   if (Image* const pHeader = Header()) {
     setFocusPolicy(Qt::ClickFocus);
@@ -134,21 +135,23 @@ QString SectionPanel::CaptionOf(const Control& oControl) const {
   const auto pFound = std::find_if(m_aoControls.begin(), m_aoControls.end(), [&](Control* p) {
     return (p == &oControl || p->Container() == &oControl) && !p->Caption().isEmpty();
   });
-  return pFound == m_aoControls.end() ? QString() : (*pFound)->Caption().remove('&');
+  return pFound == m_aoControls.end() ? QString() : WordsOf(**pFound);
 }
 
-/// The words in a control's row, which is known by its place in the design: packed rows come to
-/// stand where hidden ones were.
+/// The words in a control's row, a label's rather than a box's. The row is known by its place in
+/// the design: packed rows come to stand where hidden ones were.
 QString SectionPanel::CaptionBeside(std::size_t nControl) const {
+  QString sWords;
   for (std::size_t i = 0; i < m_aoControls.size(); ++i) {
     const Control& oMate = *m_aoControls[i];
+    const bool bLabel = m_oDesign.aoControls[i].eKind == ControlKind::kLabel;
     if (m_oDesign.aoControls[i].nTop == m_oDesign.aoControls[nControl].nTop &&
         oMate.Container() == m_aoControls[nControl]->Container() && !IsShowCheck(oMate) &&
-        !oMate.Caption().isEmpty()) {
-      return oMate.Caption().remove('&');
+        !oMate.Caption().isEmpty() && (bLabel || sWords.isEmpty())) {
+      sWords = WordsOf(oMate);
     }
   }
-  return {};
+  return sWords;
 }
 
 void SectionPanel::SetShowConfig(bool bShowConfig) {

@@ -23,7 +23,7 @@ constexpr std::array kControls = std::to_array<ControlDesign>({
 });
 
 constexpr PanelDesign kDesign = {.sTypeName = "ctlPaypalBusinessTypes",
-                                 .sTitle = "",
+                                 .sTitle = "Business Rate",
                                  .sSectionKey = "PayPalBusinessTypes",
                                  .sReferenceBox = "chkShowBusinessRateBand1",
                                  .sVisibilityList = "PayPalBusinessTypes",

@@ -22,7 +22,7 @@ constexpr std::array kControls = std::to_array<ControlDesign>({
 });
 
 constexpr PanelDesign kDesign = {.sTypeName = "ctlPostageParcelInsurance",
-                                 .sTitle = "",
+                                 .sTitle = "Parcel Insurance",
                                  .sSectionKey = "PostageParcelInsurance",
                                  .sReferenceBox = "chkShowBand1",
                                  .sVisibilityList = "PostageParcelInsurance",

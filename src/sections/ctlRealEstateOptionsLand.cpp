@@ -12,7 +12,7 @@ constexpr std::array kRows = std::to_array<OptionRow>({
 constexpr std::array kControls = OptionControls(kRows, ControlKind::kOption, 1800, 855);
 
 constexpr PanelDesign kDesign = {.sTypeName = "ctlRealEstateOptionsLand",
-                                 .sTitle = "Real Estate",
+                                 .sTitle = "Real Estate Type",
                                  .sSectionKey = "RealEstateLandOptions",
                                  .sReferenceBox = "chkShowRealEstateTimeShare",
                                  .sVisibilityList = "RealEstateLandOptions",

@@ -74,8 +74,17 @@ ctlSellingCosts::ctlSellingCosts(QWidget* pParent)
     }
     m_aoLabels.push_back(pLabel);
   }
+  setAccessibleName(tr("Selling Costs"));
+  DescribeFigures();
   Place(0, 0, kDesignWidth, kDesignHeight);
   SetMode(0);
+}
+
+/// A figure reads as the number alone: a screen reader adds what it is of.
+void ctlSellingCosts::DescribeFigures() {
+  for (std::size_t i = 0; i + 1 < m_aoLabels.size(); i += 2) {
+    m_aoLabels[i + 1]->setAccessibleDescription(m_aoLabels[i]->text());
+  }
 }
 
 Label& ctlSellingCosts::The(const char* sName) const {

@@ -29,6 +29,7 @@ class ctlSellingCosts : public QWidget, public Control {
   void showEvent(QShowEvent* pEvent) override;
 
  private:
+  void DescribeFigures();
   void ArrangeAsStrip();
   void ArrangeAsColumn();
   void CentreProfitLabel();

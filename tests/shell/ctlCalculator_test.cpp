@@ -1,5 +1,6 @@
 #include "shell/ctlCalculator.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QLineEdit>
 #include <QSignalSpy>
@@ -198,6 +199,31 @@ TEST_F(Calculator, TabWalksTheInputsInReadingOrderAndNeverReachesAShowBox) {
     ASSERT_FALSE(QApplication::focusWidget()->objectName().contains("chkShow"));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
   }
+}
+
+TEST_F(Calculator, AScreenReaderIsToldOfRowsOptionsAndFigures) {
+  ShowView(false, WorkingAuction());
+  const SectionSet& oSet = m_pView->Set();
+  const auto fnTold = [](const SectionPanel& oSection, const char* sName) {
+    return QAccessible::queryAccessibleInterface(&ControlOf(oSection, sName).Widget());
+  };
+  const auto& oCost = dynamic_cast<ctlNumericText&>(ControlOf(oSet.ctlOutlaySection, "txtOutlay"));
+  EXPECT_EQ(oCost.TextBox()->accessibleName(), "Outlay") << "not after the tax box in its row";
+  EXPECT_EQ(oSet.ctlOutlaySection.accessibleName(), "Outlay");
+
+  const SectionPanel& oKinds = oSet.ctlAuctionTypeSection;
+  QAccessibleInterface* const pMotor = fnTold(oKinds, "optMotorAuction");
+  ASSERT_NE(pMotor, nullptr);
+  EXPECT_EQ(pMotor->role(), QAccessible::RadioButton);
+  EXPECT_FALSE(pMotor->state().checked);
+  pMotor->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_TRUE(pMotor->state().checked);
+  EXPECT_EQ(WorkingAuction().m_oAuctionType.m_eAuctionType, kAuctionMotor);
+  EXPECT_EQ(fnTold(oKinds, "optStandardAution")->text(QAccessible::Name), "Standard Auction");
+  EXPECT_EQ(fnTold(oKinds, "optParts")->text(QAccessible::Name), "Parts & Accsr's");
+  EXPECT_EQ(fnTold(oKinds, "chkShowParts")->text(QAccessible::Name), "Show Parts & Accsr's");
+  EXPECT_EQ(oSet.ctlSellingCostsSection.The("lblPayPalTotal").accessibleDescription(),
+            "PayPal Fee");
 }
 
 }  // namespace
