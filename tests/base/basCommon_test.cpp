@@ -21,7 +21,7 @@ TEST(Common, NamesFollowTheRegion) {
             ByRegion("Software\\Velmor\\Quillet UK", "Software\\Velmor\\Quillet US"));
   EXPECT_EQ(UpdateFileName(true), ByRegion("UpdateUK_v0101.dat", "UpdateUS_v0101.dat"));
   // A "\" in the folder's own name is no separator here.
-  EXPECT_EQ(UpdateFileName(false), "/opt/a\\b/" + UpdateFileName(true));
+  EXPECT_EQ(UpdateFileName(false), "/opt/a\\b" + NativePath("\\" + UpdateFileName(true)));
 }
 
 TEST(Common, OfTwoEqualValuesTheSecondIsTheSmaller) {

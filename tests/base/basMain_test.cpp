@@ -199,10 +199,10 @@ TEST_F(Start, AMissingPriceFileIsTriedFiveTimesThenClosesTheProgramAndMainRunsTo
   EXPECT_THAT(std::vector(asRun.end() - 6, asRun.end()),
               ElementsAre("* main shown", "* message", "* splash hidden", "* splash unloaded",
                           "* main unloaded", "End startup"));
-  EXPECT_THAT(m_oHost.aoShown, ElementsAre(ShownMessage{"Error opening file " + m_oFolder.sPath +
-                                                            "/" + UpdateFileName(true) + "\n\n" +
-                                                            EditionName() + " must close.",
-                                                        16, EditionName()}));
+  EXPECT_THAT(m_oHost.aoShown,
+              ElementsAre(ShownMessage{"Error opening file " + (m_oFolder / UpdateFileName(true)) +
+                                           "\n\n" + EditionName() + " must close.",
+                                       16, EditionName()}));
   EXPECT_EQ(m_oHost.nTicksAtMessage - nTicksAtFirstLook, 5 * 100);
   EXPECT_EQ(g_frmMain, nullptr);
   EXPECT_EQ(Prices().Table().Size(), 0U);  // made once, and not tried again

@@ -133,13 +133,12 @@ TEST_F(Lifecycle, AFailureIsShownInThePlatformsWordsAndKeepsTheOldFile) {
   const struct {
     bool bSave;
     std::string sPath;
-    const char* sMessage;
+    std::string sMessage;
   } kRows[] = {
-      {true, sBlocked, "Not a directory"},
-      {true, "/dev/full", "No space left on device"},
-      {true, m_oFolder.sPath, "Is a directory"},
-      {false, m_oFolder / "missing.qlt", "No such file or directory"},
-      {false, m_oFolder.sPath, "Is a directory"},
+      {true, sBlocked, ReplaceFile(sBlocked, "").message()},
+      {true, m_oFolder.sPath, FolderWords(true)},
+      {false, m_oFolder / "missing.qlt", MissingWords()},
+      {false, m_oFolder.sPath, FolderWords(false)},
   };
   for (const auto& [bSave, sPath, sMessage] : kRows) {
     SCOPED_TRACE(sPath);

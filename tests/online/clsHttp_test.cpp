@@ -115,7 +115,7 @@ TEST_F(Http, ASessionThatCanNotBeHadRaises) {
 
 TEST_F(Http, AFetchedFileTakesTheOldOnesPlaceOnlyAsAWhole) {
   const std::string sTemporary = m_sLocal + "_$Temp$_";
-  const std::string sMissing = "Deleting file 1|2 (No such file or directory)|3 - Success\n";
+  const std::string sMissing = "Deleting file 1|2 (" + MissingWords() + ")|3 - Success\n";
   WriteTestFile(m_sLocal, "old");
   EXPECT_FALSE(m_oHttp.GetFile(m_sLocal, "r", true));
   EXPECT_EQ(Story(), "Proc FTP 1|2|3");
@@ -141,8 +141,8 @@ TEST_F(Http, AFetchedFileTakesTheOldOnesPlaceOnlyAsAWhole) {
   std::filesystem::remove(m_sLocal);
   std::filesystem::create_directory(m_sLocal);  // what can't be replaced
   EXPECT_EQ(FailureOf([&] { m_oHttp.GetFile(m_sLocal, "r", true); }),
-            "75 : " + m_sLocal + ": Is a directory");
-  EXPECT_EQ(m_oHttp.LastError(), "Is a directory");
+            "75 : " + m_sLocal + ": " + FolderWords(true));
+  EXPECT_EQ(m_oHttp.LastError(), FolderWords(true));
   EXPECT_EQ(Story(),
             "Proc FTP 1|2|4\n" + sMissing + "* get r 2\nProc FTP 5\nDeleting file 1|3 - Success");
   EXPECT_FALSE(std::filesystem::exists(sTemporary));

@@ -51,8 +51,8 @@ TEST_F(Download, APassTellsItsWholeStory) {
                 "\nDL - Update file 1|2|3\nDL - Update files 5\nStart FTP 1\n"
                 "* connect 1 ftp:2121 quillet rmk3816\nStart FTP 2|5|9 - okay\nDL - Update file 6\n"
                 "Matching files 1|3|4|5|6|7 - okay\nDL - Update file 7\nProc FTP 1|2|4\n"
-                "Deleting file 1|2 (No such file or directory)|3 - Success\n* get " +
-                m_sName +
+                "Deleting file 1|2 (" +
+                MissingWords() + ")|3 - Success\n* get " + m_sName +
                 " 2\nProc FTP 5\nDeleting file 1|3 - Success\nProc FTP 8 - okay\n"
                 "DL - Update file 8|9 - okay\nFound skip date of 12:00:00 PM Saturday, November "
                 "14, 2026\n"

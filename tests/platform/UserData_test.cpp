@@ -12,8 +12,8 @@ using UserData = OnlineTest;
 
 TEST_F(UserData, AnOlderShippedScheduleNeverReplacesTheUsersCopy) {
   EXPECT_EQ(UpdateFileName(false), m_sLocal);
-  m_oHost.sDataFolder = m_oFolder / "share/quillet";
-  const std::string sOwn = m_oHost.sDataFolder + "/" + m_sName;
+  m_oHost.sDataFolder = m_oFolder / "share\\quillet";
+  const std::string sOwn = m_oFolder / ("share\\quillet\\" + m_sName);
   EXPECT_EQ(UpdateFileName(false), m_sLocal);  // nothing to copy: the message will name this one
 
   WriteTestFile(m_sLocal, "shipped");

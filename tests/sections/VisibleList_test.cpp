@@ -66,7 +66,7 @@ TEST_F(VisibleListTest, TheLastFolderIsRememberedAndStored) {
   m_oHive.Clear();
   ScopedHost oHost;
   oHost.sDocumentsFolder = "/home/ann/Documents ";
-  EXPECT_EQ(LastFolder(), NativePath("/home/ann/Documents\\My Auctions"));
+  EXPECT_EQ(LastFolder(), "/home/ann/Documents" + NativePath("\\My Auctions"));
   SetLastFolder("/elsewhere");
   EXPECT_EQ(LastFolder(), "/elsewhere");
   EXPECT_EQ(Registry().Get(settings::kLastFolder), "/elsewhere");

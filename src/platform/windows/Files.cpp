@@ -115,6 +115,11 @@ std::error_code ReadWholeFile(const std::string& sPath, std::size_t nLimit, std:
 }
 
 std::error_code ReplaceFile(const std::string& sPath, std::string_view sContent) {
+  const DWORD nAttributes = ::GetFileAttributesW(Wide(sPath).c_str());
+  if (nAttributes != INVALID_FILE_ATTRIBUTES &&
+      (nAttributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0) {
+    return {ERROR_ACCESS_DENIED, std::system_category()};
+  }
   const std::string sTemporary = sPath + "." + std::to_string(::GetCurrentProcessId()) + ".tmp";
   std::error_code oError = WriteNewFile(sTemporary, sContent);
   if (!oError && ::MoveFileExW(Wide(sTemporary).c_str(), Wide(sPath).c_str(),
