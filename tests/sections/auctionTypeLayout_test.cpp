@@ -120,22 +120,50 @@ TEST_F(AuctionTypeLayout, TheSectionPacksWithTheHeightsOfItsPanels) {
   }
 }
 
+struct PanelInSection {
+  const char* sPanel;
+  const char* sAllBoxes;
+  const char* sTwoBoxes;
+  const char* sTwoRows;
+  const char* sAbove;
+  const char* sBelow;
+  int nAbove;
+  int nBelowEmpty;  ///< where the row below stands while the panel is empty
+  int nBelowTwo;    ///< and while it has two rows
+};
+
 TEST_F(AuctionTypeLayout, APanelTakesTheHeightOfItsTickedRows) {
-  if (RegionCode() != 1) {
-    GTEST_SKIP() << "the United Kingdom has no kinds of vehicles";
-  }
-  const std::string sAll =
+  const PanelInSection oDurations = {
+      "ctlShopDuration",
+      "chkShowShop30Days chkShowShop90Days chkShowShopGoodTillCancelled",
+      "chkShowShop30Days chkShowShopGoodTillCancelled",
+      "optShop30Days@0 optShopGoodTillCancelled@280",
+      "chkShopInventory",
+      "lblTotal",
+      1480,
+      1825,
+      2360};
+  const PanelInSection oVehicles = {
+      "ctlMotorAuction",
       "chkShowPassenger chkShowMotorcycle chkShowPowersports chkShowPocketBikes "
-      "chkShowOtherVehicle chkShowParts";
-  const SectionPanel& oVehicles = Panel("ctlMotorAuction");
-  Toggle(sAll);
-  EXPECT_EQ(oVehicles.Height(), 0);
-  EXPECT_EQ(ControlOf(*m_pSection, "optMotorAuction").Top(), 640);
-  EXPECT_EQ(ControlOf(*m_pSection, "optRealEstateAuction").Top(), 920);
-  Toggle("chkShowMotorcycle chkShowParts");
-  EXPECT_EQ(PlacesIn(oVehicles), "optMotorcycle@0 optParts@280");
-  EXPECT_EQ(oVehicles.Height(), 535);
-  EXPECT_EQ(ControlOf(*m_pSection, "optRealEstateAuction").Top(), 1455);
+      "chkShowOtherVehicle chkShowParts",
+      "chkShowMotorcycle chkShowParts",
+      "optMotorcycle@0 optParts@280",
+      "optMotorAuction",
+      "optRealEstateAuction",
+      640,
+      920,
+      1455};
+  const PanelInSection oRow = ByRegion(oDurations, oVehicles);
+  const SectionPanel& oPanel = Panel(oRow.sPanel);
+  Toggle(oRow.sAllBoxes);
+  EXPECT_EQ(oPanel.Height(), 0);
+  EXPECT_EQ(ControlOf(*m_pSection, oRow.sAbove).Top(), oRow.nAbove);
+  EXPECT_EQ(ControlOf(*m_pSection, oRow.sBelow).Top(), oRow.nBelowEmpty);
+  Toggle(oRow.sTwoBoxes);
+  EXPECT_EQ(PlacesIn(oPanel), oRow.sTwoRows);
+  EXPECT_EQ(oPanel.Height(), 535);
+  EXPECT_EQ(ControlOf(*m_pSection, oRow.sBelow).Top(), oRow.nBelowTwo);
 }
 
 TEST_F(AuctionTypeLayout, TickedRowsAreStillTickedAtTheNextStart) {

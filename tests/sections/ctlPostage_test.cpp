@@ -1,6 +1,7 @@
 #include "sections/ctlPostage.h"
 
 #include <sstream>
+#include <vector>
 
 #include "sections/ctlPostageParcelInsurance.h"
 #include "support/PanelTest.h"
@@ -88,11 +89,10 @@ class PostageScripts : public Postage {
   }
 };
 
-TEST_F(PostageScripts, InTheUnitedKingdomTheModelDecidesWhatIsChosen) {
-  if (RegionCode() != 0) {
-    GTEST_SKIP() << "the Royal Mail is the United Kingdom's";
-  }
-  Run(std::array<ScriptRow, 19>{{
+TEST_F(PostageScripts, TheModelDecidesWhatIsChosen) {
+  EXPECT_EQ(Fields(), "class 0, band 0") << "until the section first writes its boxes";
+  EXPECT_EQ(Chosen(), "optBand1 optFirstClass");
+  const std::vector<ScriptRow> aoRoyalMail = {
       {1, "", "class 0, band 0", "£1.00"},
       {1, "txtWeight=0.2", "class 0, band 0", "£1.27"},
       {1, "txtWeight=0.2 optSecondClass", "class 1, band 0", "£1.09"},
@@ -118,43 +118,40 @@ TEST_F(PostageScripts, InTheUnitedKingdomTheModelDecidesWhatIsChosen) {
       {1, "chkRecordedDelivery chkProofOfDelivery chkRecordedDelivery", "class 0, band 0", "£1.00"},
       {2, "chkRecordedDelivery optParcelService chkSendInduvidually", "class 2, band 0, each",
        "£7.70"},
-  }});
-}
-
-TEST_F(PostageScripts, InTheUnitedStatesTheAmountIsTypedByHand) {
-  if (RegionCode() != 1) {
-    GTEST_SKIP() << "the United Kingdom has priced services";
-  }
-  EXPECT_EQ(Fields(), "class 0, band 0") << "until the section first writes its boxes";
-  EXPECT_EQ(Chosen(), "optBand1 optFirstClass");
-  Run(std::array<ScriptRow, 4>{{
+  };
+  const std::vector<ScriptRow> aoTypedByHand = {
       {1, "", "class 3, band 0", "$0.00"},
       {1, "txtManual=8.5", "class 3, band 0", "$8.50"},
       {1, "txtManual=8.5 txtManual=abc", "class 3, band 0", "$8.50"},
       {3, "txtManual=8.5 chkSendInduvidually", "class 3, band 0, each", "$25.50"},
-  }});
+  };
+  Run(ByRegion(aoRoyalMail, aoTypedByHand));
 }
 
 TEST_F(Postage, PricesStandBesideTheServices) {
-  if (RegionCode() != 0) {
-    GTEST_SKIP() << "the Royal Mail is the United Kingdom's";
-  }
-  const auto fnPrices = [&] {
+  struct Row {
+    const char* sScript;
+    const char* sPrices;
+  };
+  const std::vector<Row> aoRoyalMail = {
+      {"txtWeight=0.3", "£1.44 £1.70 £3.85 £0.00 £0.00 £0.00 "},
+      {"chkRecordedDelivery chkProofOfDelivery", "£1.44 £1.70 £3.85 £0.00 £0.68 £2.20 "},
+      {"optParcelService optBand4 txtWeight=3", "£0.00 £10.69 £6.70 £8.00 £0.00 £0.00 "},
+  };
+  const std::vector<Row> aoTypedByHand = {
+      {"txtManual=8.5", "$0.00 $0.00 $0.00 $0.00 $0.00 $0.00 "},
+  };
+  for (const Row& oRow : ByRegion(aoRoyalMail, aoTypedByHand)) {
+    Play(oRow.sScript);
     std::string sPrices;
     for (const char* const sLabel :
          {"lblSecondClass", "lblFirstClass", "lblParcelService", "lblParcelInsuranceCost",
           "lblRecordedDelivery", "lblProofOfDelivery"}) {
       sPrices += Caption(sLabel) + " ";
     }
-    return sPrices;
-  };
-  Play("txtWeight=0.3");
-  EXPECT_EQ(fnPrices(), "£1.44 £1.70 £3.85 £0.00 £0.00 £0.00 ");
-  Play("chkRecordedDelivery chkProofOfDelivery");
-  EXPECT_EQ(fnPrices(), "£1.44 £1.70 £3.85 £0.00 £0.68 £2.20 ");
-  Play("optParcelService optBand4 txtWeight=3");
-  EXPECT_EQ(fnPrices(), "£0.00 £10.69 £6.70 £8.00 £0.00 £0.00 ");
-  EXPECT_EQ(Box("txtWeight").Text(), "3.000");
+    EXPECT_EQ(sPrices, oRow.sPrices) << oRow.sScript;
+  }
+  EXPECT_EQ(Box("txtWeight").Text(), ByRegion("3.000", "0.000"));
 }
 
 TEST_F(Postage, WhatCannotBeChosenIsGrey) {
@@ -287,15 +284,14 @@ TEST_F(Postage, TheRowsOfTheRegionArePackedFromTheirDesignPlaces) {
   }
 }
 
-TEST_F(Postage, TheRowsBelowTheInsuranceFollowItsHeight) {
-  if (RegionCode() != 0) {
-    GTEST_SKIP() << "the row is the United Kingdom's";
-  }
+TEST_F(Postage, TheRowsBelowFollowTheInsuranceAndWhatIsHidden) {
   m_oSection.SetShowConfig(true);
-  ClickOn("chkShowBand2 chkShowBand3 chkShowWeight");
+  ClickOn(ByRegion("chkShowBand2 chkShowBand3 chkShowWeight", "chkShowManual"));
   m_oSection.SetShowConfig(false);
-  EXPECT_EQ(Insurance().Height(), 540);  // two rows, and the gap of 30 behind the first
-  EXPECT_EQ(ControlOf(m_oSection, "chkRecordedDelivery").Top(), 3720 - 280 - (1095 - 540));
+  // Two rows of the insurance, and the gap of 30 behind the first.
+  EXPECT_EQ(Insurance().Height(), ByRegion(540, 1095));
+  EXPECT_EQ(ControlOf(m_oSection, ByRegion("chkRecordedDelivery", "chkProfit")).Top(),
+            ByRegion(3720 - 280 - (1095 - 540), 360 + 2 * 280));
 }
 
 TEST_F(Postage, NoCaptionIsClippedAndEveryInputHasAName) {
