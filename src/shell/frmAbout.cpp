@@ -180,6 +180,7 @@ void frmAbout::PlaceControls() {
   for (const auto& [pControl, nLeft, nTop, nWidth, nHeight] : aoPlaces) {
     pControl->Place(nLeft, nTop, nWidth, nHeight);
   }
+  RescaleAll(*this);  // the fonts too
   m_pAniFlash->setGeometry(0, 0, Pixels(kPageWidth), Pixels(kPageHeight));
 }
 

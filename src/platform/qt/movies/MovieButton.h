@@ -11,6 +11,8 @@ namespace quillet {
 
 /// Works by the mouse, by Space and Enter. One that is checked is drawn in the accent.
 class MovieButton : public QPushButton {
+  Q_OBJECT
+
  public:
   MovieButton(Icon eIcon, const QString& sWords, QWidget* pParent);
 

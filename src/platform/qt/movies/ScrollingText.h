@@ -10,6 +10,8 @@
 namespace quillet {
 
 class ScrollingText : public QWidget {
+  Q_OBJECT
+
  public:
   /// Each "<br>" of the text begins a new line; all else is shown as it is.
   ScrollingText(const QString& sText, QWidget* pParent);

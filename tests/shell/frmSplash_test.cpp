@@ -1,0 +1,119 @@
+#include "shell/frmSplash.h"
+
+#include <QApplication>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "base/basError.h"
+#include "base/clsRegistryAccess.h"
+#include "platform/qt/ShockwaveFlash.h"
+#include "support/ByRegion.h"
+#include "support/Log.h"
+#include "support/TestHost.h"
+
+namespace quillet {
+namespace {
+
+using ::testing::ElementsAre;
+
+constexpr int kPatience = 10000;  // milliseconds
+
+class Splash : public ::testing::Test {
+ protected:
+  frmSplash& Open() {
+    m_oWindow = std::make_unique<frmSplash>();
+    m_oWindow->show();
+    m_oCommands = std::make_unique<QSignalSpy>(&Control(), &ShockwaveFlash::FSCommand);
+    return *m_oWindow;
+  }
+  ShockwaveFlash& Control() { return *m_oWindow->findChild<ShockwaveFlash*>("ShockwaveFlash1"); }
+  QWidget& Movie() { return *Control().focusProxy(); }
+  QStringList Commands() const {
+    QStringList asCommands;
+    for (const QVariantList& oCommand : *m_oCommands) {
+      asCommands += oCommand.value(0).toString();
+    }
+    return asCommands;
+  }
+
+  std::unique_ptr<frmSplash> m_oWindow;
+  std::unique_ptr<QSignalSpy> m_oCommands;
+};
+
+TEST_F(Splash, LoadsThenEndsByItself) {
+  const frmSplash& oSplash = Open();
+  EXPECT_FALSE(oSplash.LoadComplete()) << "nothing is told before the event loop has run";
+  ASSERT_TRUE(QTest::qWaitFor([&] { return oSplash.LoadComplete(); }, kPatience));
+  EXPECT_FALSE(oSplash.MovieComplete());
+  ASSERT_TRUE(QTest::qWaitFor([&] { return oSplash.MovieComplete(); }, kPatience));
+  EXPECT_EQ(Commands(), QStringList({"start", "stop"}));
+}
+
+TEST_F(Splash, AKeyOrAClickEndsItAtOnceAndOnlyOnce) {
+  Open();
+  QTest::keyClick(&Movie(), Qt::Key_Space);
+  EXPECT_EQ(Commands(), QStringList({"start", "stop"}))
+      << "start comes first, however early the key";
+  QTest::mouseClick(&Movie(), Qt::LeftButton);
+  EXPECT_EQ(m_oCommands->size(), 2);
+  Open();
+  QTest::mouseClick(&Movie(), Qt::RightButton);
+  EXPECT_EQ(Commands(), QStringList({"start", "stop"}));
+  EXPECT_TRUE(m_oWindow->LoadComplete() && m_oWindow->MovieComplete());
+}
+
+TEST_F(Splash, TheLastPictureStays) {
+  Open();
+  QTest::keyClick(&Movie(), Qt::Key_Space);
+  const QImage oLast = m_oWindow->grab().toImage();
+  QApplication::processEvents();
+  EXPECT_EQ(m_oWindow->grab().toImage(), oLast);
+  Open();
+  EXPECT_NE(m_oWindow->grab().toImage(), oLast);
+}
+
+TEST_F(Splash, HearsItsCommandsInTheirOwnCaseAlone) {
+  const frmSplash& oSplash = Open();
+  for (const char* const sCommand : {"START", "Stop", "click", ""}) {
+    emit Control().FSCommand(sCommand, "");
+  }
+  EXPECT_FALSE(oSplash.LoadComplete() || oSplash.MovieComplete());
+  emit Control().FSCommand("start", "x");
+  EXPECT_TRUE(oSplash.LoadComplete());
+  EXPECT_FALSE(oSplash.MovieComplete());
+}
+
+TEST_F(Splash, ShowsTheEditionAndLogsItsSteps) {
+  TemporaryFolder oFolder;
+  ScopedHost oHost;
+  oHost.sProgramFolder = oFolder.sPath;
+  WriteTestFile(oFolder / "QlDebug.log", "\n");
+  g_bDebug = true;
+  Open();
+  g_bDebug = false;
+  EXPECT_THAT(LogComments(oFolder),
+              ElementsAre("", "Loading splash movie", "Playing splash movie"));
+  EXPECT_EQ(
+      Movie().accessibleName().toStdString(),
+      ByRegion<std::string>("Quillet, United Kingdom edition", "Quillet, United States edition"));
+}
+
+TEST_F(Splash, StandsWithoutABorderInTheMiddleAtTheStoredZoomUnlessTheScreenIsTooSmall) {
+  Registry().Set(settings::kZoom, "125");
+  Open();
+  const QRect oScreen = m_oWindow->screen()->availableGeometry();
+  EXPECT_EQ(m_oWindow->size(), QSize(691, 381));  // 8295 and 4575 twips at 12 to the pixel
+  EXPECT_LE((m_oWindow->geometry().center() - oScreen.center()).manhattanLength(), 2);
+  EXPECT_TRUE(m_oWindow->windowFlags().testFlag(Qt::FramelessWindowHint));
+  Registry().Set(settings::kZoom, "300");
+  Open();
+  EXPECT_TRUE(oScreen.contains(m_oWindow->geometry()));
+  EXPECT_EQ(Movie().size(), m_oWindow->size());
+}
+
+}  // namespace
+}  // namespace quillet
