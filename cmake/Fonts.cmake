@@ -19,6 +19,7 @@ endif()
 
 find_path(QUILLET_INTER_FOLDER Inter-Regular.otf
           PATHS /usr/share/fonts/opentype/inter /usr/local/share/fonts
+          NO_CMAKE_FIND_ROOT_PATH  # the font of this machine, whatever is built for
           DOC "Folder of the font Inter, as Inter-Regular.otf and so on")
 if(NOT QUILLET_INTER_FOLDER)
   message(FATAL_ERROR "The font Inter isn't installed: install Debian's package fonts-inter, "

@@ -52,3 +52,8 @@ build() {
   if [ -t 2 ]; then say "Building ($preset)" >&2; fi
   step "building $preset" ninja -C "$folder" "$@"
 }
+
+# The version, from the build's one statement of it.
+project_version() {
+  sed -n 's/^project(.* VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt
+}

@@ -51,7 +51,8 @@ qt_fetch() {
 # qt_configure FOLDER: what the program uses and no more.
 qt_configure() {
   local feature off=()
-  for feature in opengl sql dbus concurrent printsupport vulkan xml network tabletevent pkg_config; do
+  for feature in opengl sql dbus concurrent printsupport vulkan xml network tabletevent \
+    direct2d direct2d1_1 gif jpeg pkg_config; do
     off+=("-DFEATURE_$feature=OFF")
   done
   cmake -G Ninja -S "$1/source" -B "$1/build" \
@@ -74,6 +75,7 @@ need_qt() {
   step "configuring Qt" qt_configure "$work"
   step "building Qt" ninja -C "$work/build" ${QUILLET_JOBS:+-j"$QUILLET_JOBS"}
   step "installing Qt" cmake --install "$work/build" --prefix "$work/qt"
+  cp "$work/source/debian/copyright" "$work/qt"
   mv "$work/qt" "$folder"
   rm -rf "$work"
 }

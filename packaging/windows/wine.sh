@@ -1,0 +1,23 @@
+# Sourced: Wine with a Windows of its own in a temporary folder, gone at the end.
+
+wine_program=$(command -v /usr/lib/wine/wine64 wine64 | head -n 1 || true)
+wine_home=
+
+# wine PROGRAM...: runs it, bounded in time.
+wine() { timeout "${WINE_SECONDS:-300}" "$wine_program" "$@"; }
+
+start_wine() {
+  wine_home=$(mktemp -d)
+  export WINEPREFIX=$wine_home/prefix WINEARCH=win64 WINEDEBUG=-all
+  # No menus and file types in the tester's own desktop, no offers to fetch what is missing.
+  export WINEDLLOVERRIDES="winemenubuilder.exe,mscoree,mshtml="
+  wine wineboot -i >"$wine_home/wineboot.log" 2>&1
+}
+
+stop_wine() {
+  [ -z "$wine_home" ] && return
+  timeout 60 "${wine_program%/*}/wineserver" -k
+  timeout 60 "${wine_program%/*}/wineserver" -w
+  rm -rf "$wine_home"
+  wine_home=
+}
