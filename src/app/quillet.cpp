@@ -1,7 +1,9 @@
 // The desktop program: chooses the host, starts, and hands over to the event loop.
 #include <QApplication>
 #include <QIcon>
+#include <string>
 
+#include "app/startArguments.h"
 #include "base/basCommon.h"
 #include "base/basMain.h"
 #include "base/clsRegistryAccess.h"
@@ -15,6 +17,7 @@
 
 int main(int nArguments, char** asArguments) {
   using namespace quillet;
+  const std::string sAuction = AuctionFileToOpen(nArguments, asArguments);
   QApplication oQt(nArguments, asArguments);
   QApplication::setApplicationName("Quillet");
   QApplication::setApplicationDisplayName(QString());
@@ -32,6 +35,9 @@ int main(int nArguments, char** asArguments) {
   DesktopApplication oApplication(*oInternet);
   SetApplication(oApplication);
   Main();
+  if (!sAuction.empty()) {
+    oApplication.OpenAuction(sAuction);
+  }
 
   QApplication::setQuitOnLastWindowClosed(true);
   // A start that had to close the window again has nothing left to run.

@@ -61,21 +61,25 @@ bool DocumentLifecycle::SaveOrLoadAuction(bool bSave) {
   if (!sPath) {
     return false;
   }
-  m_sFileName = TitleOf(*sPath);
-  SetLastFolder(sPath->substr(0, sPath->size() - m_sFileName.size()));
+  UseFile(*sPath, bSave);
+  // A file that failed counts as done, so that what asked for the save carries on.
+  return true;
+}
+
+void DocumentLifecycle::UseFile(const std::string& sPath, bool bSave) {
+  m_sFileName = TitleOf(sPath);
+  SetLastFolder(sPath.substr(0, sPath.size() - m_sFileName.size()));
   try {
     if (bSave) {
-      SaveAuction(*sPath);
+      SaveAuction(sPath);
     } else {
-      LoadAuction(*sPath);
+      LoadAuction(sPath);
     }
     WorkingAuction().SetDirty(false);
     m_oView.SetWindowTitle(m_sFileName, false);
   } catch (const Failure& oFailure) {
     ShowMessage(oFailure.what(), kMessageWarning, "");
   }
-  // A file that failed counts as done, so that what asked for the save carries on.
-  return true;
 }
 
 /// The text is built before the file is touched.

@@ -34,6 +34,9 @@ class DocumentLifecycle {
   /// box, and counts as done. A save replaces the file whole or leaves the old one.
   bool SaveOrLoadAuction(bool bSave);
 
+  /// The same with a file that is already chosen, given by its whole native path.
+  void UseFile(const std::string& sPath, bool bSave);
+
   /// Stores the default auction, or reads it if it was ever stored; it is clean afterwards.
   void SaveOrLoadDefaultAuction(bool bSave);
 

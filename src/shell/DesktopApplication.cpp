@@ -1,7 +1,5 @@
 #include "shell/DesktopApplication.h"
 
-#include <QPointer>
-
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
 
@@ -11,7 +9,7 @@ namespace {
 /// Holds the window, which is deleted only when the event loop has it in hand.
 class MainWindowHandle : public MainWindow {
  public:
-  MainWindowHandle() : m_pWindow(new frmMain) {}
+  explicit MainWindowHandle(frmMain* pWindow) : m_pWindow(pWindow) {}
   MainWindowHandle(const MainWindowHandle&) = delete;
   MainWindowHandle& operator=(const MainWindowHandle&) = delete;
   ~MainWindowHandle() override {
@@ -40,7 +38,14 @@ std::unique_ptr<SplashWindow> DesktopApplication::ShowSplash() {
 }
 
 std::unique_ptr<MainWindow> DesktopApplication::CreateMainWindow() {
-  return std::make_unique<MainWindowHandle>();
+  m_pMain = new frmMain;
+  return std::make_unique<MainWindowHandle>(m_pMain);
+}
+
+void DesktopApplication::OpenAuction(const std::string& sPath) {
+  if (m_pMain != nullptr) {
+    m_pMain->OpenAuction(sPath);
+  }
 }
 
 }  // namespace quillet

@@ -1,10 +1,15 @@
 // What the start sequence starts, on the desktop.
 #pragma once
 
+#include <QPointer>
+#include <string>
+
 #include "base/Application.h"
 #include "online/downloads.h"
 
 namespace quillet {
+
+class frmMain;
 
 class DesktopApplication : public Application {
  public:
@@ -19,7 +24,11 @@ class DesktopApplication : public Application {
   void CloseConnection() override { m_oDownloads.CloseConnection(); }
   [[nodiscard]] std::unique_ptr<MainWindow> CreateMainWindow() override;
 
+  /// Opens an auction file in the main window; nothing happens if that doesn't stand.
+  void OpenAuction(const std::string& sPath);
+
  private:
+  QPointer<frmMain> m_pMain;
   Downloads m_oDownloads;
 };
 

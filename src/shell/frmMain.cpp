@@ -16,8 +16,8 @@
 #include "platform/Files.h"
 #include "platform/qt/ShockwaveFlash.h"
 #include "platform/qt/Theme.h"
-#include "shell/frmAbout.h"
 #include "shell/formPosition.h"
+#include "shell/frmAbout.h"
 #include "shell/zoomSteps.h"
 
 namespace quillet {
@@ -242,6 +242,13 @@ void frmMain::ClickButton(int nIndex) {
   }
 }
 
+void frmMain::OpenAuction(const std::string& sPath) {
+  IgnoreFailure([&] {
+    ClickButton(kButtonCalculator);
+    m_oDocuments.UseFile(sPath, false);
+  });
+}
+
 void frmMain::ShowCalculator() {
   PushDocument(false, WorkingAuction(), m_oDocuments.FileName());
   MarkCurrent(kButtonCalculator);
@@ -357,8 +364,8 @@ void frmMain::CommitTyping() {
   }
 }
 
-/// A box that is left writes into the auction on view. So it is left before a command that may bring
-/// another one, which would else be changed by it.
+/// A box that is left writes into the auction on view. So it is left before a command that may
+/// bring another one, which would else be changed by it.
 void frmMain::LeaveBox() {
   if (qobject_cast<QLineEdit*>(QApplication::focusWidget()) != nullptr) {
     QWidget& oView = m_pWizard->Visible() ? m_pWizard->Widget() : m_pCalculator->Widget();

@@ -39,6 +39,10 @@ class frmMain : public QWidget, private DocumentView {
   /// As a click on a button of the column. An unknown one says so in a message box.
   void ClickButton(int nIndex);
 
+  /// Loads an auction file as the Load button does with the file that the user chooses, and shows
+  /// it in the calculator.
+  void OpenAuction(const std::string& sPath);
+
   /// Draws everything at another size, in percent, and remembers it.
   void SetZoomPercent(int nPercent);
 
@@ -81,10 +85,10 @@ class frmMain : public QWidget, private DocumentView {
   std::array<ShockwaveFlash*, 6> m_apMenuButtons{};
   ShockwaveFlash* m_pAbout = nullptr;
   std::unique_ptr<frmAbout> m_frmAboutBox;  ///< while it is open
-  int m_lMinWidth = 0;        ///< twips; the smallest size while the wizard shows
-  int m_lMinHeight = 0;       ///< likewise
-  int m_lCalcMinWidth = 0;    ///< twips; what CalcMinSize told last
-  int m_lCalcMinHeight = 0;   ///< likewise
+  int m_lMinWidth = 0;                      ///< twips; the smallest size while the wizard shows
+  int m_lMinHeight = 0;                     ///< likewise
+  int m_lCalcMinWidth = 0;                  ///< twips; what CalcMinSize told last
+  int m_lCalcMinHeight = 0;                 ///< likewise
   int m_lAboutBottomGap = 0;  ///< twips from the top of the about button to the window's bottom
   bool m_bFirstActivate = true;
   bool m_bFirstStart = false;  ///< no zoom was ever stored
