@@ -71,10 +71,10 @@ class Screen:
 
     # The program
 
-    def start(self, name="quillet", **environment):
-        self.program = subprocess.Popen([PROGRAMS / name], cwd=self.home,
+    def start(self, name="quillet", *arguments, **environment):
+        self.program = subprocess.Popen([PROGRAMS / name, *arguments], cwd=self.home,
                                         env={**self.environment, **environment})
-        self.window("Quillet ..( - Default Configuration)?")
+        self.window("Quillet ..( - .+)?")
 
     def windows(self, title):
         return self.output("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split()

@@ -2,10 +2,14 @@
 """The whole desktop program on a screen with a window manager, under real keys and mouse events."""
 
 import functools
+import pathlib
 import re
+import subprocess
 import unittest
 
-from desktop import Screen, wait_for
+from desktop import PROGRAMS, Screen, wait_for
+
+SAMPLES = pathlib.Path(__file__).resolve().parents[2] / "data/samples"
 
 
 def on_a_screen(test):
@@ -98,6 +102,24 @@ class WholeProgram(unittest.TestCase):
         self.assertEqual(screen.gone(), 0)
         place = re.compile(r"PayPal\\\\?(?:Left|Top)=\"?(\d+)")
         self.assertEqual(place.findall(before), place.findall(screen.settings()))
+
+    @on_a_screen
+    def test_a_file_on_the_command_line_opens_in_the_calculator(self):
+        screen = self.screen
+        screen.start("quillet", SAMPLES / "carburetor.qlt", "Debug=True")
+        screen.window("Quillet US - carburetor")
+        screen.keys("ctrl+q")
+        self.assertEqual(screen.gone(), 0)
+
+    def test_version_and_help_need_no_screen(self):
+        for program, edition in (("quillet", "Quillet US"), ("quillet-uk", "Quillet UK")):
+            told = subprocess.run([PROGRAMS / program, "--version"], capture_output=True, text=True,
+                                  env={"LANG": "C.UTF-8"}, timeout=20, check=True)
+            self.assertRegex(told.stdout, rf"^{edition} \d+\.\d+\.\d+\n$")
+        told = subprocess.run([PROGRAMS / "quillet", "--prices"], capture_output=True, text=True,
+                              env={"LANG": "C.UTF-8"}, timeout=20, check=False)
+        self.assertNotEqual(told.returncode, 0)
+        self.assertIn("prices", told.stderr)
 
     def focus_first_box(self):
         """A click into the box of the outlay: 1800, 360 of a section at 240, 1560 of the view."""
