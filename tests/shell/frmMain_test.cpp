@@ -92,6 +92,26 @@ TEST_F(Window, EnteringConfigModeTakesTheStoredDefaultAuction) {
   EXPECT_FALSE(DefaultAuction().m_oPayPal.m_bEnabled);
 }
 
+TEST_F(Window, ACommandByKeyLeavesTheBoxBeforeItBringsAnotherAuction) {
+  Start();
+  const auto fnEnterBox = [this] {
+    dynamic_cast<ctlNumericText&>(
+        ControlOf(m_oWindow->Calculator().Set().ctlOutlaySection, "txtOutlay"))
+        .TextBox()
+        ->setFocus();
+  };
+  fnEnterBox();
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_5);
+  QTest::keyClick(m_oWindow.get(), Qt::Key_Comma, Qt::ControlModifier);
+  EXPECT_FALSE(DefaultAuction().IsDirty());
+  EXPECT_EQ(DefaultAuction().m_oOutlay.m_fOutlay, 0);
+  EXPECT_EQ(WorkingAuction().m_oOutlay.m_fOutlay, 5) << "what was typed counts";
+  fnEnterBox();
+  WorkingAuction().SetDirty(false);
+  QTest::keyClick(m_oWindow.get(), Qt::Key_1, Qt::ControlModifier);
+  EXPECT_FALSE(WorkingAuction().IsDirty());
+}
+
 TEST_F(Window, CloseAsksAndCanBeCancelled) {
   Start();
   Change();
