@@ -19,6 +19,7 @@ OutFile "${OUTPUT}"
 RequestExecutionLevel user
 InstallDir "$LOCALAPPDATA\Programs\Quillet"
 InstallDirRegKey HKCU "${UNINSTALL}" "InstallLocation"
+ManifestDPIAware true
 SetCompressor /SOLID lzma
 
 VIProductVersion "${VERSION}.0"

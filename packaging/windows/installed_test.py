@@ -1,0 +1,132 @@
+#!/usr/bin/env python3
+"""Installs the Windows program under Wine as a user would, works with it, and takes it off again:
+installed_test.py SETUP.EXE UPDATE_SERVERS."""
+
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import unittest
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tests" / "whole"))
+from desktop import Screen, wait_for  # noqa: E402
+
+WINE = next(p for p in ("/usr/lib/wine/wine64", shutil.which("wine64")) if p and os.path.exists(p))
+SETUP = pathlib.Path(sys.argv.pop(1)).resolve()
+SERVERS = pathlib.Path(sys.argv.pop(1)).resolve()
+SETTINGS = r"HKCU\Software\Velmor\Quillet US"
+MACHINE = r"HKLM\Software\Velmor\Quillet US\Config"
+TITLE = "Quillet US( - Default Configuration)?"
+
+
+class WineScreen(Screen):
+    """A screen with a Windows of its own, gone at the end."""
+
+    def __init__(self, name):
+        super().__init__(name, "1600x1000")
+        del self.environment["QT_QPA_PLATFORM"]
+        self.environment |= {
+            "WINEPREFIX": str(self.home / "prefix"), "WINEARCH": "win64", "WINEDEBUG": "-all",
+            "WINEDLLOVERRIDES": "winemenubuilder.exe,mscoree,mshtml="}
+        self.wine("wineboot", "-i", seconds=240)
+        self.user = next(p for p in (self.home / "prefix/drive_c/users").iterdir()
+                         if p.name != "Public")
+        self.folder = self.user / "AppData/Local/Programs/Quillet"
+
+    def wine(self, *command, seconds=120):
+        return subprocess.run([WINE, *map(str, command)], env=self.environment, cwd=self.home,
+                              capture_output=True, text=True, errors="replace", timeout=seconds,
+                              check=False)
+
+    def registry(self, key, *what):
+        """What reg.exe tells of a key; nothing if there is no such key or value."""
+        done = self.wine("reg", "query", key, *what)
+        return done.stdout if done.returncode == 0 else ""
+
+    def start_installed(self, *words):
+        self.program = subprocess.Popen([WINE, self.folder / "quillet.exe", *words],
+                                        env=self.environment, cwd=self.home,
+                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        return self.window(TITLE)
+
+    def close(self):
+        server = pathlib.Path(WINE).with_name("wineserver")
+        subprocess.run([server, "-k"], env=self.environment, timeout=60, check=False)
+        super().close()
+
+
+class Installed(unittest.TestCase):
+    """The tests follow each other in the order of their names."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.screen = WineScreen("windows")
+        cls.addClassCleanup(cls.screen.close)
+
+    def install(self):
+        self.assertEqual(self.screen.wine(SETUP, "/S").returncode, 0)
+
+    def uninstall(self, *switches):
+        self.screen.wine(self.screen.folder / "uninstall.exe", "/S", *switches)
+        wait_for("the end of the program folder", lambda: not self.screen.folder.exists())
+
+    def test_1_the_installer_puts_one_program_without_libraries(self):
+        self.install()
+        files = {p.name for p in self.screen.folder.iterdir()}
+        self.assertEqual(files, {"quillet.exe", "quillet-calc.exe", "UpdateUS_v0101.dat", "Licences",
+                                 "uninstall.exe"})
+        self.assertTrue(list(self.screen.user.rglob("Start Menu/**/Quillet.lnk")))
+        command = self.screen.registry(r"HKCU\Software\Classes\Quillet.Auction\shell\open\command",
+                                       "/ve")
+        self.assertRegex(command, r'Programs\\Quillet\\quillet\.exe" "%1"')
+
+    def test_2_the_program_calculates_and_keeps_its_settings_in_the_registry(self):
+        window = self.screen.start_installed()
+        self.screen.keep_picture("windows-start")
+        zoom = self.screen.registry(SETTINGS, "/s", "/f", "Zoom")
+        self.screen.keys("ctrl+plus")
+        wait_for("another zoom in the registry", lambda: self.screen.registry(
+            SETTINGS, "/s", "/f", "Zoom") not in ("", zoom))
+        self.screen.keep_picture("windows-zoomed")
+        self.screen.output("xdotool", "windowclose", window)
+        self.screen.gone()
+        self.assertIn(r"\Forms", self.screen.registry(SETTINGS, "/s"))
+
+    def test_3_a_start_fetches_the_fees_from_real_servers(self):
+        schedule = self.screen.folder / "UpdateUS_v0101.dat"
+        before = schedule.read_bytes()
+        with subprocess.Popen([SERVERS], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                              text=True) as servers:
+            for name in ("WebServer", "FtpServer"):
+                self.screen.wine("reg", "add", MACHINE, "/v", name, "/d",
+                                 servers.stdout.readline().strip())
+            files = pathlib.Path(servers.stdout.readline().strip())
+            (files / "web/getAction.asp").write_text("0,nothing", encoding="utf-8")
+            (files / "ftp" / schedule.name).write_bytes(before + b"\n")
+            window = self.screen.start_installed("DEBUG=TRUE")
+            self.screen.output("xdotool", "windowclose", window)
+            self.screen.gone()
+            servers.stdin.close()
+        log = (self.screen.folder / "QlDebug.log").read_text(encoding="utf-8")
+        self.assertEqual(schedule.read_bytes(), before + b"\n", log)
+        self.assertIn("DL - Special actions 6 - okay", log)
+        self.assertIn("DL - Update file 9 - okay", log)
+
+    def test_4_uninstalling_leaves_nothing_but_the_settings(self):
+        self.uninstall()
+        self.assertFalse(list(self.screen.user.rglob("Quillet.lnk")))
+        for key in (r"HKCU\Software\Classes\Quillet.Auction", r"HKCU\Software\Classes\.qlt",
+                    r"HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Quillet"):
+            self.assertEqual(self.screen.registry(key), "", key)
+        self.assertIn("Quillet US", self.screen.registry(SETTINGS, "/s"))
+
+    def test_5_the_switch_takes_the_settings_too(self):
+        self.install()
+        self.uninstall("/SETTINGS")
+        wait_for("the end of the settings",
+                 lambda: not self.screen.registry(r"HKCU\Software\Velmor"))
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

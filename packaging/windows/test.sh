@@ -1,0 +1,34 @@
+# Sourced by ./test: the Windows program under Wine, from its units to what the installer leaves.
+# Ends the script.
+. packaging/windows/wine.sh
+
+# run_tests NAME: a test program for both regions.
+run_tests() {
+  local region
+  for region in us uk; do
+    tests "$1 on Windows, $region" wine "build/windows/bin/$1_tests_$region.exe"
+  done
+}
+
+need_packages run test windows-core windows windows-test
+say "Package"
+./package windows || exit 1
+. packaging/windows/qt.sh
+QUILLET_WINDOWS_QT=$(qt_folder)
+export QUILLET_WINDOWS_QT
+
+say "Tests"
+build windows
+build release update_servers
+trap stop_wine EXIT
+step "starting Wine" start_wine
+run_tests core
+run_tests widget
+check "installer and installed program" \
+  packaging/windows/installed_test.py "dist/Quillet-$(project_version)-setup.exe" \
+  build/release/bin/update_servers
+
+for name in "${failures[@]}"; do say "failed: $name"; done
+say "$passed passed, $failed failed"
+[ "$failed" = 0 ]
+exit
