@@ -18,7 +18,7 @@
 namespace quillet {
 namespace {
 
-constexpr int kMostRaised = 300;  // by a step; a load of another kind of auction raises most
+constexpr int kMostRaised = 120;  // by a step; walks have seen 54
 constexpr int kRunaway = 20000;   // beyond it the stack is near its end
 
 std::string TextOf(clsCalculate& oAuction) {
