@@ -8,12 +8,12 @@ usage: samples_test.py FOLDER_OF_THE_PROGRAMS [SAMPLE...]"""
 import os
 import pathlib
 import re
-import subprocess
 import sys
 
 if len(sys.argv) > 1:
     os.environ["QUILLET_BIN"] = sys.argv[1]
-from desktop import Screen, wait_for  # noqa: E402
+from desktop import wait_for  # noqa: E402
+from seen import Desktop, ReadableScreen  # noqa: E402
 
 SOURCE = pathlib.Path(__file__).resolve().parents[2]
 FIGURES = ("Insertion Fee", "Features", "Reserve Fee", "Final Value Fee", "PayPal Fee",
@@ -49,86 +49,14 @@ def fields(name):
     return {title: values.split("|") for title, values in re.findall(r"\[(\w+)\](.*?)\[\1\]", text)}
 
 
-class Desktop:
-    """A program on its screen, seen as a screen reader sees it."""
+class Seller(Desktop):
+    """Enters auctions into the calculator."""
 
     def __init__(self, screen, program):
-        self.screen = screen
         screen.start(program)
         screen.keys("ctrl+1")
-        application = wait_for("the program in the accessibility tree", lambda: self.newest())
-        application.set_cache_mask(Atspi.Cache.NONE)
-        self.controls = wait_for("the controls", lambda: self.read(application))
-
-    @staticmethod
-    def newest():
-        desktop = Atspi.get_desktop(0)
-        found = [desktop.get_child_at_index(i) for i in range(desktop.get_child_count())]
-        found = [a for a in found if a and a.get_name().startswith("Quillet")]
-        return found[-1] if found else None
-
-    @staticmethod
-    def read(application):
-        """Everything on view, by the name of its section, its own name and its role."""
-        controls = {}
-
-        def walk(node, section):
-            for child in (node.get_child_at_index(i) for i in range(node.get_child_count())):
-                if child is None or not child.get_state_set().contains(Atspi.StateType.SHOWING):
-                    continue
-                role, name = child.get_role_name(), child.get_name()
-                told = child.get_description() or name[:len("Section Total")]
-                if role == "label" and (told == "Section Total" or child.get_description()):
-                    role, name = "figure", told
-                controls.setdefault((section, name, role), []).append(child)
-                inner = name if role == "filler" and name and child.get_child_count() > 2 else section
-                walk(child, inner)
-
-        walk(application, "")
-        return controls if ("Postage", "Manual", "text") in controls else None
-
-    def control(self, section, name, role, number=0):
-        found = self.controls.get((section, name, role), [])
-        if len(found) != 1 and not number:
-            raise AssertionError(f"{len(found)} controls are {role} {name!r} of {section!r}")
-        return found[number]
-
-    def click(self, control):
-        place = control.get_extents(Atspi.CoordType.SCREEN)
-        self.screen.click(place.x + 8, place.y + place.height // 2)
-
-    @staticmethod
-    def is_chosen(control):
-        return control.get_state_set().contains(Atspi.StateType.CHECKED)
-
-    def tick(self, section, name, wanted):
-        box = self.controls.get((section, name, "check box"))
-        if not box and not wanted:
-            return  # a row of the other region
-        box = self.control(section, name, "check box")
-        if self.is_chosen(box) != wanted:
-            self.click(box)
-            wait_for(f"{name} to be {wanted}", lambda: self.is_chosen(box) == wanted)
-
-    def choose(self, section, name):
-        option = self.control(section, name, "radio button")
-        self.click(option)
-        wait_for(f"{name} to be chosen", lambda: self.is_chosen(option))
-
-    def choose_nth(self, section, number):
-        """For options that the fee schedule names."""
-        options = [control for (group, _, role), found in self.controls.items()
-                   for control in found if group == section and role == "radio button"]
-        options.sort(key=lambda control: control.get_extents(Atspi.CoordType.SCREEN).y)
-        self.click(options[number])
-        wait_for(f"{section} {number}", lambda: self.is_chosen(options[number]))
-
-    def type(self, section, name, text):
-        box = self.control(section, name, "text")
-        self.click(box)
-        self.screen.keys("ctrl+a")
-        self.screen.type(text)
-        self.screen.keys("Tab")
+        super().__init__(screen)
+        self.look("Postage", "Manual", "text")
 
     def figures(self):
         """What is on view of the table's row."""
@@ -139,8 +67,6 @@ class Desktop:
         profit, _, percent = read["Profit"].partition(" (")
         read["Profit"], read["%"] = profit, percent.rstrip("%)")
         return {name: re.sub("[$£]", "", figure) for name, figure in read.items()}
-
-    # The seller
 
     def start_anew(self):
         self.screen.keys("ctrl+n")
@@ -235,7 +161,7 @@ def run(screen, chosen):
         names = [name for name in chosen if name.startswith("uk-") == region]
         if not names:
             continue
-        desktop = Desktop(screen, program)
+        desktop = Seller(screen, program)
         for name in names:
             check(desktop, name, table()[name])
         screen.program.kill()
@@ -243,31 +169,11 @@ def run(screen, chosen):
 
 
 def main():
-    global Atspi
     chosen = sys.argv[2:] or list(table())
     assert chosen, "the page has no table"
-    screen = Screen()
-    bus = subprocess.Popen(["dbus-daemon", "--session", "--nofork", "--print-address=1"],
-                           env=screen.environment, stdout=subprocess.PIPE,
-                           stderr=subprocess.DEVNULL, text=True)
-    try:
-        screen.environment.update(DBUS_SESSION_BUS_ADDRESS=bus.stdout.readline().strip(),
-                                  QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_ACCESSIBILITY="1")
-        os.environ.update({key: screen.environment[key] for key in
-                           ("DISPLAY", "XDG_RUNTIME_DIR", "DBUS_SESSION_BUS_ADDRESS")})
-        import gi  # behind the bus, which it looks for at once
-        gi.require_version("Atspi", "2.0")
-        from gi.repository import Atspi
+    with ReadableScreen("samples") as screen:
         run(screen, chosen)
-        return 0
-    except Exception as error:
-        print(f"failed: {error!r}; picture: {screen.keep_picture('samples')}", flush=True)
-        return 1
-    finally:
-        screen.close()
-        bus.kill()
-        bus.wait()
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    main()
