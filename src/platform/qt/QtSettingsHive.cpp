@@ -148,7 +148,7 @@ QtSettingsHive::QtSettingsHive(std::unique_ptr<Store> oUser, std::unique_ptr<Sto
 }
 
 QtSettingsHive::~QtSettingsHive() {
-  Flush();
+  QtSettingsHive::Flush();
 }
 
 void QtSettingsHive::Flush() {
