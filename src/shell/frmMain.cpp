@@ -361,13 +361,16 @@ void frmMain::CommitTyping() {
   if (pText != nullptr && pText->isModified()) {
     pText->clearFocus();
     pText->setFocus();
+    pText->setModified(false);
   }
 }
 
 /// A box that is left writes into the auction on view. So it is left before a command that may
-/// bring another one, which would else be changed by it.
+/// bring another one, which would else be changed by it. One that nobody has typed into since it
+/// was saved has nothing to write.
 void frmMain::LeaveBox() {
-  if (qobject_cast<QLineEdit*>(QApplication::focusWidget()) != nullptr) {
+  if (auto* const pText = qobject_cast<QLineEdit*>(QApplication::focusWidget())) {
+    const QSignalBlocker oQuiet(pText->isModified() ? nullptr : pText->parent());
     QWidget& oView = m_pWizard->Visible() ? m_pWizard->Widget() : m_pCalculator->Widget();
     oView.setFocus();
   }

@@ -110,6 +110,12 @@ TEST_F(Window, ACommandByKeyLeavesTheBoxBeforeItBringsAnotherAuction) {
   WorkingAuction().SetDirty(false);
   QTest::keyClick(m_oWindow.get(), Qt::Key_1, Qt::ControlModifier);
   EXPECT_FALSE(WorkingAuction().IsDirty());
+  fnEnterBox();
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_7);
+  m_oHost.asChoices = {m_oFolder / "typed.qlt"};
+  QTest::keyClick(m_oWindow.get(), Qt::Key_S, Qt::ControlModifier);
+  QTest::keyClick(m_oWindow.get(), Qt::Key_N, Qt::ControlModifier);
+  EXPECT_TRUE(m_oHost.aoShown.empty()) << "what was just saved is not asked about";
 }
 
 TEST_F(Window, CloseAsksAndCanBeCancelled) {
