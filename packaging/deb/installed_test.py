@@ -1,0 +1,50 @@
+#!/usr/bin/env python3
+"""Starts the desktop program of a system in a folder, as its user would:
+installed_test.py FOLDER."""
+
+import os
+import pathlib
+import subprocess
+import sys
+import unittest
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tests" / "whole"))
+from desktop import Screen  # noqa: E402
+
+SYSTEM = pathlib.Path(sys.argv.pop(1)).resolve()
+HOME = SYSTEM / "home/seller"
+SAMPLE = "/usr/share/doc/quillet/examples/used-camera.qlt"
+
+
+class SystemScreen(Screen):
+    """A screen outside, and the programs inside with nothing of this machine around them."""
+
+    def start(self, name="quillet", *arguments, **environment):
+        user = HOME.stat()
+        inside = {"DISPLAY": self.environment["DISPLAY"], "HOME": "/home/seller",
+                  "LANG": "C.UTF-8", "PATH": "/usr/bin:/bin", **environment}
+        self.program = subprocess.Popen(
+            [name, *arguments], env=inside, cwd="/",
+            preexec_fn=lambda: (os.chroot(SYSTEM), os.chdir("/home/seller"),
+                                os.setgroups([]), os.setgid(user.st_gid), os.setuid(user.st_uid)))
+
+
+class Installed(unittest.TestCase):
+    def start_and_close(self, title, picture, *command):
+        with SystemScreen(picture, "1280x1024") as screen:
+            screen.start(*command)
+            window = screen.window(title)
+            screen.keep_picture(picture)
+            screen.output("xdotool", "windowclose", window)
+            screen.gone()
+
+    def test_opens_the_auction_that_it_is_given(self):
+        self.start_and_close("Quillet US - used-camera", "deb-us", "quillet", SAMPLE)
+        self.assertTrue((HOME / ".config/velmor/quillet.ini").exists())
+
+    def test_the_other_region_starts_too(self):
+        self.start_and_close("Quillet UK - Default Configuration", "deb-uk", "quillet-uk")
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

@@ -1,0 +1,113 @@
+# Sourced by ./test: the package, installed into a clean Debian 12 that has nothing but what it asks
+# for. Ends the script.
+. packaging/deb/bookworm.sh
+
+if [ -z "${QUILLET_OWN_MOUNTS:-}" ]; then
+  need_packages run deb deb-test
+  say "Package"
+  ./package deb || exit 1
+  # What is mounted goes away with the last process of this name space.
+  as_root env QUILLET_OWN_MOUNTS=yes HOME="$HOME" unshare --mount "$0" deb
+  exit
+fi
+
+version=$(project_version)
+package=dist/quillet_${version}_$(dpkg --print-architecture).deb
+examples=/usr/share/doc/quillet/examples
+system=$(mktemp -d)
+chmod 755 "$system"
+trap 'umount -l "$system"/{proc,tmp/.X11-unix,var/cache/apt/archives}; rm -rf --one-file-system "$system"' EXIT
+
+install_inside() { inside "$system" apt-get install -y --no-install-recommends "$@"; }
+
+install_package() {
+  cp "$package" "$system/quillet.deb" && install_inside /quillet.deb
+}
+
+right_versions() {
+  local program
+  for program in quillet quillet-uk quillet-calc quillet-calc-uk; do
+    as_seller "$system" "$program" --version | tee /dev/stderr | grep -qwF "$version" || return
+  done
+}
+
+right_figures() {
+  as_seller "$system" quillet-calc "$examples/used-camera.qlt" | tee /dev/stderr |
+    grep -q '^Profit  *\$96\.74 (185%)$' &&
+    as_seller "$system" quillet-calc-uk "$examples/uk-tea-set.qlt" | tee /dev/stderr |
+    grep -q '^Profit .*14\.78 (160%)$'
+}
+
+# The user's schedules are copies below the home folder, and the package's own files stay as they are.
+own_schedules() {
+  local name
+  for name in UpdateUS_v0101.dat UpdateUK_v0101.dat; do
+    cmp "$system/home/seller/.local/share/quillet/$name" "$system/usr/lib/quillet/$name" || return
+  done
+  inside "$system" dpkg --verify quillet
+}
+
+install_recommended() {
+  local names
+  names=$(inside "$system" dpkg-query -W -f '${Recommends}' quillet | sed 's/([^)]*)//g; s/,/ /g')
+  # shellcheck disable=SC2086
+  install_inside $names
+}
+
+sound_loads() {
+  inside "$system" ldd -r /usr/lib/quillet/quillet-sound.so >"$kept/sound-library" 2>&1
+  cat "$kept/sound-library"
+  ! grep -qE 'not found|undefined' "$kept/sound-library"
+}
+
+auction_type() {
+  as_seller "$system" gio info -a standard::content-type "$examples/lathe.qlt" | tee /dev/stderr |
+    grep -q ' application/x-quillet-auction$' &&
+    as_seller "$system" gio mime application/x-quillet-auction | tee /dev/stderr |
+    grep -q '^Default.*quillet.*\.desktop$'
+}
+
+pages_render() {
+  local program complaints
+  for program in quillet quillet-uk quillet-calc quillet-calc-uk; do
+    complaints=$(as_seller "$system" env MANROFFSEQ= MANWIDTH=80 man --warnings "$program" 2>&1 >/dev/null)
+    if [ -n "$complaints" ]; then
+      echo "$program: $complaints"
+      return 1
+    fi
+  done
+}
+
+# Only what the user has written may remain.
+purge_leaves_nothing() {
+  local left
+  inside "$system" apt-get purge -y quillet || return
+  rm -f "$system/quillet.deb"
+  left=$(find "$system" -xdev -ipath '*quillet*' ! -path "$system/home/*" ! -path "$system/var/log/*"
+    grep -rli quillet "$system/usr/share/applications" "$system/usr/share/mime" "$system/etc")
+  say "$left"
+  [ -z "$left" ] && [ -f "$system/home/seller/.config/velmor/quillet.ini" ]
+}
+
+check "lintian" lintian --fail-on error "$package"
+step "making a clean system" make_bookworm "$system"
+check "installed with what it depends on" install_package
+check "versions" right_versions
+check "figures of the samples" right_figures
+check "schedules of the user" own_schedules
+check "desktop program" packaging/deb/installed_test.py "$system"
+check "installed with what it recommends" install_recommended
+check "sound library" sound_loads
+step "installing tools" install_inside desktop-file-utils appstream man-db libglib2.0-bin
+check "desktop entries" inside "$system" desktop-file-validate \
+  /usr/share/applications/quillet{,-uk}.desktop
+check "AppStream" inside "$system" appstreamcli validate --no-net \
+  /usr/share/metainfo/example.quillet.quillet.metainfo.xml
+check "type of an auction file" auction_type
+check "manual pages" pages_render
+check "purged" purge_leaves_nothing
+
+for name in "${failures[@]}"; do say "failed: $name"; done
+say "$passed passed, $failed failed"
+[ "$failed" = 0 ]
+exit
