@@ -26,7 +26,7 @@ fetch_bookworm() {
   return $status
 }
 
-# make_bookworm FOLDER: a fresh one, with a user "seller" and the socket of X servers of this machine.
+# make_bookworm FOLDER: a fresh one, with a user "seller" and the sockets of this machine's screens.
 make_bookworm() {
   [ -f "$bookworm_base" ] || fetch_bookworm || return
   tar -C "$1" -xf "$bookworm_base" &&
