@@ -51,7 +51,7 @@ qt_fetch() {
 # qt_configure FOLDER: what the program uses and no more.
 qt_configure() {
   local feature off=()
-  for feature in opengl sql dbus concurrent printsupport vulkan xml network tabletevent \
+  for feature in sql dbus concurrent printsupport vulkan xml network tabletevent \
     direct2d direct2d1_1 gif jpeg pkg_config; do
     off+=("-DFEATURE_$feature=OFF")
   done
@@ -59,6 +59,7 @@ qt_configure() {
     -DCMAKE_TOOLCHAIN_FILE="$PWD/$qt_toolchain" -DCMAKE_BUILD_TYPE=Release \
     -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake \
     -DBUILD_SHARED_LIBS=OFF -DQT_BUILD_TESTS=OFF -DQT_BUILD_EXAMPLES=OFF \
+    -DINPUT_opengl=no \
     "${off[@]}"
 }
 
