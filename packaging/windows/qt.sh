@@ -52,7 +52,7 @@ qt_fetch() {
 qt_configure() {
   local feature off=()
   for feature in sql dbus concurrent printsupport vulkan xml network tabletevent \
-    direct2d direct2d1_1 gif jpeg pkg_config; do
+    direct2d1_1 gif jpeg pkg_config; do
     off+=("-DFEATURE_$feature=OFF")
   done
   cmake -G Ninja -S "$1/source" -B "$1/build" \
