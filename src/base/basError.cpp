@@ -6,6 +6,7 @@
 #include "base/version.h"
 #include "platform/Files.h"
 #include "platform/Host.h"
+#include "platform/UserData.h"
 
 namespace quillet {
 namespace {
@@ -43,8 +44,10 @@ void WriteLog(const std::string& sComment) {
   if (!g_bDebug) {
     return;
   }
-  const std::string sPath = TheHost().ProgramFolder() + NativePath("\\QlDebug.log");
-  (void)AppendToFile(sPath, TimeStamp() + sComment + "\n", Header());
+  const std::string sFolder = TheHost().DataFolder();
+  (void)MakeFolder(sFolder);
+  (void)AppendToFile(sFolder + NativePath("\\QlDebug.log"), TimeStamp() + sComment + "\n",
+                     Header());
 }
 
 }  // namespace quillet

@@ -10,9 +10,9 @@ extern bool g_bDebug;  ///< the log is on
 /// Turns the log on if the text holds "DEBUG=TRUE" anywhere, else off. Case counts.
 void ParseCommandLine(const std::string& sCommandLine);
 
-/// Appends a line with the time to QlDebug.log in the program's folder; the file is opened and
-/// closed each time, so that it survives a crash. Does nothing when the log is off, and never
-/// fails.
+/// Appends a line with the time to QlDebug.log in the program's folder, or in the user's data
+/// folder where that can't be written; the file is opened and closed each time, so that it survives
+/// a crash. Does nothing when the log is off, and never fails.
 void WriteLog(const std::string& sComment);
 
 }  // namespace quillet

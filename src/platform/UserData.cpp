@@ -14,6 +14,12 @@ std::filesystem::path PathOf(const std::string& sUtf8) {
 
 }  // namespace
 
+std::error_code MakeFolder(const std::string& sFolder) {
+  std::error_code oError;
+  std::filesystem::create_directories(PathOf(sFolder), oError);
+  return oError;
+}
+
 std::error_code SeedFile(const std::string& sShipped, const std::string& sOwn) {
   std::error_code oError;
   const auto oShippedTime = std::filesystem::last_write_time(PathOf(sShipped), oError);

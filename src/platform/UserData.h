@@ -10,6 +10,9 @@ namespace quillet {
 /// exist yet; the folder given again for a user who has none. Native paths.
 [[nodiscard]] std::string FolderForChanges(const std::string& sProgramFolder);
 
+/// Makes a folder with those that it lies in, as far as they are missing.
+[[nodiscard]] std::error_code MakeFolder(const std::string& sFolder);
+
 /// Copies `sShipped` to `sOwn` if that is missing or older, by their times of last change; makes
 /// its folder. After an error `sOwn` stands as it was.
 [[nodiscard]] std::error_code SeedFile(const std::string& sShipped, const std::string& sOwn);

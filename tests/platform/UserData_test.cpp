@@ -36,5 +36,13 @@ TEST_F(UserData, WhereNoCopyCanBeMadeTheShippedScheduleIsUsed) {
   EXPECT_EQ(UpdateFileName(false), m_sLocal);
 }
 
+TEST_F(UserData, TheLogLiesBesideTheUsersCopyFromItsFirstLineOn) {
+  m_oHost.sDataFolder = m_oFolder / "share\\quillet";
+  WriteLog("Started app");
+  EXPECT_NE(ReadTestFile(m_oFolder / "share\\quillet\\QlDebug.log").find("  Started app\n"),
+            std::string::npos);
+  EXPECT_EQ(ReadTestFile(m_oFolder / "QlDebug.log"), "\n");
+}
+
 }  // namespace
 }  // namespace quillet
