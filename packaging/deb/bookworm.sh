@@ -17,6 +17,7 @@ fetch_bookworm() {
   local folder mirror
   mirror=$(debian_sources | awk '$3 == "bookworm" { print $2; exit }')
   folder=$(mktemp -d)
+  chmod 755 "$folder"  # goes with the files
   mkdir -p "$bookworm_cache"
   timeout 1200 debootstrap --variant=minbase bookworm "$folder" "$mirror" &&
     debian_sources >"$folder/etc/apt/sources.list" &&

@@ -15,7 +15,6 @@ version=$(project_version)
 package=dist/quillet_${version}_$(dpkg --print-architecture).deb
 examples=/usr/share/doc/quillet/examples
 system=$(mktemp -d)
-chmod 755 "$system"
 trap 'umount -l "$system"/{proc,tmp/.X11-unix,var/cache/apt/archives}; rm -rf --one-file-system "$system"' EXIT
 
 install_inside() { inside "$system" apt-get install -y --no-install-recommends "$@"; }
