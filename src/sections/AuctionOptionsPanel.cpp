@@ -17,7 +17,7 @@ AuctionOptionsPanel::AuctionOptionsPanel(const PanelDesign& oDesign, const Aucti
 void AuctionOptionsPanel::ApplyAuctionType(clsAuctionType& oAuctionType) {
   m_oAuctionType = &oAuctionType;
   for (const OptionRow& oRow : m_oOptions.aoRows) {
-    Choice& oInput = The<Choice>(oRow.sName);
+    auto& oInput = The<Choice>(oRow.sName);
     const bool bChosen = oAuctionType.*m_oOptions.m_lField == oRow.nValue;
     const bool bStays =
         m_oOptions.fnActive(oAuctionType) || dynamic_cast<CheckBox*>(&oInput) == nullptr;

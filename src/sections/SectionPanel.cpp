@@ -17,11 +17,22 @@ constexpr double kTitlePoints = 6.75;
 constexpr int kTitleHeight = 255;  // twips, the header's
 constexpr int kBoxGap = 10;        // twips between the panel's edge and its Show boxes
 
+std::int16_t DecimalPlacesOf(ControlKind eKind) {
+  switch (eKind) {
+    case ControlKind::kMoney:
+      return 2;
+    case ControlKind::kWeight:
+      return 3;
+    default:
+      return 0;
+  }
+}
+
 Control* MakeNumericBox(ControlKind eKind, QWidget* pParent) {
   auto* const pBox = new ctlNumericText(pParent);
   pBox->SetDecimalSeperator(TheHost().DecimalSeparator());
   pBox->SetShowMoney(eKind == ControlKind::kMoney);
-  pBox->SetDecimalPlaces(eKind == ControlKind::kMoney ? 2 : eKind == ControlKind::kWeight ? 3 : 0);
+  pBox->SetDecimalPlaces(DecimalPlacesOf(eKind));
   return pBox;
 }
 
