@@ -64,6 +64,11 @@ class Installed(unittest.TestCase):
         cls.screen = WineScreen("windows")
         cls.addClassCleanup(cls.screen.close)
 
+    def tearDown(self):
+        if self.screen.program and self.screen.program.poll() is None:
+            self.screen.program.kill()
+            self.screen.program.wait()
+
     def install(self):
         self.assertEqual(self.screen.wine(SETUP, "/S").returncode, 0)
 
@@ -82,14 +87,15 @@ class Installed(unittest.TestCase):
         self.assertRegex(command, r'Programs\\Quillet\\quillet\.exe" "%1"')
 
     def test_2_the_program_calculates_and_keeps_its_settings_in_the_registry(self):
-        window = self.screen.start_installed()
+        self.screen.start_installed()
         self.screen.keep_picture("windows-start")
-        zoom = self.screen.registry(SETTINGS, "/s", "/f", "Zoom")
-        self.screen.keys("ctrl+plus")
-        wait_for("another zoom in the registry", lambda: self.screen.registry(
-            SETTINGS, "/s", "/f", "Zoom") not in ("", zoom))
+        config = SETTINGS + r"\Config"
+        zoom = self.screen.registry(config, "/v", "Zoom")
+        self.screen.keys("ctrl+minus")
+        wait_for("another zoom in the registry",
+                 lambda: self.screen.registry(config, "/v", "Zoom") not in ("", zoom))
         self.screen.keep_picture("windows-zoomed")
-        self.screen.output("xdotool", "windowclose", window)
+        self.screen.keys("alt+F4")
         self.screen.gone()
         self.assertIn(r"\Forms", self.screen.registry(SETTINGS, "/s"))
 
@@ -104,8 +110,8 @@ class Installed(unittest.TestCase):
             files = pathlib.Path(servers.stdout.readline().strip())
             (files / "web/getAction.asp").write_text("0,nothing", encoding="utf-8")
             (files / "ftp" / schedule.name).write_bytes(before + b"\n")
-            window = self.screen.start_installed("DEBUG=TRUE")
-            self.screen.output("xdotool", "windowclose", window)
+            self.screen.start_installed("DEBUG=TRUE")
+            self.screen.keys("alt+F4")
             self.screen.gone()
             servers.stdin.close()
         log = (self.screen.folder / "QlDebug.log").read_text(encoding="utf-8")
