@@ -40,14 +40,18 @@ need_packages() {
   step "installing packages" apt_install $missing
 }
 
+# configure PRESET: once.
+configure() {
+  [ -f "build/$1/build.ninja" ] && return
+  say "Configuring ($1)"
+  step "configuring $1" cmake --preset "$1"
+}
+
 # build PRESET [TARGET...]: configures once and builds what has changed.
 build() {
   local preset=$1 folder=build/$1
   shift
-  if [ ! -f "$folder/build.ninja" ]; then
-    say "Configuring ($preset)"
-    step "configuring $preset" cmake --preset "$preset" ${WERROR:+-DQUILLET_WERROR=ON}
-  fi
+  configure "$preset"
   ninja -C "$folder" -n "$@" 2>/dev/null | grep -q 'no work to do' && return
   if [ -t 2 ]; then say "Building ($preset)" >&2; fi
   step "building $preset" ninja -C "$folder" "$@"
