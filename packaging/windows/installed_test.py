@@ -50,6 +50,11 @@ class WineScreen(Screen):
                                         stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         return self.window(TITLE)
 
+    def end(self):
+        """Closes the program; a key that comes before its window has the focus is lost."""
+        wait_for("the program's end",
+                 lambda: self.keys("alt+F4") or self.program.poll() is not None)
+
     def close(self):
         server = pathlib.Path(WINE).with_name("wineserver")
         subprocess.run([server, "-k"], env=self.environment, timeout=60, check=False)
@@ -95,8 +100,7 @@ class Installed(unittest.TestCase):
         wait_for("another zoom in the registry",
                  lambda: self.screen.registry(config, "/v", "Zoom") not in ("", zoom))
         self.screen.keep_picture("windows-zoomed")
-        self.screen.keys("alt+F4")
-        self.screen.gone()
+        self.screen.end()
         self.assertIn(r"\Forms", self.screen.registry(SETTINGS, "/s"))
 
     def test_3_a_start_fetches_the_fees_from_real_servers(self):
@@ -111,8 +115,7 @@ class Installed(unittest.TestCase):
             (files / "web/getAction.asp").write_text("0,nothing", encoding="utf-8")
             (files / "ftp" / schedule.name).write_bytes(before + b"\n")
             self.screen.start_installed("DEBUG=TRUE")
-            self.screen.keys("alt+F4")
-            self.screen.gone()
+            self.screen.end()
             servers.stdin.close()
         log = (self.screen.folder / "QlDebug.log").read_text(encoding="utf-8")
         self.assertEqual(schedule.read_bytes(), before + b"\n", log)
