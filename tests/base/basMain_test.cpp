@@ -30,15 +30,8 @@ class StartHost : public ScopedHost {
     nTicksAtMessage = nTicks;
     return ScopedHost::ShowMessage(sPrompt, nButtons, sTitle);
   }
-  void PumpEvents() override {
-    ScopedHost::PumpEvents();
-    if (fnOnPump) {
-      fnOnPump();
-    }
-  }
 
   std::int64_t nTicksAtMessage = 0;
-  std::function<void()> fnOnPump;
 };
 
 /// Its movie loads and ends a few pumpings after it is shown.

@@ -6,8 +6,8 @@
 
 #include "base/clsRegistryAccess.h"
 #include "documents/lastFolder.h"
-#include "engine/clsCalculate.h"
 #include "platform/Files.h"
+#include "support/Auctions.h"
 #include "support/Log.h"
 #include "support/MemoryHive.h"
 #include "support/Prices.h"
@@ -33,21 +33,12 @@ class RecordingView : public DocumentView {
   std::string sCalls;
 };
 
-std::string TextOf(clsCalculate& oAuction) {
-  std::string sText;
-  oAuction.Serialize(sText, true);
-  return sText;
-}
-
 class Lifecycle : public ::testing::Test {
  protected:
   Lifecycle() {
     SetRegistryHive(m_oHive);
     SetLastFolder(m_oFolder.sPath);
-    for (clsCalculate* const pAuction : {&WorkingAuction(), &DefaultAuction()}) {
-      pAuction->Clear();
-      pAuction->SetDirty(false);
-    }
+    ClearAuctions();
   }
 
   void ChangeWorking() {

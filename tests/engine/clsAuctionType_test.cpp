@@ -3,11 +3,46 @@
 #include <gtest/gtest.h>
 
 #include "base/failure.h"
-#include "engine/AuctionTypeSchedule.h"
 #include "support/ByRegion.h"
+#include "support/Prices.h"
 
 namespace quillet {
 namespace {
+
+// A schedule in which no two prices are alike, so that a mixed-up key shows.
+void UseAuctionTypeSchedule(const std::string& sMore = "") {
+  UseSchedule(
+      Tiers("Opening", {{"0.01", "0.99", "0.2"}, {"1", "9.99", "0.4"}, {"10", "-1", "0.6"}}) +
+      Tiers("Reserve", {{"0.01", "49.99", "1"},
+                        {"50", "199.99", "2"},
+                        {"200", "1999.99", "3"},
+                        {"2000", "-1", "4"}}) +
+      Tiers("ReserveRealEstate",
+            {{"0.01", "49.99", "5"}, {"50", "199.99", "6"}, {"200", "-1", "1"}}) +
+      Tiers("Final", {{"0", "25", "5"}, {"25", "1000", "2.5"}, {"1000", "-1", "1"}}) +
+      Tiers("ShopFinal", {{"0", "-1", "10"}}) +
+      Tiers("FinalMotor", {{"1", "100", "20"}, {"100", "500", "5"}, {"500", "900", "30"}}) +
+      "ReserveMax,20\nReserveRealEstateMax,7\n"
+      "AuctionTypeMotor,16\nAuctionTypeRealEstate,35\nFinalRealEstate,55\n"
+      "ReserveMotor,13\nReserveRealEstate,8\n"
+      "AuctionTypeMotorPassenger,41\nTransactionFeeMotorPassenger,51\nReserveMotorPassenger,61\n"
+      "AuctionTypeMotorMotorcycle,42\nTransactionFeeMotorMotorcycle,62\nReserveMotorMotorbike,72\n"
+      "AuctionTypeMotorPowersports,43\nTransactionFeeMotorPowersports,73\n"
+      "ReserveMotorPowersports,83\n"
+      "AuctionTypeMotorPocketBikes,44\nTransactionFeeMotorPocketBikes,84\n"
+      "ReserveMotorPocketBikes,94\n"
+      "AuctionTypeMotorOther,45\nTransactionFeeMotorOther,95\nReserveMotorOther,105\n"
+      "AuctionTypeRealEstateTimeshareAuction10,100\nAuctionTypeRealEstateTimeshareAuction30,101\n"
+      "AuctionTypeRealEstateTimeshareAd30,102\nAuctionTypeRealEstateTimeshareAd90,103\n"
+      "AuctionTypeRealEstateOtherAuction10,110\nAuctionTypeRealEstateOtherAuction30,111\n"
+      "AuctionTypeRealEstateOtherAd30,112\nAuctionTypeRealEstateOtherAd90,113\n"
+      "AuctionTypeRealEstateAuction10,120\nAuctionTypeRealEstateOther,121\n"
+      "FinalRealEstateTimeshare,45\nFinalRealEstateOther,46\n"
+      "AuctionTypeBusiness,21\nReserveBusiness,22\nFinalBusiness,1\nFinalBusinessMax,250\n"
+      "ShopInsertionFee,0.07\nShopInsertionFee90,0.05\nShopInsertionSurcharge90,0.1\n"
+      "ShopInsertionSurcharge60,0.5\n" +
+      sMore);
+}
 
 struct TypeRow {
   const char* sRule;
@@ -152,6 +187,83 @@ TEST(AuctionType, PartsAreAVehicleWhereTheCallerSaysSo) {
       EXPECT_EQ(oType.IsVehicle(false), bKind) << eType << ", " << eMotor;
       EXPECT_EQ(oType.IsVehicle(true), bKind || (eType == 1 && eMotor == 5)) << eMotor;
     }
+  }
+}
+
+// The United States rules by themselves: they can be asked in either region's program.
+
+TEST(AuctionTypeUs, EachKindOfVehicleHasItsOwnKeys) {
+  UseAuctionTypeSchedule();
+  const clsOutlay oNone;
+  const std::array<std::pair<double, double>, 5> aoExpected = {
+      {{41 + 51, 61}, {42 + 62, 72}, {43 + 73, 83}, {44 + 84, 94}, {45 + 95, 105}}};
+  clsAuctionType oType;
+  oType.m_eAuctionType = kAuctionMotor;
+  for (const auto& [fListing, fReserve] : aoExpected) {
+    EXPECT_EQ(oType.DoCalcListingFee_US(oNone), fListing) << oType.m_eMotorType;
+    EXPECT_EQ(oType.DoCalcReserveFee_US(oNone), fReserve) << oType.m_eMotorType;
+    EXPECT_EQ(oType.DoCalcFinalValueFee_US(oNone), 0);
+    ++oType.m_eMotorType;
+  }
+}
+
+TEST(AuctionTypeUs, RealEstateIsPricedByKindAndSaleFormat) {
+  UseAuctionTypeSchedule();
+  struct Row {
+    std::int32_t eKind, eFormat;
+    double fListing, fBindingFinal;
+  };
+  const Row aoRows[] = {{0, 0, 100, 45},
+                        {0, 1, 101, 45},
+                        {0, 2, 102, 0},
+                        {0, 3, 103, 0},
+                        {1, 0, 110, 46},
+                        {1, 1, 111, 46},
+                        {1, 2, 112, 0},
+                        {1, 3, 113, 0},
+                        // A code outside the lists adds nothing to the key.
+                        {2, 0, 120, 0},
+                        {1, 4, 121, 46},
+                        {255, 255, 35, 0}};
+  for (const Row& oRow : aoRows) {
+    SCOPED_TRACE(std::to_string(oRow.eKind) + ", " + std::to_string(oRow.eFormat));
+    clsOutlay oOutlay;
+    oOutlay.m_lQuantity = 2;
+    clsAuctionType oType;
+    oType.m_eAuctionType = kAuctionRealEstate;
+    oType.m_eRealEstateType = oRow.eKind;
+    oType.m_eRealEstateSaleFormat = oRow.eFormat;
+    EXPECT_EQ(oType.DoCalcListingFee_US(oOutlay), oRow.fListing);
+    EXPECT_EQ(oType.DoCalcFinalValueFee_US(oOutlay), 0);
+    oType.m_bRealEstateBinding = true;
+    EXPECT_EQ(oType.DoCalcFinalValueFee_US(oOutlay), oRow.fBindingFinal);
+  }
+}
+
+TEST(AuctionTypeUs, PercentagesStopAtTheirCapAndWithoutACapAreZero) {
+  clsAuctionType oType;
+  clsOutlay oOutlay;
+  const std::string sReserve =
+      Tiers("Reserve", {{"0.01", "49.99", "1"}, {"50", "199.99", "2"}, {"200", "-1", "1"}});
+  for (const auto& [fReserve, fFee, fFeeWithoutCap] : {std::tuple{20, 1.0, 1.0},
+                                                       {60, 2.0, 2.0},
+                                                       {400, 4.0, 0.0},
+                                                       {500, 5.0, 0.0},
+                                                       {501, 5.0, 0.0}}) {
+    oOutlay.m_fReservePrice = fReserve;
+    UseSchedule(sReserve + "ReserveMax,5");
+    EXPECT_EQ(oType.DoCalcReserveFee_US(oOutlay), fFee) << fReserve;
+    UseSchedule(sReserve);
+    EXPECT_EQ(oType.DoCalcReserveFee_US(oOutlay), fFeeWithoutCap) << fReserve;
+  }
+  oType.m_eAuctionType = kAuctionBusiness;
+  oOutlay.m_lQuantity = 3;  // plays no part
+  for (const auto& [fEnd, fFee] : {std::pair{0, 0}, {2600, 26}, {25000, 250}, {25001, 250}}) {
+    oOutlay.m_fEstimatedEndPrice = fEnd;
+    UseSchedule("FinalBusiness,1\nFinalBusinessMax,250");
+    EXPECT_EQ(oType.DoCalcFinalValueFee_US(oOutlay), fFee) << fEnd;
+    UseSchedule("FinalBusiness,1");
+    EXPECT_EQ(oType.DoCalcFinalValueFee_US(oOutlay), 0) << fEnd;
   }
 }
 

@@ -82,31 +82,26 @@ TEST_F(Http, AServersNameCanHoldItsPort) {
   EXPECT_EQ(m_oInternet.StillOpen(), 0);
 }
 
-TEST_F(Http, AFtpSessionChangesToAFolderIfOneIsNamed) {
+TEST_F(Http, ASessionOrAFolderThatCanNotBeHadRaises) {
   Open();
-  m_oHttp.StartFtpSession("h", "u", "p", "fees");
-  EXPECT_EQ(Story(),
-            "Start FTP 1\n* connect 1 h:21 u p\nStart FTP 2|5|6\n* directory fees\n"
-            "Start FTP 9 - okay");
-  m_oInternet.bHasDirectory = false;
-  EXPECT_EQ(FailureOf([&] { m_oHttp.StartFtpSession("h", "u", "p", "fees"); }),
-            "7 : Error setting directory");
-  EXPECT_EQ(Story(),
-            "Start FTP 1\n* connect 1 h:21 u p\nStart FTP 2|5|6\n* directory fees\n"
-            "Start FTP 7 - fail"s +
-                kPlainError + "Start FTP 8");
-}
-
-TEST_F(Http, ASessionThatCanNotBeHadRaises) {
-  Open();
-  m_oInternet.bConnects = false;
-  m_oInternet.bExtended = true;
-  EXPECT_EQ(FailureOf([&] { m_oHttp.StartFtpSession("h", "u", "p", ""); }),
-            "7 : Error connecting to server");
-  EXPECT_EQ(Story(),
-            "Start FTP 1\n* connect 1 h:21 u p\nStart FTP 2|3"s + kServersError + "Start FTP 4");
+  const std::string sConnect = "Start FTP 1\n* connect 1 h:21 u p\nStart FTP 2|";
+  struct Row {
+    bool bConnects, bHasDirectory;
+    const char* sFailure;
+    std::string sStory;
+  };
+  for (const auto& [bConnects, bHasDirectory, sFailure, sStory] :
+       {Row{true, true, "none", "5|6\n* directory fees\nStart FTP 9 - okay"},
+        Row{true, false, "7 : Error setting directory",
+            "5|6\n* directory fees\nStart FTP 7 - fail"s + kPlainError + "Start FTP 8"},
+        Row{false, true, "7 : Error connecting to server", "3"s + kServersError + "Start FTP 4"}}) {
+    m_oInternet.bConnects = bConnects;
+    m_oInternet.bHasDirectory = bHasDirectory;
+    m_oInternet.bExtended = !bConnects;
+    EXPECT_EQ(FailureOf([&] { m_oHttp.StartFtpSession("h", "u", "p", "fees"); }), sFailure);
+    EXPECT_EQ(Story(), sConnect + sStory);
+  }
   EXPECT_EQ(m_oHttp.LastError(), "Server response: 530 Login incorrect.");
-
   EXPECT_EQ(FailureOf([&] { m_oHttp.StartHttpSession("h", "", ""); }),
             "9 : Error connecting to server");
   EXPECT_EQ(Story(), "Start HTTP 1\n* connect 3 h:80  \nStart HTTP 2|3 - fail"s + kServersError +

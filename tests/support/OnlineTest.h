@@ -1,7 +1,6 @@
 // What tests of the update share: a program's folder of its own, settings in memory, and the log.
 #pragma once
 
-#include <functional>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -18,17 +17,10 @@ namespace quillet {
 
 class OnlineHost : public ScopedHost {
  public:
-  void PumpEvents() override {
-    ScopedHost::PumpEvents();
-    if (fnOnPump) {
-      fnOnPump();
-    }
-  }
   std::string DataFolder() const override {
     return sDataFolder.empty() ? sProgramFolder : sDataFolder;
   }
 
-  std::function<void()> fnOnPump;
   std::string sDataFolder;
 };
 

@@ -3,6 +3,7 @@
 
 #include <deque>
 #include <filesystem>
+#include <functional>
 #include <random>
 #include <string>
 #include <vector>
@@ -42,6 +43,9 @@ class TestHost : public Host {
   void PumpEvents() override {
     ++nTicks;
     ++nPumped;
+    if (fnOnPump) {
+      fnOnPump();
+    }
   }
   std::int64_t TickCount() const override { return nTicks; }
   std::string CommandLine() const override { return sCommandLine; }
@@ -57,6 +61,7 @@ class TestHost : public Host {
   std::vector<std::string> asLinks;
   std::int64_t nTicks = 0;  ///< a millisecond passes at each pumping
   int nPumped = 0;
+  std::function<void()> fnOnPump;  ///< done at each pumping too
   std::string sCommandLine;
   std::string sProgramFolder = ".";
   std::string sDocumentsFolder = ".";
