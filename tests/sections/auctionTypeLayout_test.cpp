@@ -10,7 +10,7 @@
 #include "sections/ctlAuctionType.h"
 #include "sections/ctlSubControlExample.h"
 #include "support/ByRegion.h"
-#include "support/PanelScript.h"
+#include "support/PanelTest.h"
 
 namespace quillet {
 namespace {
@@ -33,49 +33,10 @@ class AuctionTypeLayout : public ::testing::Test {
     ClickOn(*m_pSection, sShowBoxes);
     m_pSection->SetShowConfig(false);
   }
-  SectionPanel& Panel(const std::string& sName) {
-    return dynamic_cast<SectionPanel&>(ControlOf(*m_pSection, sName));
-  }
 
   std::unique_ptr<QWidget> m_oWindow;
   ctlAuctionType* m_pSection = nullptr;
 };
-
-struct RowOfRegion {
-  const char* sPanel;
-  const char* sUnitedStates;
-  const char* sUnitedKingdom;
-};
-
-TEST_F(AuctionTypeLayout, EachRegionHasItsRowsPackedInBothModes) {
-  const std::array aoRows = std::to_array<RowOfRegion>({
-      {"ctlMotorAuction",
-       "optPassenger@0 optMotorcycle@280 optPowersports@560 optPocketBikes@840 "
-       "optOtherVehicle@1120 optParts@1400",
-       ""},
-      {"ctlShopDuration",
-       "optShop30Days@0 optShop60Days@280 optShop90Days@560 optShop120Days@840 "
-       "optShopGoodTillCancelled@1120",
-       "optShop30Days@0 optShop90Days@280 optShopGoodTillCancelled@560"},
-      {"ctlRealEstateOptionsLand1", "optRealEstateTimeShare@0 optRealEstateOther@280",
-       "optRealEstateTimeShare@0 optRealEstateOther@280"},
-      {"ctlRealEstateOptionsSale1",
-       "optRealEstate10DayAuction@0 optRealEstate30DayAuction@280 optRealEstate30DayAd@560 "
-       "optRealEstate90DayAd@840",
-       "optRealEstate10DayAuction@0 optRealEstate30DayAuction@280 optRealEstate30DayAd@560 "
-       "optRealEstate90DayAd@840"},
-      {"ctlRealEstateOption",
-       "ctlRealEstateOptionsLand1@0 ctlRealEstateOptionsSale1@535 chkRealEstateBinding@1630",
-       "ctlRealEstateOptionsLand1@0 ctlRealEstateOptionsSale1@535 chkRealEstateBinding@1630"},
-  });
-  for (const bool bConfig : {false, true}) {
-    m_pSection->SetShowConfig(bConfig);
-    for (const RowOfRegion& oRow : aoRows) {
-      EXPECT_EQ(PlacesIn(Panel(oRow.sPanel)), ByRegion(oRow.sUnitedKingdom, oRow.sUnitedStates))
-          << oRow.sPanel << (bConfig ? " in config mode" : "");
-    }
-  }
-}
 
 // Every panel is packed first: of its design's height it gives back, or takes, what its last row
 // ends before or behind. United States: vehicles 1655 of 1680, real estate 1885 of 1935, durations
@@ -96,13 +57,6 @@ TEST_F(AuctionTypeLayout, TheSectionPacksWithTheHeightsOfItsPanels) {
        "ctlShopDuration@1765 ctlMotorAuction@915 chkShopInventory@1480 chkBuyItNow@1200 "
        "optMotorAuction@640 optRealEstateAuction@920 optStandardAution@360 lblTotal@2640",
        7300, 2895},
-      {"chkShowMotor",
-       "ctlShopDuration@3675 ctlRealEstateOption@920 optBusinessAuction@2830 "
-       "chkShopInventory@3390 chkBuyItNow@3110 optRealEstateAuction@640 optStandardAution@360 "
-       "lblTotal@5110",
-       "ctlShopDuration@1485 chkShopInventory@1200 chkBuyItNow@920 optRealEstateAuction@640 "
-       "optStandardAution@360 lblTotal@2360",
-       5365, 2615},
       {"chkShowMotor chkShowShopInventory chkShowRealEstate chkShowTotal",
        "optBusinessAuction@640 chkBuyItNow@920 optStandardAution@360",
        "chkBuyItNow@640 optStandardAution@360", 1175, 895},
@@ -118,52 +72,6 @@ TEST_F(AuctionTypeLayout, TheSectionPacksWithTheHeightsOfItsPanels) {
     Toggle(oRow.sUnticked);
     EXPECT_EQ(PlacesIn(*m_pSection), ByRegion(aoRows[0].sUnitedKingdom, aoRows[0].sUnitedStates));
   }
-}
-
-struct PanelInSection {
-  const char* sPanel;
-  const char* sAllBoxes;
-  const char* sTwoBoxes;
-  const char* sTwoRows;
-  const char* sAbove;
-  const char* sBelow;
-  int nAbove;
-  int nBelowEmpty;  ///< where the row below stands while the panel is empty
-  int nBelowTwo;    ///< and while it has two rows
-};
-
-TEST_F(AuctionTypeLayout, APanelTakesTheHeightOfItsTickedRows) {
-  const PanelInSection oDurations = {
-      "ctlShopDuration",
-      "chkShowShop30Days chkShowShop90Days chkShowShopGoodTillCancelled",
-      "chkShowShop30Days chkShowShopGoodTillCancelled",
-      "optShop30Days@0 optShopGoodTillCancelled@280",
-      "chkShopInventory",
-      "lblTotal",
-      1480,
-      1825,
-      2360};
-  const PanelInSection oVehicles = {
-      "ctlMotorAuction",
-      "chkShowPassenger chkShowMotorcycle chkShowPowersports chkShowPocketBikes "
-      "chkShowOtherVehicle chkShowParts",
-      "chkShowMotorcycle chkShowParts",
-      "optMotorcycle@0 optParts@280",
-      "optMotorAuction",
-      "optRealEstateAuction",
-      640,
-      920,
-      1455};
-  const PanelInSection oRow = ByRegion(oDurations, oVehicles);
-  const SectionPanel& oPanel = Panel(oRow.sPanel);
-  Toggle(oRow.sAllBoxes);
-  EXPECT_EQ(oPanel.Height(), 0);
-  EXPECT_EQ(ControlOf(*m_pSection, oRow.sAbove).Top(), oRow.nAbove);
-  EXPECT_EQ(ControlOf(*m_pSection, oRow.sBelow).Top(), oRow.nBelowEmpty);
-  Toggle(oRow.sTwoBoxes);
-  EXPECT_EQ(PlacesIn(oPanel), oRow.sTwoRows);
-  EXPECT_EQ(oPanel.Height(), 535);
-  EXPECT_EQ(ControlOf(*m_pSection, oRow.sBelow).Top(), oRow.nBelowTwo);
 }
 
 TEST_F(AuctionTypeLayout, TickedRowsAreStillTickedAtTheNextStart) {
@@ -220,11 +128,7 @@ TEST_F(AuctionTypeLayout, NoCaptionIsClippedAndEveryInputHasAName) {
     m_pSection->SetShowConfig(bConfig);
     EXPECT_EQ(ClippedCaptionsIn(*m_pSection), "") << (bConfig ? "in config mode" : "");
   }
-  for (const Control* const pControl : AllControls(*m_pSection)) {
-    if (dynamic_cast<const Choice*>(pControl) != nullptr) {
-      EXPECT_FALSE(pControl->Caption().isEmpty()) << pControl->Name();
-    }
-  }
+  EXPECT_EQ(UnnamedInputsIn(*m_pSection), "");
 }
 
 // The template stands in no window of the program.

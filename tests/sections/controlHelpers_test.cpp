@@ -74,16 +74,6 @@ TEST_F(controlHelpersTest, GreyingUnticksBoxesDisablesNumbersAndLeavesOptionsAsT
   EXPECT_TRUE(m_oFrame.Enabled());
 }
 
-TEST_F(controlHelpersTest, ControlsAreToldApartByNameAndType) {
-  EXPECT_TRUE(IsShowCheck(Make<CheckBox>("chkShowOutlay")));
-  EXPECT_FALSE(IsShowCheck(Make<CheckBox>("chkOutlay")));
-  EXPECT_FALSE(IsShowCheck(Make<Label>("chkShowOutlay")));
-  EXPECT_TRUE(IsHeaderImage(Make<Image>("imgHeader")));
-  EXPECT_FALSE(IsHeaderImage(Make<Image>("imgHeader2")));
-  EXPECT_TRUE(IsSubControl(Make<ctlNumericText>("txtA")));
-  EXPECT_FALSE(IsSubControl(Make<Label>("ctlA")));
-}
-
 TEST_F(controlHelpersTest, RowsAreSeenByRegionListAndModeAndBoxesTickedByTheirWholeTag) {
   clsTokeniser oList;
   oList.AddToArray("BorderLine");
@@ -101,12 +91,6 @@ TEST_F(controlHelpersTest, RowsAreSeenByRegionListAndModeAndBoxesTickedByTheirWh
     ApplyShowCheck(oBold, oList);
     EXPECT_EQ(oBold.Value(), nTicked) << sTag;
   }
-}
-
-TEST_F(controlHelpersTest, ASectionsTotalIsMoney) {
-  auto& oTotal = Make<Label>("lblTotal");
-  ShowSectionTotal(oTotal, 4.875);
-  EXPECT_EQ(oTotal.Caption(), ByRegion("Section Total £4.88", "Section Total $4.88"));
 }
 
 }  // namespace

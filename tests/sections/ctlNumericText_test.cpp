@@ -1,6 +1,5 @@
 #include "sections/ctlNumericText.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QSignalSpy>
@@ -11,7 +10,6 @@
 
 #include "prices/money.h"
 #include "sections/SpinButton.h"
-#include "support/TestHost.h"
 
 namespace quillet {
 namespace {
@@ -243,16 +241,6 @@ TEST_F(ctlNumericTextTest, AnythingCanBePastedAndTypingUndone) {
   EXPECT_EQ(Number(), "3.00");
 }
 
-TEST_F(ctlNumericTextTest, AUserWithACommaTypesAndStepsWithIt) {
-  ScopedHost oHost;
-  oHost.sDecimalSeparator = ",";
-  m_pBox->SetDecimalSeperator(",");
-  TypeInstead("12,34");
-  EXPECT_EQ(m_pBox->Value(), Single(12.34));
-  Press(Qt::Key_Up);
-  EXPECT_EQ(Number(), "12,35");
-}
-
 TEST_F(ctlNumericTextTest, ADisabledBoxIsPassedOver) {
   m_pBox->SetEnabled(false);
   QTest::keyClick(m_pNext->TextBox(), Qt::Key_Tab);
@@ -287,12 +275,6 @@ TEST_F(ctlNumericTextTest, TheEdgeShowsTheFocusAndABadTextAndTheInkWhetherItIsIn
   EXPECT_EQ(m_pText->palette().color(QPalette::Text), InkColour(Ink::GreyText));
   m_pBox->SetForeColor(kColourWindowText);
   EXPECT_EQ(m_pText->palette().color(QPalette::Text), InkColour(Ink::Text));
-}
-
-TEST_F(ctlNumericTextTest, ScreenReadersFindTheNameOnWhatHasTheFocus) {
-  m_pBox->SetAccessibleName("Starting Price");
-  EXPECT_EQ(QAccessible::queryAccessibleInterface(m_pText)->text(QAccessible::Name),
-            "Starting Price");
 }
 
 }  // namespace

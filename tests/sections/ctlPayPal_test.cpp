@@ -140,23 +140,8 @@ TEST_F(PayPal, ABandWithoutRatesLeavesTheSectionUsable) {
 }
 
 TEST_F(PayPal, EachShowBoxStandsForItsRowAlone) {
-  constexpr std::array kRows = std::to_array<RowOfBox>({
-      {"chkShowUsePayPal", "chkUsePayPal"},
-      {"chkShowPayInduvidually", "fraPayInduvidually"},
-      {"chkShowPersonalAccount", "optPersonalAccount"},
-      {"chkShowPremierAccount", "optPremierAccount"},
-      {"chkShowBusinessAccount", "optBusinessAccount"},
-      {"chkShowTotal", "lblTotal"},
-  });
-  ExpectRows(m_oSection, kRows);
-  constexpr std::array kBandRows = std::to_array<RowOfBox>({
-      {"chkShowBusinessRateBand1", "optBand1"},
-      {"chkShowBusinessRateBand2", "optBand2"},
-      {"chkShowBusinessRateBand3", "optBand3"},
-      {"chkShowBusinessRateBand4", "optBand4"},
-      {"chkShowBusinessRateBand5", "optBand5"},
-  });
-  ExpectRows(Bands(), kBandRows);
+  ExpectEachShowBoxStandsForItsRow(m_oSection, 6);
+  ExpectEachShowBoxStandsForItsRow(Bands(), 5);
 }
 
 // They have no Show box of their own.

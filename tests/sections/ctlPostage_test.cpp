@@ -65,31 +65,13 @@ class Postage : public PanelTest<ctlPostage> {
   clsPostage m_oModel;
 };
 
-struct ScriptRow {
-  int nQuantity;
-  const char* sScript;
-  const char* sFields;
-  const char* sTotal;
-};
-
-class PostageScripts : public Postage {
- protected:
-  void Run(std::span<const ScriptRow> aoRows) {
-    for (const ScriptRow& oRow : aoRows) {
-      SCOPED_TRACE(oRow.sScript);
-      Start(oRow.nQuantity);
-      Play("chkUsePostage");
-      Play(oRow.sScript);
-      EXPECT_EQ(Fields(), oRow.sFields);
-      EXPECT_EQ(Total(), std::string("Section Total ") + oRow.sTotal);
-      EXPECT_TRUE(m_oModel.m_bDirty);
-      EXPECT_GE(m_oChanged.count(), 1);
-      ExpectScreenShowsModel();
-    }
-  }
-};
-
-TEST_F(PostageScripts, TheModelDecidesWhatIsChosen) {
+TEST_F(Postage, TheModelDecidesWhatIsChosen) {
+  struct ScriptRow {
+    int nQuantity;
+    const char* sScript;
+    const char* sFields;
+    const char* sTotal;
+  };
   EXPECT_EQ(Fields(), "class 0, band 0") << "until the section first writes its boxes";
   EXPECT_EQ(Chosen(), "optBand1 optFirstClass");
   const std::vector<ScriptRow> aoRoyalMail = {
@@ -125,7 +107,17 @@ TEST_F(PostageScripts, TheModelDecidesWhatIsChosen) {
       {1, "txtManual=8.5 txtManual=abc", "class 3, band 0", "$8.50"},
       {3, "txtManual=8.5 chkSendInduvidually", "class 3, band 0, each", "$25.50"},
   };
-  Run(ByRegion(aoRoyalMail, aoTypedByHand));
+  for (const ScriptRow& oRow : ByRegion(aoRoyalMail, aoTypedByHand)) {
+    SCOPED_TRACE(oRow.sScript);
+    Start(oRow.nQuantity);
+    Play("chkUsePostage");
+    Play(oRow.sScript);
+    EXPECT_EQ(Fields(), oRow.sFields);
+    EXPECT_EQ(Total(), std::string("Section Total ") + oRow.sTotal);
+    EXPECT_TRUE(m_oModel.m_bDirty);
+    EXPECT_GE(m_oChanged.count(), 1);
+    ExpectScreenShowsModel();
+  }
 }
 
 TEST_F(Postage, PricesStandBesideTheServices) {
@@ -236,29 +228,8 @@ TEST_F(Postage, AScheduleWithoutTheTiersLeavesTheSectionUsable) {
 }
 
 TEST_F(Postage, EachShowBoxStandsForItsRowAlone) {
-  constexpr std::array kRows = std::to_array<RowOfBox>({
-      {"chkShowUsePostage", "chkUsePostage"},
-      {"chkShowSendInduvidually", "fraSendInduvidually"},
-      {"chkShowWeight", "lblWeight txtWeight", "UK"},
-      {"chkShowSecondClass", "optSecondClass lblSecondClass", "UK"},
-      {"chkShowFirstClass", "optFirstClass lblFirstClass", "UK"},
-      {"chkShowParcelService", "optParcelService lblParcelService", "UK"},
-      {"chkShowManual", "optManual txtManual"},
-      {"chkShowParcelInsurance", "ctlParcelInsurance lblParcelInsurance lblParcelInsuranceCost",
-       "UK"},
-      {"chkShowRecordedDelivery", "chkRecordedDelivery lblRecordedDelivery", "UK"},
-      {"chkShowProofOfDelivery", "chkProofOfDelivery lblProofOfDelivery", "UK"},
-      {"chkShowProfit", "chkProfit txtProfit"},
-      {"chkShowTotal", "lblTotal"},
-  });
-  ExpectRows(m_oSection, kRows);
-  constexpr std::array kBands = std::to_array<RowOfBox>({
-      {"chkShowBand1", "optBand1"},
-      {"chkShowBand2", "optBand2"},
-      {"chkShowBand3", "optBand3"},
-      {"chkShowBand4", "optBand4"},
-  });
-  ExpectRows(Insurance(), kBands);
+  ExpectEachShowBoxStandsForItsRow(m_oSection, ByRegion(12, 5));
+  ExpectEachShowBoxStandsForItsRow(Insurance(), 4);
 }
 
 TEST_F(Postage, TheRowsOfTheRegionArePackedFromTheirDesignPlaces) {

@@ -226,32 +226,7 @@ TEST_F(SellingFeatures, AScheduleWithoutTheTiersLeavesTheSectionUsable) {
 }
 
 TEST_F(SellingFeatures, EachShowBoxStandsForItsRowAlone) {
-  constexpr std::array kRows = std::to_array<RowOfBox>({
-      {"chkShowHomePageFeatured", "fraHomePageFeatured"},
-      {"chkShowFeaturePlus", "fraFeaturePlus"},
-      {"chkShowHighlight", "chkHighlight"},
-      {"chkShowItemSubtitle", "fraItemSubtitle"},
-      {"chkShowBorder", "fraBorder", "US"},
-      {"chkShowBold", "chkBold"},
-      {"chkShowGallery", "chkGallery"},
-      {"chkShowFeaturedGallery", "fraFeaturedGallery"},
-      {"chkShowBuyItNow", "fraBuyItNow"},
-      {"chkShowScheduledListing", "fraScheduledListing"},
-      {"chkShowListIn2Categories", "fraListIn2Categories"},
-      {"chkShowSlideShow", "chkSlideShow"},
-      {"chkShowSuperSizedPictures", "chkSuperSizedPicures"},
-      {"chkShowListingDesigner", "fraListingDesigner"},
-      {"chkShowFeaturedInSearch", "fraFeaturedInSearch"},
-      {"chkShow10DayDuration", "fra10DayDuration", "US"},
-      {"chkShowListingItem", "fraListingItem", "US"},
-      {"chkShowGiftServices", "fraGiftServices", "US"},
-      {"chkShowCarAd", "fraCarAd", "US"},
-      {"chkShowPreviewPicture", "fraPreviewPicture", "US"},
-      {"chkShowPicturePack", "chkPicturePack"},
-      {"chkShowExtraPictures", "lblExtraPictures txtExtraPictures"},
-      {"chkShowTotal", "lblTotal"},
-  });
-  ExpectRows(m_oSection, kRows);
+  ExpectEachShowBoxStandsForItsRow(m_oSection, ByRegion(17, 23));
 }
 
 TEST_F(SellingFeatures, RowsArePackedAndTheirShowBoxesFollowInBothModes) {

@@ -11,6 +11,7 @@
 
 #include "base/clsRegistryAccess.h"
 #include "documents/lastFolder.h"
+#include "support/Auctions.h"
 #include "support/Walk.h"
 #include "support/WalkGuard.h"
 
@@ -25,10 +26,7 @@ unsigned NumberIn(const char* sVariable, unsigned nElse) {
 class CalculatorWalk : public ::testing::TestWithParam<unsigned> {
  protected:
   CalculatorWalk() {
-    for (clsCalculate* const pAuction : {&WorkingAuction(), &DefaultAuction()}) {
-      pAuction->Clear();
-      pAuction->SetDirty(false);
-    }
+    ClearAuctions();
     Registry().Set(settings::kStartMode, "1");
     Registry().Set(settings::kZoom, "100");
     SetLastFolder(m_oFolder.sPath);

@@ -3,7 +3,6 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QLineEdit>
-#include <QSignalSpy>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -11,6 +10,7 @@
 #include "base/basMain.h"
 #include "base/clsRegistryAccess.h"
 #include "base/region.h"
+#include "support/Auctions.h"
 #include "support/PanelScript.h"
 
 namespace quillet {
@@ -26,10 +26,7 @@ std::string Stored(const std::string& sSection, const std::string& sName) {
 class Calculator : public ::testing::Test {
  protected:
   Calculator() {
-    for (clsCalculate* const pAuction : {&WorkingAuction(), &DefaultAuction()}) {
-      pAuction->Clear();
-      pAuction->SetDirty(false);
-    }
+    ClearAuctions();
     g_lSnapToGrid = 120;
     m_oWindow.resize(1400, 1200);
     m_pView = new ctlCalculator(&m_oWindow);
@@ -56,28 +53,9 @@ class Calculator : public ::testing::Test {
     QTest::mouseRelease(&oHeader.Widget(), Qt::RightButton, {}, oStart);
   }
 
-  std::string Figure(const char* sLabel) {
-    return m_pView->Set().ctlSellingCostsSection.The(sLabel).Caption().toStdString();
-  }
-
   QWidget m_oWindow;
   ctlCalculator* m_pView = nullptr;
 };
-
-TEST_F(Calculator, AKeyInASectionReachesTheSummaryAndTheCaption) {
-  ShowView(false, WorkingAuction());
-  QSignalSpy oChanged(m_pView, &ctlCalculator::Changed);
-  QLineEdit* const pBox =
-      dynamic_cast<ctlNumericText&>(ControlOf(m_pView->Set().ctlOutlaySection, "txtOutlay"))
-          .TextBox();
-  TypeInto(m_pView->Set().ctlOutlaySection, "txtQuantity", "2");
-  pBox->setFocus();
-  pBox->setCursorPosition(1);
-  QTest::keyClick(pBox, Qt::Key_Up);
-  EXPECT_TRUE(Figure("lblSellingCostTotal").ends_with("2.00")) << Figure("lblSellingCostTotal");
-  EXPECT_TRUE(WorkingAuction().IsDirty());
-  EXPECT_TRUE(oChanged.last().at(0).toBool());
-}
 
 TEST_F(Calculator, ShowingADocumentDoesntChangeIt) {
   std::string sText =
@@ -136,16 +114,6 @@ TEST_F(Calculator, TheSmallestSizeLeavesOutTheAuctionType) {
   m_pView->Set().ctlPostageSection.SetLeft(20000);
   m_pView->CalcMinSize(nWidth, nHeight);
   EXPECT_EQ(nWidth, 20000 + m_pView->Set().ctlPostageSection.Width());
-}
-
-TEST_F(Calculator, ConfigModeEditsTheDefaultAuctionAlone) {
-  ShowView(false, WorkingAuction());
-  ShowView(true, DefaultAuction());
-  ClickOn(m_pView->Set().ctlPayPalSection, "chkUsePayPal");
-  EXPECT_TRUE(DefaultAuction().m_oPayPal.m_bEnabled);
-  EXPECT_TRUE(DefaultAuction().IsDirty());
-  EXPECT_FALSE(WorkingAuction().m_oPayPal.m_bEnabled);
-  EXPECT_FALSE(WorkingAuction().IsDirty());
 }
 
 TEST_F(Calculator, TheHeaderComesUpWithTheFocusInConfigModeOnly) {

@@ -15,6 +15,7 @@
 #include "sections/ScrollBar.h"
 #include "shell/WizardSteps.h"
 #include "shell/ctlCalculator.h"
+#include "support/Auctions.h"
 #include "support/PanelScript.h"
 
 namespace quillet {
@@ -45,18 +46,12 @@ void Enter(const SectionPanel& oSection) {
   }
 }
 
-std::string Text() {
-  std::string sText;
-  WorkingAuction().Serialize(sText, true);
-  return sText;
-}
-
 /// Fills in a section, and tells what could not be chosen before and after, what came to be in the
 /// auction, and the figures that the view shows of it.
 std::string EnterAndTell(const SectionSet& oSet, const SectionPanel& oSection) {
   std::string sState = NamesWhere(oSection, IsGrey);
   Enter(oSection);
-  sState += "\n" + NamesWhere(oSection, IsGrey) + "\n" + Text();
+  sState += "\n" + NamesWhere(oSection, IsGrey) + "\n" + TextOf(WorkingAuction());
   for (const char* const sName : {"lblListingCostTotal", "lblFinalValueFeeTotal", "lblPayPalTotal",
                                   "lblPostageTotal", "lblProfitGrandTotal"}) {
     sState += "\n" + oSet.ctlSellingCostsSection.The(sName).Caption().toStdString();
@@ -253,11 +248,11 @@ TEST_F(Wizard, CancelKeepsWhatWasEnteredAndTheNextShowBeginsAnew) {
   Click("imgNext");
   Enter(Section());
   Press(Qt::Key_Return);
-  const std::string sText = Text();
+  const std::string sText = TextOf(WorkingAuction());
   QSignalSpy oComplete(m_pView, &ctlWizard::WizardComplete);
   Click("imgCancel");
   EXPECT_EQ(oComplete.count(), 1);
-  EXPECT_EQ(Text(), sText);
+  EXPECT_EQ(TextOf(WorkingAuction()), sText);
   EXPECT_EQ(WorkingAuction().m_oOutlay.m_fEstimatedEndPrice, 149.0F);
 
   m_pView->SetVisible(true);

@@ -17,13 +17,6 @@
 
 namespace quillet {
 
-/// A Show box, and the controls that it stands for.
-struct RowOfBox {
-  const char* sBox;
-  const char* sControls;
-  const char* sRegion = "both";  ///< or "UK", "US"
-};
-
 /// Those inputs that a screen reader has no name for.
 inline std::string UnnamedInputsIn(const SectionPanel& oPanel) {
   return NamesWhere(oPanel, [](const Control& oControl) {
@@ -68,26 +61,29 @@ class PanelTest : public ::testing::Test {
     return ControlOf(m_oSection, sName).Widget().isEnabled();
   }
 
-  /// Ticks one Show box after the other, and reads which controls are on view.
-  static void ExpectRows(SectionPanel& oPanel, std::span<const RowOfBox> aoRows) {
-    for (const RowOfBox& oRow : aoRows) {
-      SCOPED_TRACE(oRow.sBox);
-      const bool bHere =
-          std::string(oRow.sRegion) == "both" || std::string(oRow.sRegion) == ByRegion("UK", "US");
-      const Control& oBox = ControlOf(oPanel, oRow.sBox);
-      clsTokeniser oList;
-      oList.AddToArray(oBox.Tag());
-      SaveVisibleList(oPanel.SectionKey(), oList);
-      oPanel.SetShowConfig(true);
-      EXPECT_EQ(oBox.Visible(), bHere);
-      oPanel.SetShowConfig(false);
-      EXPECT_EQ(NamesWhere(oPanel,
-                           [&](const Control& o) {
-                             return o.Visible() && o.Container() == &oPanel && !IsShowCheck(o) &&
-                                    !IsHeaderImage(o);
-                           }),
-                bHere ? oRow.sControls : "");
+  /// With one Show box ticked alone, what is on view are the controls beside it in config mode,
+  /// and the panel below of its name.
+  static void ExpectEachShowBoxStandsForItsRow(SectionPanel& oPanel, int nBoxes) {
+    const auto fnShown = [&](const Control& o) {
+      return o.Visible() && o.Container() == &oPanel && !IsShowCheck(o) && !IsHeaderImage(o);
+    };
+    for (const Control* const pBox : oPanel.Controls()) {
+      if (IsShowCheck(*pBox)) {
+        clsTokeniser oList;
+        oList.AddToArray(pBox->Tag());
+        SaveVisibleList(oPanel.SectionKey(), oList);
+        oPanel.SetShowConfig(true);
+        nBoxes -= pBox->Visible() ? 1 : 0;
+        const std::string sBeside = NamesWhere(oPanel, [&](const Control& o) {
+          return fnShown(o) && pBox->Visible() &&
+                 (o.Top() == pBox->Top() || o.Name() == "ctl" + pBox->Tag());
+        });
+        EXPECT_NE(sBeside.empty(), pBox->Visible()) << pBox->Name();
+        oPanel.SetShowConfig(false);
+        EXPECT_EQ(NamesWhere(oPanel, fnShown), sBeside) << pBox->Name();
+      }
     }
+    EXPECT_EQ(nBoxes, 0) << "the region has more of them, or fewer";
   }
 
   clsCalculate m_oAuction;
