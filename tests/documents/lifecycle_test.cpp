@@ -156,17 +156,6 @@ TEST_F(Lifecycle, ProposesTheFirstFreeName) {
   }
 }
 
-TEST_F(Lifecycle, ANewAuctionIsTheDefaultOneAndKeepsTheDirtyFlags) {
-  DefaultAuction().m_oPayPal.m_bEnabled = true;
-  ChangeWorking();
-  m_oHost.aeAnswers = {Answer::No, Answer::No};
-  m_oDocuments.NewAuction();
-  EXPECT_EQ(TextOf(WorkingAuction()), TextOf(DefaultAuction()));
-  EXPECT_EQ(m_oView.sCalls, "calculator ");
-  m_oDocuments.NewAuction();
-  EXPECT_EQ(m_oHost.aoShown.size(), 2U) << "after a No the next New asks again";
-}
-
 TEST_F(Lifecycle, TheWizardStartsEmptyWithOneItemAndTheOldFileName) {
   m_oHost.asChoices = {m_oFolder / "old.qlt"};
   m_oDocuments.SaveOrLoadAuction(true);
@@ -177,20 +166,6 @@ TEST_F(Lifecycle, TheWizardStartsEmptyWithOneItemAndTheOldFileName) {
   oExpected.m_oOutlay.m_lQuantity = 1;
   EXPECT_EQ(TextOf(WorkingAuction()), TextOf(oExpected));
   EXPECT_EQ(m_oDocuments.FileName(), "old.qlt");
-}
-
-TEST_F(Lifecycle, TheDefaultAuctionIsASetting) {
-  DefaultAuction().m_oOutlay.m_lQuantity = 4;
-  DefaultAuction().SetDirty(true);
-  m_oDocuments.SaveOrLoadDefaultAuction(false);  // a first start has none stored
-  EXPECT_EQ(DefaultAuction().m_oOutlay.m_lQuantity, 4);
-  EXPECT_FALSE(DefaultAuction().IsDirty());
-
-  m_oDocuments.SaveOrLoadDefaultAuction(true);
-  DefaultAuction().m_oOutlay.m_lQuantity = 5;
-  m_oDocuments.SaveOrLoadDefaultAuction(false);
-  EXPECT_EQ(DefaultAuction().m_oOutlay.m_lQuantity, 4);
-  EXPECT_TRUE(m_oView.sCalls.ends_with("title(Default Configuration) "));
 }
 
 TEST_F(Lifecycle, ExitAsksAboutBothDocumentsInTurn) {

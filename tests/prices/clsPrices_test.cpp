@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "base/failure.h"
-#include "support/Log.h"
 #include "support/Prices.h"
 #include "support/TestHost.h"
 
@@ -53,27 +52,6 @@ TEST(Prices, ManyKeysThatDifferInOneCharacterAreAllFound) {
   }
   EXPECT_EQ(Value(oPrices, "[KEY") + Value(oPrices, "{KEY"), "ab");
   EXPECT_EQ(Value(oPrices, "FeatureMotorPoketBikes3000"), "(none)");
-}
-
-TEST(Prices, AFileIsUtf8OrWindows1252AndItsFailureNamesIt) {
-  const TemporaryFolder oFolder;
-  const std::string sFile = oFolder / "prices.dat";
-  clsPrices oPrices;
-  WriteTestFile(sFile, "CurrencySymbol,\xA3\n");
-  oPrices.LoadFile(sFile);
-  EXPECT_EQ(Value(oPrices, "CurrencySymbol"), "£");
-  WriteTestFile(sFile, "CurrencySymbol,€\n");
-  oPrices.LoadFile(sFile);  // replaces the table
-  EXPECT_EQ(Value(oPrices, "CurrencySymbol"), "€");
-  WriteTestFile(sFile, "A,1\nA,2\n");
-  for (const std::string& sBad : {sFile, oFolder / "none", oFolder.sPath}) {
-    try {
-      oPrices.LoadFile(sBad);
-      ADD_FAILURE() << sBad;
-    } catch (const Failure& oFailure) {
-      EXPECT_EQ(std::string(oFailure.what()).find(sBad + ": "), 0U) << oFailure.what();
-    }
-  }
 }
 
 TEST(Prices, APriceIsLookedUpWithTheSuffixOfItsDuration) {
