@@ -148,6 +148,9 @@ void frmMain::MakeShortcuts() {
 
 void frmMain::Show() {
   Form_Load();
+  if (m_bFirstStart) {
+    FitFirstStart();  // before the window manager is told of a size, and again when it is known
+  }
   show();
   Form_Activate();
 }
