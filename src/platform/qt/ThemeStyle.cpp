@@ -134,6 +134,14 @@ int ThemeStyle::pixelMetric(PixelMetric eMetric, const QStyleOption* pOption,
   }
 }
 
+/// The words on the buttons of a prompt say it all.
+int ThemeStyle::styleHint(StyleHint eHint, const QStyleOption* pOption, const QWidget* pWidget,
+                          QStyleHintReturn* pReturn) const {
+  return eHint == SH_DialogButtonBox_ButtonsHaveIcons
+             ? 0
+             : QProxyStyle::styleHint(eHint, pOption, pWidget, pReturn);
+}
+
 QIcon ThemeStyle::standardIcon(StandardPixmap eIcon, const QStyleOption* pOption,
                                const QWidget* pWidget) const {
   const std::optional<MessageIcon> oIcon = MessageIconOf(eIcon);

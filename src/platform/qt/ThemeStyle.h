@@ -17,6 +17,8 @@ class ThemeStyle : public QProxyStyle {
                                        const QSize& oSize, const QWidget* pWidget) const override;
   [[nodiscard]] int pixelMetric(PixelMetric eMetric, const QStyleOption* pOption,
                                 const QWidget* pWidget) const override;
+  [[nodiscard]] int styleHint(StyleHint eHint, const QStyleOption* pOption, const QWidget* pWidget,
+                              QStyleHintReturn* pReturn) const override;
   [[nodiscard]] QIcon standardIcon(StandardPixmap eIcon, const QStyleOption* pOption,
                                    const QWidget* pWidget) const override;
 };
