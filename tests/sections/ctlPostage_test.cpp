@@ -228,7 +228,7 @@ TEST_F(Postage, AScheduleWithoutTheTiersLeavesTheSectionUsable) {
 }
 
 TEST_F(Postage, EachShowBoxStandsForItsRowAlone) {
-  ExpectEachShowBoxStandsForItsRow(m_oSection, ByRegion(12, 5));
+  ExpectEachShowBoxStandsForItsRow(m_oSection, ByRegion(12U, 5U));
   ExpectEachShowBoxStandsForItsRow(Insurance(), 4);
 }
 

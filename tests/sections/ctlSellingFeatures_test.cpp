@@ -226,7 +226,7 @@ TEST_F(SellingFeatures, AScheduleWithoutTheTiersLeavesTheSectionUsable) {
 }
 
 TEST_F(SellingFeatures, EachShowBoxStandsForItsRowAlone) {
-  ExpectEachShowBoxStandsForItsRow(m_oSection, ByRegion(17, 23));
+  ExpectEachShowBoxStandsForItsRow(m_oSection, ByRegion(17U, 23U));
 }
 
 TEST_F(SellingFeatures, RowsArePackedAndTheirShowBoxesFollowInBothModes) {
