@@ -2,8 +2,8 @@
 
 #include <iostream>
 
-#include "platform/Host.h"
 #include "platform/Descriptors.h"
+#include "platform/Host.h"
 
 namespace quillet {
 namespace {
