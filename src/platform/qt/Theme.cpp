@@ -133,6 +133,8 @@ QFont ThemeFont(double fPoints, QFont::Weight eWeight) {
   const double fPixels = fPoints * kPixelsPerPoint * g_fZoom;
   oFont.setPointSizeF(fPixels * 72.0 / kDotsPerInch);
   oFont.setWeight(eWeight);
+  // Hinting rounds the width of a letter to whole pixels on Windows, too much for a narrow place.
+  oFont.setHintingPreference(QFont::PreferNoHinting);
   return oFont;
 }
 
