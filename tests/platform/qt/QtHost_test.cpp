@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDeadlineTimer>
+#include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -169,7 +170,7 @@ TEST_F(QtHostTest, AFileDialogStartsInTheNearestFolderWithTheNameProposed) {
   for (const bool bSave : {false, true}) {
     const User oUser({[&](QDialog& oDialog) {
       const auto& oFile = dynamic_cast<QFileDialog&>(oDialog);
-      EXPECT_EQ(oFile.directory().path().toStdString(), m_oFolder.sPath);
+      EXPECT_EQ(QDir::toNativeSeparators(oFile.directory().path()).toStdString(), m_oFolder.sPath);
       EXPECT_EQ(oFile.nameFilters(), QStringList("Quillet US files (*.qlt)"));
       EXPECT_EQ(oDialog.findChild<QLineEdit*>("fileNameEdit")->text(), "lathe.qlt");
       QTest::keyClick(&oDialog, Qt::Key_Escape);

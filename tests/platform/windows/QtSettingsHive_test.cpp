@@ -53,7 +53,8 @@ TEST_F(QtSettingsHiveTest, EveryTextIsAStringOfTheRegistryAtOnceAndComesBack) {
                                  std::string(20000, 'x')};
   for (const std::string& sText : asTexts) {
     EXPECT_TRUE(m_oHive.Write(kUser, kPath, "Value", sText)) << sText;
-    EXPECT_EQ(Stored(kPath, "Value"), sText);
+    // Qt marks its own kinds of values with an "@" in front and so doubles that of a text.
+    EXPECT_EQ(Stored(kPath, "Value"), sText.starts_with('@') ? "@" + sText : sText);
     EXPECT_EQ(QtSettingsHive().Read(kUser, kPath, "Value"), sText);
   }
 }
