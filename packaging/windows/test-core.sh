@@ -9,6 +9,7 @@ folder=build/windows-core/bin
 
 need_packages run windows-core
 build windows-core core_tests_us core_tests_uk quillet-calc
+build release quillet-calc
 trap stop_wine EXIT
 start_wine
 for region in us uk; do
