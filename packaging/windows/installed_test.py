@@ -15,6 +15,7 @@ from desktop import Screen, wait_for  # noqa: E402
 
 WINE = next(p for p in ("/usr/lib/wine/wine64", shutil.which("wine64")) if p and os.path.exists(p))
 SETUP = pathlib.Path(sys.argv.pop(1)).resolve()
+PORTABLE = SETUP.with_name(SETUP.name.replace("setup.exe", "portable.zip"))
 SERVERS = pathlib.Path(sys.argv.pop(1)).resolve()
 SAMPLES = pathlib.Path(__file__).resolve().parents[2] / "data/samples"
 SETTINGS = r"HKCU\Software\Velmor\Quillet US"
@@ -155,6 +156,11 @@ class Installed(unittest.TestCase):
         self.uninstall("/SETTINGS")
         wait_for("the end of the settings",
                  lambda: not self.screen.registry(r"HKCU\Software\Velmor"))
+
+    def test_7_the_portable_archive_runs_where_it_is_unpacked(self):
+        shutil.unpack_archive(PORTABLE, self.screen.user)
+        self.screen.open(TITLE, self.screen.user / "Quillet/quillet.exe")
+        self.screen.end()
 
 
 if __name__ == "__main__":
