@@ -178,7 +178,7 @@ void ctlSellingCosts::ArrangeAsColumn() {
   SetWidth(4380);
 }
 
-void ctlSellingCosts::CentreProfitLabel() {
+void ctlSellingCosts::CentreProfitLabel() const {
   const Label& oGrandTotal = The("lblProfitGrandTotal");
   Label& oLabel = The("lblProfitLabel");
   oLabel.SetTop(oGrandTotal.Top() + (oGrandTotal.Height() - oLabel.Height()) / 2);

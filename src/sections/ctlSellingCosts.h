@@ -32,7 +32,7 @@ class ctlSellingCosts : public QWidget, public Control {
   void DescribeFigures();
   void ArrangeAsStrip();
   void ArrangeAsColumn();
-  void CentreProfitLabel();
+  void CentreProfitLabel() const;
 
   int m_nMode = 0;
   std::vector<Label*> m_aoLabels;

@@ -85,21 +85,21 @@ constexpr ControlDesign ShowBox(const char* sName, int nTop, const char* sTag) {
 
 constexpr auto MakeControls() {
   std::array<ControlDesign, kRows.size() + kFrames + kRowControls.size() + kShowBoxes> aoControls{};
-  auto oNext = aoControls.begin();
+  ControlDesign* pNext = aoControls.data();
   int nTop = kFirstTop;
   for (const FeatureRow& oRow : kRows) {
     if (oRow.sFrame != nullptr) {
-      *oNext++ = {oRow.sFrame, kFrame, "", 120, nTop, 2535, 255};
-      *oNext++ = {oRow.sBox, kCheckBox, oRow.sCaption, 0, 0, 2535, 255, "", oRow.sFrame};
+      *pNext++ = {oRow.sFrame, kFrame, "", 120, nTop, 2535, 255};
+      *pNext++ = {oRow.sBox, kCheckBox, oRow.sCaption, 0, 0, 2535, 255, "", oRow.sFrame};
     } else {
-      *oNext++ = {oRow.sBox, kCheckBox, oRow.sCaption, 120, nTop, 2535, 255};
+      *pNext++ = {oRow.sBox, kCheckBox, oRow.sCaption, 120, nTop, 2535, 255};
     }
-    *oNext++ = ShowBox(oRow.sShowBox, nTop, oRow.sTag);
+    *pNext++ = ShowBox(oRow.sShowBox, nTop, oRow.sTag);
     nTop += kPitch;
   }
-  oNext = std::copy(kRowControls.begin(), kRowControls.end(), oNext);
-  *oNext++ = ShowBox("chkShowExtraPictures", kExtraPicturesTop, "ExtraPictures");
-  *oNext++ = ShowBox("chkShowTotal", kTotalTop, "Total");
+  pNext = std::copy(kRowControls.begin(), kRowControls.end(), pNext);
+  *pNext++ = ShowBox("chkShowExtraPictures", kExtraPicturesTop, "ExtraPictures");
+  *pNext++ = ShowBox("chkShowTotal", kTotalTop, "Total");
   return aoControls;
 }
 

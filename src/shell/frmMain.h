@@ -31,6 +31,8 @@ class frmMain : public QWidget, private DocumentView {
 
  public:
   frmMain();
+  frmMain(const frmMain&) = delete;
+  frmMain& operator=(const frmMain&) = delete;
   ~frmMain() override;
 
   /// Loads, shows and activates the window; the first document is set up when this returns.
