@@ -25,6 +25,7 @@ add_library(quillet_desktop STATIC
   sections/ImageButton.cpp
   sections/OptionInterface.cpp
   sections/ScrollBar.cpp
+  sections/PanelDesign.cpp
   sections/SectionPanel.cpp
   sections/SpinButton.cpp
   sections/controlHelpers.cpp

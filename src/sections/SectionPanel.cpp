@@ -5,7 +5,6 @@
 #include <algorithm>
 
 #include "base/failure.h"
-#include "platform/Host.h"
 #include "platform/qt/Theme.h"
 #include "sections/VisibleList.h"
 #include "sections/controlHelpers.h"
@@ -16,48 +15,6 @@ namespace {
 constexpr double kTitlePoints = 6.75;
 constexpr int kTitleHeight = 255;  // twips, the header's
 constexpr int kBoxGap = 10;        // twips between the panel's edge and its Show boxes
-
-std::int16_t DecimalPlacesOf(ControlKind eKind) {
-  switch (eKind) {
-    case ControlKind::kMoney:
-      return 2;
-    case ControlKind::kWeight:
-      return 3;
-    default:
-      return 0;
-  }
-}
-
-Control* MakeNumericBox(ControlKind eKind, QWidget* pParent) {
-  auto* const pBox = new ctlNumericText(pParent);
-  pBox->SetDecimalSeperator(TheHost().DecimalSeparator());
-  pBox->SetShowMoney(eKind == ControlKind::kMoney);
-  pBox->SetDecimalPlaces(DecimalPlacesOf(eKind));
-  return pBox;
-}
-
-/// What holds the controls of a Frame is the Frame; the parent owns what is made.
-Control* MakeOfKind(const ControlDesign& oControl, QWidget* pParent) {
-  switch (oControl.eKind) {
-    case ControlKind::kLabel:
-      return new Label(pParent);
-    case ControlKind::kCheckBox:
-      return new CheckBox(pParent);
-    case ControlKind::kOption:
-      return new OptionButton(pParent);
-    case ControlKind::kNumber:
-    case ControlKind::kMoney:
-    case ControlKind::kWeight:
-      return MakeNumericBox(oControl.eKind, pParent);
-    case ControlKind::kFrame:
-      return new Frame(pParent);
-    case ControlKind::kHeader:
-      return new Image(pParent);
-    case ControlKind::kSubControl:
-      return oControl.fnMake(pParent);
-  }
-  return nullptr;
-}
 
 bool Contains(const std::string& sText, const std::string& sPart) {
   return sText.find(sPart) != std::string::npos;

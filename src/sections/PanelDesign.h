@@ -1,0 +1,62 @@
+// What a member of the family of panels is described by: the table of its controls, and switches.
+#pragma once
+
+#include <span>
+
+class QWidget;
+
+namespace quillet {
+
+class Control;
+class SectionPanel;
+
+enum class ControlKind {
+  kLabel,
+  kCheckBox,
+  kOption,
+  kNumber,  ///< numeric box for whole numbers
+  kMoney,   ///< numeric box with currency symbol and two decimals
+  kWeight,  ///< numeric box with three decimals
+  kFrame,
+  kHeader,  ///< the bar by which the panel is dragged
+  kSubControl,
+};
+
+/// One row of a member's table of controls; places in twips.
+struct ControlDesign {
+  const char* sName;
+  ControlKind eKind;
+  const char* sCaption;
+  int nLeft;
+  int nTop;
+  int nWidth;
+  int nHeight;
+  const char* sTag = "";
+  const char* sContainer = nullptr;                     ///< the Frame that it stands in
+  SectionPanel* (*fnMake)(QWidget* pParent) = nullptr;  ///< makes the sub-control
+};
+
+/// What a member differs in from the others.
+struct PanelDesign {
+  const char* sTypeName;      ///< such as "ctlOutlay"
+  const char* sTitle;         ///< on the header, and in its place while it is hidden
+  const char* sSectionKey;    ///< names the panel in the settings
+  const char* sReferenceBox;  ///< the Show box whose place gives the panel's width
+  /// Whose list ApplyAllVisibility reads; null where the member has no such step.
+  const char* sVisibilityList;
+  /// The rows are registered once, at their design places, and a click on a Show box rereads the
+  /// list. Else they are registered anew, at the places that they then have, after each click.
+  bool bAddingComplete;
+  bool bRowsByLabel;  ///< a Show box stands beside its row's label, whatever else the tag names
+  int nWidth;
+  int nHeight;
+  /// In the order of the panel's collection, which the packing keeps within a row: a control that
+  /// the region can take out of a row stands ahead of its row-mates.
+  std::span<const ControlDesign> aoControls;
+};
+
+/// Makes a control of the design's kind, for the parent to own; its place and words are still to be
+/// set.
+[[nodiscard]] Control* MakeOfKind(const ControlDesign& oDesign, QWidget* pParent);
+
+}  // namespace quillet
