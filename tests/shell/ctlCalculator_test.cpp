@@ -11,6 +11,7 @@
 #include "base/clsRegistryAccess.h"
 #include "base/region.h"
 #include "support/Auctions.h"
+#include "support/ByRegion.h"
 #include "support/PanelScript.h"
 
 namespace quillet {
@@ -144,6 +145,33 @@ TEST_F(Calculator, RowsWithoutATickAreGoneOutOfConfigModeAndStayGone) {
   ShowView(false, WorkingAuction());
   EXPECT_EQ(oOutlay.Height(), 0);
   EXPECT_EQ(Stored("Outlay", "Visible"), "") << "empty is a choice, and not asked for again";
+}
+
+TEST_F(Calculator, WhatTheRegionLacksIsGoneInBothModesAndAllElseIsThere) {
+  const std::string sLacking = ByRegion<std::string>(
+      "fraBorder chkBorder fra10DayDuration chk10DayDuration fraListingItem chkListingItem "
+      "fraGiftServices chkGiftServices fraCarAd chkCarAd fraPreviewPicture chkPreviewPicture "
+      "optShop60Days optShop120Days ctlRealEstateOption ctlRealEstateOptionsLand1 "
+      "optRealEstateTimeShare optRealEstateOther ctlRealEstateOptionsSale1 "
+      "optRealEstate10DayAuction optRealEstate30DayAuction optRealEstate30DayAd "
+      "optRealEstate90DayAd chkRealEstateBinding optPassenger optMotorcycle optPowersports "
+      "optPocketBikes optOtherVehicle optParts optBusinessAuction ",
+      "chkOutlayInclTax chkProofOfDelivery chkRecordedDelivery ctlParcelInsurance optBand1 "
+      "optBand2 optBand3 optBand4 optParcelService optFirstClass optSecondClass lblWeight "
+      "txtWeight lblProofOfDelivery lblRecordedDelivery lblParcelInsurance "
+      "lblParcelInsuranceCost lblParcelService lblFirstClass lblSecondClass ");
+  for (const bool bConfig : {true, false}) {
+    ShowView(bConfig, WorkingAuction());
+    std::string sGone;
+    for (const SectionPanel* const pSection : m_pView->Set().Sections()) {
+      const std::string sNames = NamesWhere(*pSection, [&](const Control& oControl) {
+        return !oControl.Widget().isVisibleTo(pSection) && !IsHeaderImage(oControl) &&
+               !IsShowCheck(oControl);
+      });
+      sGone += sNames + (sNames.empty() ? "" : " ");
+    }
+    EXPECT_EQ(sGone, sLacking) << bConfig;
+  }
 }
 
 TEST_F(Calculator, TabWalksTheInputsInReadingOrderAndNeverReachesAShowBox) {
