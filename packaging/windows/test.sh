@@ -24,6 +24,8 @@ trap stop_wine EXIT
 step "starting Wine" start_wine
 run_tests core
 run_tests widget
+check "Internet client" tests/online/internet_test.py build/release/bin/update_servers \
+  "$wine_program" build/windows/bin/internet_probe.exe
 check "installer and installed program" \
   packaging/windows/installed_test.py "dist/Quillet-$(project_version)-setup.exe" \
   build/release/bin/update_servers

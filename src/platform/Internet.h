@@ -88,6 +88,6 @@ class Internet {
 };
 
 /// The platform's own client.
-[[nodiscard]] std::unique_ptr<Internet> PlatformInternet();
+[[nodiscard]] std::unique_ptr<Internet> PlatformInternet(InternetLimits oLimits = {});
 
 }  // namespace quillet

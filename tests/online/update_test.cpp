@@ -223,14 +223,6 @@ TEST_F(Update, AFileCutOffOnItsWayIsDropped) {
   ExpectUpdate(kBrokenOff, "old", kMark);
 }
 
-TEST_F(Update, AFileThatDripsIsGivenUp) {
-  UpdateServers oServers("rmk3816", "", "anon_max_rate=2000\n");
-  oServers.PutFile(m_sName, std::string(100000, 'x'));
-  Use(oServers);
-  Pass({5s, 5s, 400ms});
-  ExpectUpdate(kBrokenOff, "old", kMark);
-}
-
 TEST_F(Update, AnAnswerCutOffOnItsWayCountsAsNone) {
   UpdateServers oServers("rmk3816", "limit_rate 2k;\n");
   oServers.PutPage("getAction.asp", "2," + std::string(20000, 'x'));
@@ -273,17 +265,6 @@ TEST_F(Update, TheAnswerSteersThePass) {
     ExpectUpdate(oRow.bFetched ? kFetched : "DL - Update file 1",
                  oRow.bFetched ? "new fees" : "old", "");
   }
-}
-
-TEST_F(Update, AnEnormousFileIsRefused) {
-  const std::string sFees((8U << 20U) + 1, 'x');
-  g_oServers->PutFile(m_sName, sFees);
-  Pass();
-  ExpectUpdate(kBrokenOff, "old", kMark);
-  PutSetting(settings::kFtpSkipFlag, "");
-  g_oServers->PutFile(m_sName, sFees.substr(1));
-  Pass();
-  ExpectUpdate(kFetched, sFees.substr(1), "");
 }
 
 TEST_F(Update, AFileThatFindsNoRoomIsDropped) {

@@ -184,8 +184,8 @@ void CurlInternet::Close(InternetHandle hHandle) {
   }
 }
 
-std::unique_ptr<Internet> PlatformInternet() {
-  return std::make_unique<CurlInternet>();
+std::unique_ptr<Internet> PlatformInternet(InternetLimits oLimits) {
+  return std::make_unique<CurlInternet>(oLimits);
 }
 
 }  // namespace quillet

@@ -2,6 +2,8 @@
 
 #include <future>
 #include <system_error>
+#include <thread>
+#include <utility>
 #include <vector>
 
 #include <windows.h>
@@ -19,6 +21,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds kPumpEvery{10};
+constexpr std::chrono::milliseconds kToLetGo{500};  // of a handle that was closed
 
 /// What an FTP server said last, to a call on this thread.
 std::string ServerResponse() {
@@ -35,13 +38,13 @@ std::string ServerResponse() {
   return Narrow(sWide);
 }
 
-/// The length that an HTTP server has announced; -1 if it hasn't.
-std::int64_t AnnouncedLength(HINTERNET hRequest) {
+/// The length that an HTTP server has announced; 0 if it hasn't.
+std::uint64_t AnnouncedLength(HINTERNET hRequest) {
   DWORD nLength = 0;
   DWORD nSize = sizeof(nLength);
   const BOOL bFound = ::HttpQueryInfoW(hRequest, HTTP_QUERY_CONTENT_LENGTH | HTTP_QUERY_FLAG_NUMBER,
                                        &nLength, &nSize, nullptr);
-  return bFound != FALSE ? static_cast<std::int64_t>(nLength) : -1;
+  return bFound != FALSE ? nLength : 0;
 }
 
 }  // namespace
@@ -57,30 +60,43 @@ WinInetInternet::Outcome WinInetInternet::OutcomeOf(bool bDone) {
     return {};
   }
   const DWORD nError = ::GetLastError();
-  return {nError, nError == ERROR_INTERNET_EXTENDED_ERROR ? ServerResponse() : std::string()};
+  return {.nError = nError,
+          .sResponse = nError == ERROR_INTERNET_EXTENDED_ERROR ? ServerResponse() : std::string()};
 }
 
-bool WinInetInternet::Await(InternetHandle hHandle, std::chrono::milliseconds oLimit,
-                            const std::function<Outcome(void*)>& fnCall) {
+WinInetInternet::Outcome WinInetInternet::Opened(void* pHandle) {
+  Outcome oOutcome = OutcomeOf(pHandle != nullptr);
+  oOutcome.pOpened = pHandle;
+  return oOutcome;
+}
+
+WinInetInternet::Outcome WinInetInternet::Await(InternetHandle hHandle,
+                                                std::chrono::milliseconds oLimit, Call fnCall) {
   const auto iItem = m_aoItems.find(hHandle);
   if (iItem == m_aoItems.end() || iItem->second.pHandle == nullptr) {
-    m_oLast = {ERROR_INVALID_HANDLE, {}};
-    return false;
+    return m_oLast = {ERROR_INVALID_HANDLE};
   }
-  const auto oEnd = Clock::now() + oLimit;
-  std::future<Outcome> oOutcome = std::async(std::launch::async, fnCall, iItem->second.pHandle);
-  while (oOutcome.wait_for(kPumpEvery) != std::future_status::ready) {
+  void*& pHandle = iItem->second.pHandle;
+  std::packaged_task<Outcome()> oTask(
+      [fnCall = std::move(fnCall), pHandle] { return fnCall(pHandle); });
+  std::future<Outcome> oFuture = oTask.get_future();
+  std::thread(std::move(oTask)).detach();
+  auto oEnd = Clock::now() + oLimit;
+  while (oFuture.wait_for(kPumpEvery) != std::future_status::ready) {
     TheHost().PumpEvents();
-    if (Clock::now() > oEnd && iItem->second.pHandle != nullptr) {
-      ::InternetCloseHandle(iItem->second.pHandle);
-      iItem->second.pHandle = nullptr;
+    if (Clock::now() > oEnd) {
+      if (pHandle == nullptr) {
+        return m_oLast = {ERROR_INTERNET_TIMEOUT};
+      }
+      ::InternetCloseHandle(std::exchange(pHandle, nullptr));
+      oEnd += kToLetGo;
     }
   }
-  const Outcome oResult = oOutcome.get();
-  if (oResult.nError != 0) {
-    m_oLast = oResult;
+  Outcome oOutcome = oFuture.get();
+  if (oOutcome.nError != 0) {
+    m_oLast = oOutcome;
   }
-  return oResult.nError == 0;
+  return oOutcome;
 }
 
 InternetHandle WinInetInternet::Keep(void* pHandle, InternetHandle hOwner) {
@@ -125,24 +141,28 @@ InternetHandle WinInetInternet::Connect(InternetHandle hInternet, const std::str
   if (eService == InternetService::Http && sHost.empty()) {
     return Keep(nullptr, hInternet);
   }
-  void* pSession = nullptr;
-  const bool bDone = Await(hInternet, m_oLimits.oConnect, [&](void* pInternet) {
-    pSession = ::InternetConnectW(pInternet, Wide(sHost).c_str(), nPort, Wide(sUser).c_str(),
-                                  Wide(sPassword).c_str(), static_cast<DWORD>(eService), 0, 0);
-    return OutcomeOf(pSession != nullptr);
-  });
-  return bDone ? Keep(pSession, hInternet) : 0;
+  const Outcome oOutcome = Await(
+      hInternet, m_oLimits.oConnect,
+      [sHost = Wide(sHost), nPort, sUser = Wide(sUser), sPassword = Wide(sPassword),
+       eService](void* pInternet) {
+        return Opened(::InternetConnectW(pInternet, sHost.c_str(), nPort, sUser.c_str(),
+                                         sPassword.c_str(), static_cast<DWORD>(eService), 0, 0));
+      });
+  return oOutcome.nError == 0 ? Keep(oOutcome.pOpened, hInternet) : 0;
 }
 
 bool WinInetInternet::SetDirectory(InternetHandle hFtp, const std::string& sDirectory) {
-  return Await(hFtp, m_oLimits.oStall, [&](void* pFtp) {
-    return OutcomeOf(::FtpSetCurrentDirectoryW(pFtp, Wide(sDirectory).c_str()) != FALSE);
-  });
+  const Outcome oOutcome =
+      Await(hFtp, m_oLimits.oStall, [sDirectory = Wide(sDirectory)](void* pFtp) {
+        return OutcomeOf(::FtpSetCurrentDirectoryW(pFtp, sDirectory.c_str()) != FALSE);
+      });
+  return oOutcome.nError == 0;
 }
 
-WinInetInternet::Outcome WinInetInternet::ReadAll(void* pHandle, const InternetLimits& oLimits,
-                                                  std::string& sContent) {
-  const auto oEnd = Clock::now() + oLimits.oWhole;
+WinInetInternet::Outcome WinInetInternet::ReadAll(void* pHandle, std::uint64_t nAnnounced,
+                                                  const InternetLimits& oLimits) {
+  Outcome oOutcome;
+  std::string& sContent = oOutcome.sContent;
   std::vector<char> acPiece(65536);
   DWORD nRead = 0;
   do {
@@ -151,87 +171,89 @@ WinInetInternet::Outcome WinInetInternet::ReadAll(void* pHandle, const InternetL
       return OutcomeOf(false);
     }
     if (nRead > oLimits.nLargest - sContent.size()) {
-      return {ERROR_FILE_TOO_LARGE, {}};
-    }
-    if (Clock::now() > oEnd) {
-      return {ERROR_INTERNET_TIMEOUT, {}};
+      return {.nError = ERROR_FILE_TOO_LARGE};
     }
     sContent.append(acPiece.data(), nRead);
   } while (nRead != 0);
-  return {};
+  if (sContent.size() < nAnnounced) {
+    oOutcome.nError = ERROR_INTERNET_CONNECTION_ABORTED;
+  }
+  return oOutcome;
+}
+
+WinInetInternet::Outcome WinInetInternet::Find(void* pFtp, const std::wstring& sRemoteFile) {
+  WIN32_FIND_DATAW oFound{};
+  Outcome oOutcome =
+      Opened(::FtpFindFirstFileW(pFtp, sRemoteFile.c_str(), &oFound, INTERNET_FLAG_RELOAD, 0));
+  if (oOutcome.nError == 0) {
+    oOutcome.nSize = std::uint64_t{oFound.nFileSizeHigh} << 32U | oFound.nFileSizeLow;
+    // While it is open, the session takes no other call.
+    ::InternetCloseHandle(std::exchange(oOutcome.pOpened, nullptr));
+  }
+  return oOutcome;
+}
+
+WinInetInternet::Outcome WinInetInternet::Fetch(void* pFtp, const std::wstring& sRemoteFile,
+                                                TransferType eType, const InternetLimits& oLimits) {
+  const Outcome oFound = Find(pFtp, sRemoteFile);
+  if (oFound.nError != 0) {
+    return oFound;
+  }
+  const Outcome oFile = Opened(::FtpOpenFileW(pFtp, sRemoteFile.c_str(), GENERIC_READ,
+                                              static_cast<DWORD>(eType) | INTERNET_FLAG_RELOAD, 0));
+  if (oFile.nError != 0) {
+    return oFile;
+  }
+  Outcome oOutcome = ReadAll(oFile.pOpened, oFound.nSize, oLimits);
+  // Here the server may tell that it was not all.
+  const Outcome oClosed = OutcomeOf(::InternetCloseHandle(oFile.pOpened) != FALSE);
+  return oOutcome.nError == 0 && oClosed.nError != 0 ? oClosed : oOutcome;
 }
 
 bool WinInetInternet::GetFile(InternetHandle hFtp, const std::string& sRemoteFile,
                               const std::string& sLocalFile, TransferType eType) {
-  std::string sContent;
-  const bool bFetched = Await(hFtp, m_oLimits.oWhole, [&](void* pFtp) {
-    const HINTERNET hFile = ::FtpOpenFileW(pFtp, Wide(sRemoteFile).c_str(), GENERIC_READ,
-                                           static_cast<DWORD>(eType) | INTERNET_FLAG_RELOAD, 0);
-    if (hFile == nullptr) {
-      return OutcomeOf(false);
-    }
-    Outcome oOutcome = ReadAll(hFile, m_oLimits, sContent);
-    // Here the server tells whether that was all.
-    const bool bClosed = ::InternetCloseHandle(hFile) != FALSE;
-    return oOutcome.nError != 0 ? oOutcome : OutcomeOf(bClosed);
-  });
-  if (!bFetched) {
+  const Outcome oOutcome =
+      Await(hFtp, m_oLimits.oWhole,
+            [sRemoteFile = Wide(sRemoteFile), eType, oLimits = m_oLimits](void* pFtp) {
+              return Fetch(pFtp, sRemoteFile, eType, oLimits);
+            });
+  if (oOutcome.nError != 0) {
     return false;
   }
-  const std::error_code oError = ReplaceFile(sLocalFile, sContent);
+  const std::error_code oError = ReplaceFile(sLocalFile, oOutcome.sContent);
   if (oError) {
-    m_oLast = {static_cast<DWORD>(oError.value()), {}};
+    m_oLast = {.nError = static_cast<DWORD>(oError.value())};
   }
   return !oError;
 }
 
 bool WinInetInternet::FindFile(InternetHandle hFtp, const std::string& sRemoteFile,
                                std::uint64_t& nSize) {
-  WIN32_FIND_DATAW oFound{};
-  const bool bFound = Await(hFtp, m_oLimits.oStall, [&](void* pFtp) {
-    const HINTERNET hFind =
-        ::FtpFindFirstFileW(pFtp, Wide(sRemoteFile).c_str(), &oFound, INTERNET_FLAG_RELOAD, 0);
-    const Outcome oOutcome = OutcomeOf(hFind != nullptr);
-    ::InternetCloseHandle(hFind);  // while it is open, the session takes no other call
-    return oOutcome;
-  });
-  nSize = bFound ? std::uint64_t{oFound.nFileSizeHigh} << 32U | oFound.nFileSizeLow : 0;
-  return bFound;
+  const Outcome oOutcome =
+      Await(hFtp, m_oLimits.oStall,
+            [sRemoteFile = Wide(sRemoteFile)](void* pFtp) { return Find(pFtp, sRemoteFile); });
+  nSize = oOutcome.nSize;
+  return oOutcome.nError == 0;
 }
 
 InternetHandle WinInetInternet::OpenRequest(InternetHandle hHttp, const std::string& sRequest) {
-  void* pRequest = nullptr;
-  const bool bDone = Await(hHttp, m_oLimits.oStall, [&](void* pHttp) {
-    pRequest = ::HttpOpenRequestW(pHttp, L"GET", Wide(sRequest).c_str(), L"HTTP/1.0", nullptr,
-                                  nullptr, INTERNET_FLAG_RELOAD, 0);
-    return OutcomeOf(pRequest != nullptr);
+  const Outcome oOutcome = Await(hHttp, m_oLimits.oStall, [sRequest = Wide(sRequest)](void* pHttp) {
+    return Opened(::HttpOpenRequestW(pHttp, L"GET", sRequest.c_str(), L"HTTP/1.0", nullptr, nullptr,
+                                     INTERNET_FLAG_RELOAD, 0));
   });
-  return bDone ? Keep(pRequest, hHttp) : 0;
-}
-
-WinInetInternet::Outcome WinInetInternet::ReadAnswer(void* pRequest, const InternetLimits& oLimits,
-                                                     std::string& sContent) {
-  if (::HttpSendRequestW(pRequest, nullptr, 0, nullptr, 0) == FALSE) {
-    return OutcomeOf(false);
-  }
-  const std::int64_t nAnnounced = AnnouncedLength(pRequest);
-  Outcome oOutcome = ReadAll(pRequest, oLimits, sContent);
-  // An answer that breaks off reads like one that ends.
-  if (oOutcome.nError == 0 && nAnnounced > static_cast<std::int64_t>(sContent.size())) {
-    oOutcome.nError = ERROR_INTERNET_CONNECTION_ABORTED;
-  }
-  return oOutcome;
+  return oOutcome.nError == 0 ? Keep(oOutcome.pOpened, hHttp) : 0;
 }
 
 bool WinInetInternet::SendRequest(InternetHandle hRequest) {
-  std::string sContent;
-  const bool bDone = Await(hRequest, m_oLimits.oWhole, [&](void* pRequest) {
-    return ReadAnswer(pRequest, m_oLimits, sContent);
+  Outcome oOutcome = Await(hRequest, m_oLimits.oWhole, [oLimits = m_oLimits](void* pRequest) {
+    return ::HttpSendRequestW(pRequest, nullptr, 0, nullptr, 0) == FALSE
+               ? OutcomeOf(false)
+               : ReadAll(pRequest, AnnouncedLength(pRequest), oLimits);
   });
-  if (bDone) {
-    m_aoItems[hRequest].oAnswer = HttpAnswer(std::move(sContent));
+  if (oOutcome.nError == 0) {
+    m_aoItems[hRequest].oAnswer = HttpAnswer(std::move(oOutcome.sContent));
   }
-  return bDone;
+  return oOutcome.nError == 0;
 }
 
 std::size_t WinInetInternet::DataAvailable(InternetHandle hRequest) {
@@ -279,8 +301,8 @@ void WinInetInternet::Close(InternetHandle hHandle) {
   m_aoItems.erase(iItem);
 }
 
-std::unique_ptr<Internet> PlatformInternet() {
-  return std::make_unique<WinInetInternet>();
+std::unique_ptr<Internet> PlatformInternet(InternetLimits oLimits) {
+  return std::make_unique<WinInetInternet>(oLimits);
 }
 
 }  // namespace quillet

@@ -1,8 +1,9 @@
-// The Internet by WinINet. Its calls block, so they run on a thread of their own, one at a time,
-// while this one pumps the host's events.
+// The Internet by WinINet. Its calls block, some beyond all limits, so each runs on a thread of its
+// own while this one pumps the host's events.
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <string>
@@ -43,11 +44,17 @@ class WinInetInternet : public Internet {
   void Close(InternetHandle hHandle) override;
 
  private:
-  /// How a call ended: the platform's error number, 0 for none, and what the server said to it.
+  /// How a call ended: the platform's error number, 0 for none, what the server said to it, and
+  /// what it gave.
   struct Outcome {
     unsigned long nError = 0;
     std::string sResponse;
+    void* pOpened = nullptr;
+    std::string sContent;
+    std::uint64_t nSize = 0;
   };
+  /// Holds all that it needs, since it may outlive whoever waits for it.
+  using Call = std::function<Outcome(void* pHandle)>;
   /// What has been opened. The platform has no handle for an HTTP session without a server.
   struct Item {
     void* pHandle = nullptr;
@@ -56,15 +63,19 @@ class WinInetInternet : public Internet {
   };
 
   [[nodiscard]] static Outcome OutcomeOf(bool bDone);
-  [[nodiscard]] static Outcome ReadAll(void* pHandle, const InternetLimits& oLimits,
-                                       std::string& sContent);
-  [[nodiscard]] static Outcome ReadAnswer(void* pRequest, const InternetLimits& oLimits,
-                                          std::string& sContent);
+  [[nodiscard]] static Outcome Opened(void* pHandle);
+  /// Reads to the end. What breaks off reads like what ends, so less than was announced is a
+  /// failure.
+  [[nodiscard]] static Outcome ReadAll(void* pHandle, std::uint64_t nAnnounced,
+                                       const InternetLimits& oLimits);
+  [[nodiscard]] static Outcome Find(void* pFtp, const std::wstring& sRemoteFile);
+  [[nodiscard]] static Outcome Fetch(void* pFtp, const std::wstring& sRemoteFile,
+                                     TransferType eType, const InternetLimits& oLimits);
 
-  /// Runs a call on a handle and keeps its outcome; true if it went well. A call that overruns its
-  /// limit is ended by closing the handle.
-  [[nodiscard]] bool Await(InternetHandle hHandle, std::chrono::milliseconds oLimit,
-                           const std::function<Outcome(void*)>& fnCall);
+  /// Runs a call on a handle and keeps the reason of a failure. A call that overruns its limit is
+  /// ended by closing the handle, and left to itself if it takes no notice.
+  [[nodiscard]] Outcome Await(InternetHandle hHandle, std::chrono::milliseconds oLimit,
+                              Call fnCall);
   [[nodiscard]] InternetHandle Keep(void* pHandle, InternetHandle hOwner);
   void SetLimits(void* pHandle) const;
 

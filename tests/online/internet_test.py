@@ -1,0 +1,187 @@
+#!/usr/bin/env python3
+"""What the platform's Internet client makes of servers that misbehave:
+internet_test.py UPDATE_SERVERS PROBE..., where the last words start the probe."""
+
+import contextlib
+import pathlib
+import re
+import socket
+import socketserver
+import subprocess
+import sys
+import tempfile
+import threading
+import time
+import unittest
+
+SERVERS = pathlib.Path(sys.argv.pop(1)).resolve()
+PROBE = sys.argv[1:]
+del sys.argv[1:]
+# The probe's limits: a second to connect, one without a byte, three in all, and so many bytes.
+LARGEST = 100_000
+LONGEST = 6  # seconds, with the start of the program
+
+HEAD = b"HTTP/1.0 200 OK\r\nContent-Length: %d\r\n\r\n"
+
+
+def silence(_):
+    time.sleep(LONGEST * 2)
+
+
+def drips(peer):
+    with contextlib.suppress(OSError):
+        for _ in range(LONGEST * 8):
+            peer.sendall(b"x")
+            time.sleep(0.25)
+
+
+class Server(socketserver.ThreadingTCPServer):
+    """One on loopback that acts by a list: bytes are sent, functions get the connection."""
+
+    daemon_threads = True
+
+    def __init__(self, acts):
+        super().__init__(("127.0.0.1", 0), self.answer)
+        self.acts = acts
+        threading.Thread(target=self.serve_forever, daemon=True).start()
+
+    def answer(self, peer, _address, _server):
+        peer.settimeout(LONGEST * 2)
+        peer.recv(4096)
+        perform(self.acts, peer)
+
+    @property
+    def name(self):
+        return "127.0.0.1:%d" % self.server_address[1]
+
+
+class FtpServer(Server):
+    """Lets everyone in and knows one file, which it sends by a list of acts."""
+
+    def __init__(self, size, acts):
+        super().__init__(acts)
+        self.size = size
+        self.listed = b"-rw-r--r-- 1 ftp ftp %d Jan 01 2026 fees.dat\r\n" % size
+
+    def answer(self, peer, _address, _server):
+        peer.settimeout(LONGEST * 2)
+        if not self.acts:
+            return silence(peer)
+        lines = peer.makefile("rw", newline="\r\n", encoding="latin-1")
+        data = None
+
+        def say(text):
+            lines.write(text + "\r\n")
+            lines.flush()
+
+        say("220 ready")
+        for line in lines:
+            verb, _, rest = line.strip().partition(" ")
+            if verb == "PORT":
+                numbers = list(map(int, rest.split(",")))
+                data = socket.create_connection((".".join(map(str, numbers[:4])),
+                                                 numbers[4] * 256 + numbers[5]), LONGEST)
+                say("200 connected")
+            elif verb == "EPSV":
+                with socket.create_server(("127.0.0.1", 0)) as door:
+                    say(f"229 Entering (|||{door.getsockname()[1]}|)")
+                    data, _ = door.accept()
+            elif verb in ("RETR", "LIST", "NLST"):
+                say("150 coming")
+                with data:
+                    perform(self.acts if verb == "RETR" else [self.listed], data)
+                say("226 that was all" if verb != "RETR" or self.acts[-1] != b"half"
+                    else "426 broken off")
+            else:
+                say({"USER": "331 and the password?", "PASS": "230 welcome", "SIZE": f"213 {self.size}",
+                     "PWD": '257 "/"', "QUIT": "221 bye"}.get(verb, "200 fine"))
+        return None
+
+
+def perform(acts, peer):
+    with contextlib.suppress(OSError):
+        for act in acts:
+            if callable(act):
+                act(peer)
+            else:
+                peer.sendall(act)
+
+
+def probe(*words):
+    """The probe's answer, and the seconds that it took."""
+    started = time.monotonic()
+    done = subprocess.run([*PROBE, *map(str, words)], capture_output=True, text=True,
+                          timeout=60, check=False)
+    return done.stdout.strip(), time.monotonic() - started
+
+
+class Client(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.local = pathlib.Path(folder.name) / "fees.dat"
+
+    def expect(self, words, answer):
+        got, seconds = probe(*words)
+        self.assertRegex(got, f"^{answer}$")
+        self.assertLess(seconds, LONGEST)
+
+    def test_an_answer_comes_whole_or_counts_as_lost(self):
+        rows = {
+            "whole": ([HEAD % 5, b"hello"], "got 5"),
+            "of an error": ([b"HTTP/1.0 404 Nothing\r\n\r\n", b"sorry"], "got 5"),
+            "without a length": ([b"HTTP/1.0 200 OK\r\n\r\n", b"hello"], "got 5"),
+            "of the largest size": ([HEAD % LARGEST, b"x" * LARGEST], f"got {LARGEST}"),
+            "a byte larger": ([HEAD % (LARGEST + 1), b"x" * (LARGEST + 1)], "lost: .+"),
+            "cut off": ([HEAD % 100, b"hello"], "lost: .+"),
+            "never begun": ([silence], "lost: .+"),
+            "never ended": ([HEAD % 100, b"hello", silence], "lost: .+"),
+            "dripping": ([HEAD % 100, drips], "lost: .+"),
+        }
+        for name, (acts, answer) in rows.items():
+            with self.subTest(name), Server(acts) as server:
+                self.expect(("http", server.name, "page"), answer)
+                server.shutdown()
+
+    def test_a_file_comes_whole_or_leaves_the_old_one(self):
+        content = b"x" * LARGEST
+        rows = {
+            "of the largest size": (LARGEST, [content], f"got {LARGEST} of {LARGEST}"),
+            "a byte larger": (LARGEST + 1, [content, b"x"], "lost: .+"),
+            "cut off": (LARGEST, [content[:20_000], b"half"], "lost: .+"),
+            "never begun": (LARGEST, [silence], "lost: .+"),
+            "never ended": (LARGEST, [content[:20_000], silence], "lost: .+"),
+            "dripping": (LARGEST, [drips], "lost: .+"),
+            "no word from the server": (LARGEST, [], "lost: .+"),
+        }
+        for name, (size, acts, answer) in rows.items():
+            self.local.write_bytes(b"old")
+            with self.subTest(name), FtpServer(size, acts) as server:
+                self.expect(("ftp", server.name, "secret", "fees.dat", self.local), answer)
+                self.assertEqual(self.local.read_bytes(), b"old" if "lost" in answer else content)
+                server.shutdown()
+
+    def test_nobody_there_is_told_at_once(self):
+        with socket.create_server(("127.0.0.1", 0)) as taken:
+            free = "127.0.0.1:%d" % taken.getsockname()[1]
+        for words in (("http", free, "page"), ("ftp", free, "secret", "fees.dat", self.local)):
+            self.expect(words, "lost: .+")
+
+    def test_real_servers_answer_and_refuse_in_their_own_words(self):
+        with subprocess.Popen([SERVERS], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                              text=True) as servers:
+            web, ftp, files = (servers.stdout.readline().strip() for _ in range(3))
+            pathlib.Path(files, "web/page").write_bytes(b"hello")
+            pathlib.Path(files, "ftp/fees.dat").write_bytes(b"a\r\nb\n\0")
+            self.expect(("http", web, "page"), "got 5")
+            self.expect(("ftp", ftp, "rmk3816", "fees.dat", self.local), "got 6 of 6")
+            self.assertEqual(self.local.read_bytes(), b"a\r\nb\n\0")
+            # Windows has a number of its own for this.
+            self.expect(("ftp", ftp, "wrong", "fees.dat", self.local),
+                        "lost: (530 .*incorrect.*|Error 12015)")
+            self.expect(("ftp", ftp, "rmk3816", "none.dat", self.local), "lost: .+")
+            servers.stdin.close()
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
