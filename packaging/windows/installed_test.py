@@ -118,7 +118,45 @@ class Installed(unittest.TestCase):
         self.screen.keep_picture("windows-opened")
         self.screen.end()
 
-    def test_4_a_start_fetches_the_fees_from_real_servers(self):
+    def test_4_windows_own_dialogs_save_and_open_auctions(self):
+        screen = self.screen
+        screen.start_installed()
+        screen.keys("ctrl+s")
+        screen.window("Save As")
+        screen.keep_picture("windows-save")
+        screen.keys("ctrl+a")
+        screen.type("Blue vase")
+        screen.keys("Return")
+        screen.window("Quillet US - Blue vase")
+        saved = next(screen.user.rglob("Blue vase.qlt"))
+        self.assertEqual(saved.parent.name, "Documents")
+        self.assertIn("[OUTLAY]", saved.read_text(encoding="utf-8"))
+        saved.rename(saved.with_name("Red vase.qlt"))
+        screen.keys("ctrl+o")
+        screen.window("Open")
+        screen.type("Red vase.qlt")
+        screen.keys("Return")
+        screen.window("Quillet US - Red vase")
+        screen.end()
+
+    def test_5_a_link_opens_in_the_browser(self):
+        called = self.screen.home / "called"
+        browser = self.screen.home / "browser"
+        browser.write_text(f'#!/bin/sh\necho "$1" > {called}\n', encoding="utf-8")
+        browser.chmod(0o755)
+        self.screen.wine("reg", "add", r"HKCU\Software\Wine\WineBrowser", "/v", "Browsers", "/d",
+                         browser)
+        self.screen.start_installed()
+        self.screen.keys("F1")
+        self.screen.window("About.*")
+        self.screen.keep_picture("windows-about")
+        self.screen.keys("Tab", "space")
+        wait_for("the browser", called.exists)
+        self.assertRegex(called.read_text(encoding="utf-8"), r"^https?://\S+$")
+        self.screen.keys("Escape")
+        self.screen.end()
+
+    def test_6_a_start_fetches_the_fees_from_real_servers(self):
         # The servers weren't there before, and a day takes one vain attempt only.
         mark = self.screen.registry(CONFIG, "/v", "FTPSkipFlag")
         self.assertRegex(mark, r"REG_SZ +\d+\.\d+")
@@ -143,7 +181,7 @@ class Installed(unittest.TestCase):
         self.assertIn("DL - Update file 9 - okay", log)
         self.assertEqual(self.screen.registry(CONFIG, "/v", "FTPSkipFlag"), "", log)
 
-    def test_5_uninstalling_leaves_nothing_but_the_settings(self):
+    def test_7_uninstalling_leaves_nothing_but_the_settings(self):
         self.uninstall()
         self.assertFalse(list(self.screen.user.rglob("Quillet.lnk")))
         for key in (r"HKCU\Software\Classes\Quillet.Auction", r"HKCU\Software\Classes\.qlt",
@@ -151,13 +189,13 @@ class Installed(unittest.TestCase):
             self.assertEqual(self.screen.registry(key), "", key)
         self.assertIn("Quillet US", self.screen.registry(SETTINGS, "/s"))
 
-    def test_6_the_switch_takes_the_settings_too(self):
+    def test_8_the_switch_takes_the_settings_too(self):
         self.install()
         self.uninstall("/SETTINGS")
         wait_for("the end of the settings",
                  lambda: not self.screen.registry(r"HKCU\Software\Velmor"))
 
-    def test_7_the_portable_archive_runs_where_it_is_unpacked(self):
+    def test_9_the_portable_archive_runs_where_it_is_unpacked(self):
         shutil.unpack_archive(PORTABLE, self.screen.user)
         self.screen.open(TITLE, self.screen.user / "Quillet/quillet.exe")
         self.screen.end()
