@@ -118,6 +118,7 @@ std::optional<std::string> QtHost::ChooseFile(const FileDialog& oDialog) {
   const QString sPattern = QString::fromStdString(oDialog.sPattern);
   QFileDialog oWindow(QApplication::activeWindow());
   oWindow.setFont(ThemeFont(kTextPoints));
+  oWindow.setWindowTitle(oDialog.bSave ? "Save As" : "Open");  // native ones don't all have one
   oWindow.resize(Pixels(kTwipsOfFileDialog.width()), Pixels(kTwipsOfFileDialog.height()));
   oWindow.setAcceptMode(oDialog.bSave ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   oWindow.setFileMode(oDialog.bSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
