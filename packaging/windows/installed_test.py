@@ -121,6 +121,8 @@ class Installed(unittest.TestCase):
     def test_4_windows_own_dialogs_save_and_open_auctions(self):
         screen = self.screen
         screen.start_installed()
+        screen.keys("ctrl+1")
+        screen.window("Quillet US")
         screen.keys("ctrl+s")
         screen.window("Save As")
         screen.keep_picture("windows-save")
@@ -150,7 +152,7 @@ class Installed(unittest.TestCase):
         self.screen.keys("F1")
         self.screen.window("About.*")
         self.screen.keep_picture("windows-about")
-        self.screen.keys("Tab", "space")
+        self.screen.keys("shift+Tab", "space")
         wait_for("the browser", called.exists)
         self.assertRegex(called.read_text(encoding="utf-8"), r"^https?://\S+$")
         self.screen.keys("Escape")
