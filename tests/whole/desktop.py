@@ -13,9 +13,9 @@ KEPT = pathlib.Path(os.environ.get("QUILLET_SHOTS", "build/test-logs")).resolve(
 PATIENCE = 20  # seconds that anything may take to appear
 
 
-def wait_for(what, condition):
+def wait_for(what, condition, patience=PATIENCE):
     """The first true answer of a condition; a failure that says what was waited for."""
-    end = time.monotonic() + PATIENCE
+    end = time.monotonic() + patience
     while time.monotonic() < end:
         if answer := condition():
             return answer
