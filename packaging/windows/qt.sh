@@ -71,7 +71,7 @@ need_qt() {
   work=$folder.work
   rm -rf "$work"
   mkdir -p "$work"
-  say "Building Qt $qt_version for Windows, once (a quarter to half an hour)"
+  say "Building Qt $qt_version for Windows, once (about half an hour)"
   step "fetching Qt's source" qt_fetch "$work"
   step "configuring Qt" qt_configure "$work"
   step "building Qt" ninja -C "$work/build" ${QUILLET_JOBS:+-j"$QUILLET_JOBS"}
