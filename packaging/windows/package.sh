@@ -39,6 +39,7 @@ fill_stage() {
   cp /usr/share/common-licenses/{GPL-3,LGPL-3} "$stage/Licences"
   cp "$(qt_folder)/copyright" "$stage/Licences/Qt.txt"
   cp graphics/quillet.ico "$stage/.."
+  convert graphics/installer.png "BMP3:$stage/../installer.bmp"  # the kind that the installer takes
 }
 
 need_packages run windows

@@ -32,6 +32,7 @@ VIAddVersionKey "LegalCopyright" ""
 
 !define MUI_ICON "${STAGE}/../quillet.ico"
 !define MUI_UNICON "${STAGE}/../quillet.ico"
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${STAGE}/../installer.bmp"
 !define MUI_FINISHPAGE_RUN "$INSTDIR\quillet.exe"
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
