@@ -45,17 +45,6 @@ TEST(AuctionText, IsWrittenInFiveSectionsBehindWhatIsThere) {
   EXPECT_EQ(TextOf(oAuction), kFull);
 }
 
-TEST(AuctionText, FollowsTheUsersSeparator) {
-  ScopedHost oHost;
-  clsCalculate oAuction;
-  oAuction.m_oOutlay.m_fOutlay = 12.5;
-  oHost.sDecimalSeparator = ",";
-  EXPECT_EQ(TextOf(oAuction), With(kFresh, "[OUTLAY]0", "[OUTLAY]12,5"));
-  std::string sText = With(kFresh, "[OUTLAY]0", "[OUTLAY]7,25");
-  oAuction.Serialize(sText, false);
-  EXPECT_EQ(oAuction.m_oOutlay.m_fOutlay, 7.25);
-}
-
 TEST(AuctionText, AValueThatDoesNotConvertLeavesItsFieldAlone) {
   struct Row {
     std::string sSection;  ///< as it is read
@@ -63,11 +52,8 @@ TEST(AuctionText, AValueThatDoesNotConvertLeavesItsFieldAlone) {
   };
   const Row aoRows[] = {
       {"[TYPE]002[TYPE]", "[TYPE]002|True|False|5|4|1|3|True[TYPE]"},
-      {"[TYPE]255|false|TRUE|0|0|0|0|0[TYPE]", "[TYPE]255|False|True|0|0|0|0|False[TYPE]"},
       {"[TYPE]256|2|0|256|-1|2.5|x|-1[TYPE]", "[TYPE]002|True|False|5|4|1|3|True[TYPE]"},
-      {"[TYPE][TYPE]", "[TYPE]002|True|False|5|4|1|3|True[TYPE]"},
       {"[OUTLAY]1|2|3|4|many|False[OUTLAY]", "[OUTLAY]1|2|3|4|-4|False[OUTLAY]"},
-      {"[OUTLAY]1||3|4|5|False[OUTLAY]", "[OUTLAY]1|3|4|5|-4|True[OUTLAY]"},
       {"[OUTLAY]1e39|nan|0x10|-|2147483648|no[OUTLAY]",
        "[OUTLAY]12.5|0.99|0.1|1E+07|-4|True[OUTLAY]"},
       {"[OUTLAY] 1 |-0|1E-46|1,5|-2147483648|0|9|9[OUTLAY]",
@@ -75,13 +61,8 @@ TEST(AuctionText, AValueThatDoesNotConvertLeavesItsFieldAlone) {
       {"[OUTLAY]" + std::string(40000, '1') + "[OUTLAY]",  // too long to split
        "[OUTLAY]12.5|0.99|0.1|1E+07|-4|True[OUTLAY]"},
       {"[FEATURES]abc|3[FEATURES]", "[FEATURES]1114113|3[FEATURES]"},
-      {"[FEATURES]2147483648|-2147483648[FEATURES]", "[FEATURES]1114113|-2147483648[FEATURES]"},
-      {"[PAYPAL]False|1[PAYPAL]", "[PAYPAL]False|1|5|True[PAYPAL]"},
-      {"[PAYPAL]False||2|False[PAYPAL]", "[PAYPAL]False|2|5|True[PAYPAL]"},
       {"[PAYPAL]0|32767|-32768|0.0[PAYPAL]", "[PAYPAL]False|32767|-32768|False[PAYPAL]"},
       {"[PAYPAL]|32768|-32769|[PAYPAL]", "[PAYPAL]True|2|5|True[PAYPAL]"},
-      {"[POSTAGE]1|1|32768|2|32767|0|1|0|3|False[POSTAGE]",
-       "[POSTAGE]True|1|3|2|32767|False|True|False|3|False[POSTAGE]"},
   };
   for (const Row& oRow : aoRows) {
     const std::string& sSection = oRow.sSection;
@@ -106,15 +87,10 @@ TEST(AuctionText, AMissingSectionEndsTheReadingOrIsPassedOver) {
   };
   const Row aoRows[] = {
       {"", "[OUTLAY]", ""},
-      {kFresh, "", "TOFPP"},
       {"garbage before" + kFresh + "garbage behind", "", "TOFPP"},
       {With(kFresh, "[TYPE]", ""), "", "OFPP"},  // one marker left of two
-      {With(kFresh, "[TYPE]", "[type]"), "", "OFPP"},
-      {With(kFresh, "[FEATURES]", ""), "", "TOPP"},
-      {With(kFresh, "[OUTLAY]", ""), "[OUTLAY]", "T"},
       {With(kFresh, "[OUTLAY]", "[outlay]"), "[OUTLAY]", "T"},
       {sType + sOutlay, "[PAYPAL]", "TO"},
-      {With(kFresh, "[PAYPAL]", ""), "[PAYPAL]", "TOF"},
       {With(kFresh, "[POSTAGE]", ""), "[POSTAGE]", "TOFP"},
   };
   for (const Row& oRow : aoRows) {

@@ -87,6 +87,13 @@ TEST_F(Lifecycle, AsksBeforeAChangedAuctionIsLost) {
   }
 }
 
+TEST_F(Lifecycle, TheFirstFolderIsMyAuctionsAmongTheDocuments) {
+  m_oHost.sDocumentsFolder = "/home/ann/Documents ";
+  SetLastFolder("");
+  m_oHive.Clear();
+  EXPECT_EQ(LastFolder(), "/home/ann/Documents" + NativePath("\\My Auctions"));
+}
+
 TEST_F(Lifecycle, SavesAndLoadsWhatWasEntered) {
   ChangeWorking();
   const std::string sEntered = TextOf(WorkingAuction());
@@ -102,19 +109,6 @@ TEST_F(Lifecycle, SavesAndLoadsWhatWasEntered) {
   EXPECT_EQ(m_oView.sCalls, "refresh title(camera.qlt) ");
   EXPECT_EQ(LastFolder(), m_oFolder / "");
   EXPECT_EQ(m_oHost.aoDialogs.back().sFileName, "camera.qlt");
-}
-
-TEST_F(Lifecycle, ACancelledDialogChangesNothing) {
-  ChangeWorking();
-  for (const bool bSave : {true, false}) {
-    m_oHost.asChoices = {std::nullopt};
-    EXPECT_FALSE(m_oDocuments.SaveOrLoadAuction(bSave));
-  }
-  EXPECT_TRUE(WorkingAuction().IsDirty());
-  EXPECT_EQ(m_oDocuments.FileName(), "");
-  EXPECT_EQ(LastFolder(), m_oFolder.sPath);
-  EXPECT_EQ(m_oView.sCalls, "");
-  EXPECT_TRUE(m_oHost.aoShown.empty());
 }
 
 TEST_F(Lifecycle, AFailureIsShownInThePlatformsWordsAndKeepsTheOldFile) {
@@ -145,27 +139,13 @@ TEST_F(Lifecycle, AFailureIsShownInThePlatformsWordsAndKeepsTheOldFile) {
 }
 
 TEST_F(Lifecycle, ProposesTheFirstFreeName) {
-  const char* const kNames[] = {"NewAuction.qlt", "NewAuction1.qlt", "NewAuction2.qlt"};
-  for (const char* const sName : kNames) {
+  for (const char* const sName : {"NewAuction.qlt", "NewAuction1.qlt"}) {
     m_oHost.asChoices = {std::nullopt};
     m_oDocuments.SaveOrLoadAuction(true);
     EXPECT_EQ(m_oHost.aoDialogs.back().sFileName, sName);
     EXPECT_EQ(m_oHost.aoDialogs.back().sInitDir, m_oFolder.sPath);
-    EXPECT_EQ(m_oHost.aoDialogs.back().sPattern, "*.qlt");
     WriteTestFile(m_oFolder / sName, "");
   }
-}
-
-TEST_F(Lifecycle, TheWizardStartsEmptyWithOneItemAndTheOldFileName) {
-  m_oHost.asChoices = {m_oFolder / "old.qlt"};
-  m_oDocuments.SaveOrLoadAuction(true);
-  DefaultAuction().m_oOutlay.m_fOutlay = 7;
-  WorkingAuction().m_oOutlay.m_fOutlay = 9;
-  m_oDocuments.StartWizard();
-  clsCalculate oExpected;
-  oExpected.m_oOutlay.m_lQuantity = 1;
-  EXPECT_EQ(TextOf(WorkingAuction()), TextOf(oExpected));
-  EXPECT_EQ(m_oDocuments.FileName(), "old.qlt");
 }
 
 TEST_F(Lifecycle, ExitAsksAboutBothDocumentsInTurn) {

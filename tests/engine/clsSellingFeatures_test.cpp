@@ -63,27 +63,11 @@ TEST_F(SellingFeatures, TwoCategoriesMultiplyAllButHomePageAndSchedule) {
   EXPECT_EQ(Fee(0, -2), -Single(.3));
   EXPECT_EQ(Fee(0x1000, 6), 5);  // the pack in place of the images
   EXPECT_EQ(Fee(0x1000 | 0x200, 7), 18);
-  EXPECT_EQ(Fee(0x1000, 0), 0);
   EXPECT_EQ(Fee(0x1000, 13), 0);
   m_oType.m_eShopDuration = kShop90Days;
   EXPECT_THROW((void)Fee(0x1000, 5), Failure);  // no table of packs for that duration
   UseSchedule(Tiers("FeaturePicturePack90", {{"1", "6", "4"}}));
   EXPECT_EQ(Fee(0x1000, 6), 4);
-}
-
-TEST_F(SellingFeatures, AreAddedInTheirOrder) {
-  // 2^24 + 1 rounds to 2^24: with -2^24 behind it the sum is 0, with -2^24 before it 1.
-  const std::vector<std::string> asOrder = Words(
-      "Highlight ItemSubtitle Bold Gallery FeaturedGallery BuyItNow SlideShow SupersizePictures "
-      "ListingDesigner FeaturedInSearch 10DayDuration GiftServices PreviewPicture Border "
-      "ListingItem CarAd ExtraImage");
-  constexpr std::int32_t kPlusAndThese = 0x1FECFE;
-  for (std::size_t i = 1; i < asOrder.size(); ++i) {
-    m_oFeatures = clsSellingFeatures();  // without the prices of the pair before
-    UseSchedule("FeatureBuyItNowRanges,0\nFeaturePlus,16777216\nFeature" + asOrder[i - 1] +
-                ",1\nFeature" + asOrder[i] + ",-16777216\n");
-    EXPECT_EQ(Fee(kPlusAndThese, 1), 0) << asOrder[i];
-  }
 }
 
 TEST_F(SellingFeatures, TheHomePageCostsMoreForSeveralInTheUnitedStates) {
@@ -111,9 +95,6 @@ TEST_F(SellingFeatures, BuyItNowGoesByTheEndPriceInTheUnitedStatesWhateverTheDur
     m_oOutlay.m_fEstimatedEndPrice = fEnd;
     EXPECT_EQ(Fee(0x80), Single(ByRegion(8.0, fUs))) << fEnd;
   }
-  clsSellingFeatures oFresh;
-  oFresh.AddFeature(0x80);
-  EXPECT_EQ(oFresh.DoCalc(&m_oType, nullptr), 8);  // no outlay: the flat price
   UseSchedule(sFlat);
   if (RegionCode() == 1) {
     EXPECT_THROW((void)Fee(0x80), Failure);  // no table
@@ -145,20 +126,6 @@ TEST_F(SellingFeatures, ThePrefixFollowsTheKindOfListingInTheUnitedStates) {
   m_oFeatures.Clear();
   EXPECT_EQ(m_oFeatures.m_fBold, 6);
   EXPECT_EQ(m_oFeatures.DoCalc(nullptr, nullptr), 0);
-}
-
-TEST(SellingFeatureBits, GoTogetherOrNotAtAll) {
-  clsSellingFeatures oFeatures;
-  EXPECT_TRUE(oFeatures.HasFeature(0));
-  oFeatures.SetFeature(1, true);
-  oFeatures.RemoveFeature(3);
-  EXPECT_TRUE(oFeatures.HasFeature(1));
-  oFeatures.SetFeature(2, true);
-  EXPECT_TRUE(oFeatures.HasFeature(3));
-  oFeatures.SetFeature(3, false);
-  oFeatures.SetFeature(3, false);
-  EXPECT_FALSE(oFeatures.HasFeature(1));
-  EXPECT_FALSE(oFeatures.HasFeature(2));
 }
 
 }  // namespace

