@@ -78,17 +78,6 @@ std::string Configuration(const std::string& sName,
   return sText;
 }
 
-/// A process and all that it has started, which are stopped, so that no more of them come.
-void StopTree(int nProcess, std::vector<int>& anStopped) {
-  ::kill(nProcess, SIGSTOP);
-  anStopped.push_back(nProcess);
-  const std::string sId = std::to_string(nProcess);
-  std::ifstream oChildren("/proc/" + sId + "/task/" + sId + "/children");
-  for (int nChild = 0; oChildren >> nChild;) {
-    StopTree(nChild, anStopped);
-  }
-}
-
 /// What the wrapper of the login library leaves behind when its process is killed.
 void RemoveLoginFiles(int nProcess) {
   for (const auto& oEntry : std::filesystem::directory_iterator("/tmp")) {
@@ -115,6 +104,7 @@ ServerProcess::ServerProcess(const std::vector<std::string>& asCommand,
   if (m_nId != 0) {
     return;
   }
+  ::setpgid(0, 0);
   ::prctl(PR_SET_PDEATHSIG, SIGKILL);
   ::alarm(kLongestLife);
   for (const auto& [sName, sValue] : asEnvironment) {
@@ -131,28 +121,17 @@ ServerProcess::ServerProcess(const std::vector<std::string>& asCommand,
 
 void ServerProcess::Kill() {
   if (m_nId > 0) {
-    std::vector<int> anProcesses;
-    StopTree(m_nId, anProcesses);
-    for (const int nProcess : anProcesses) {
-      ::kill(nProcess, SIGKILL);
-    }
-    for (const int nProcess : anProcesses) {
-      ::waitpid(nProcess, nullptr, 0);
-    }
-    while (::waitpid(-1, nullptr, WNOHANG) > 0) {
-      // what ended by itself, and lost its parent
-    }
+    ::kill(-m_nId, SIGKILL);
+    ::waitpid(m_nId, nullptr, 0);
     m_nId = 0;
   }
 }
 
-UpdateServers::UpdateServers(const std::string& sPassword, const std::string& sWebLines,
-                             const std::string& sFtpLines) {
+UpdateServers::UpdateServers() {
   if (::geteuid() != 0) {
     throw std::runtime_error("vsftpd lets users in only if root has started it: run this as root");
   }
-  ::prctl(PR_SET_CHILD_SUBREAPER, 1);  // to wait also for what the servers start
-  WriteConfiguration(sPassword, sWebLines, sFtpLines);
+  WriteConfiguration();
   m_oWeb = std::make_unique<ServerProcess>(
       std::vector<std::string>{"/usr/sbin/nginx", "-e", m_oFolder / "error.log", "-c",
                                m_oFolder / "nginx-main.conf"},
@@ -168,27 +147,21 @@ UpdateServers::UpdateServers(const std::string& sPassword, const std::string& sW
 }
 
 UpdateServers::~UpdateServers() {
-  Kill();
-}
-
-void UpdateServers::Kill() {
   m_oWeb->Kill();
   const int nFtp = m_oFtp->Id();
   m_oFtp->Kill();
   RemoveLoginFiles(nFtp);
 }
 
-void UpdateServers::WriteConfiguration(const std::string& sPassword, const std::string& sWebLines,
-                                       const std::string& sFtpLines) const {
+void UpdateServers::WriteConfiguration() const {
   for (const char* const sFolder : {"web", "ftp", "empty", "pam.d"}) {
     std::filesystem::create_directory(m_oFolder / sFolder);
   }
   std::filesystem::permissions(m_oFolder.sPath, std::filesystem::perms(0755));
   const std::string sPort = std::to_string(m_nWebPort);
-  WriteTestFile(
-      m_oFolder / "nginx.conf",
-      Configuration("nginx.conf", {{"listen 80;", "listen 127.0.0.1:" + sPort + ";\n" + sWebLines},
-                                   {"/srv/quillet-update", m_oFolder.sPath}}));
+  WriteTestFile(m_oFolder / "nginx.conf",
+                Configuration("nginx.conf", {{"listen 80;", "listen 127.0.0.1:" + sPort + ";"},
+                                             {"/srv/quillet-update", m_oFolder.sPath}}));
   WriteTestFile(m_oFolder / "nginx-main.conf",
                 "daemon off;\nmaster_process off;\npid " + m_oFolder / "nginx.pid" +
                     ";\nevents {}\nhttp {\naccess_log off;\ninclude " + m_oFolder / "nginx.conf" +
@@ -198,13 +171,13 @@ void UpdateServers::WriteConfiguration(const std::string& sPassword, const std::
       Configuration("vsftpd.conf", {{"listen_port=21", "listen_port=" + std::to_string(m_nFtpPort)},
                                     {"/srv/quillet-update", m_oFolder.sPath},
                                     {"/var/run/vsftpd/empty", m_oFolder / "empty"}}) +
-          "listen_address=127.0.0.1\ndelay_failed_login=0\n" + sFtpLines);
+          "listen_address=127.0.0.1\ndelay_failed_login=0\n");
   WriteTestFile(m_oFolder / "pam.d/quillet-update",
                 Configuration("pam", {{"/srv/quillet-update/passwords",
                                        m_oFolder / "passwords" + " nodelay"}}));
   WriteTestFile(m_oFolder / "pam.d/other", "auth required pam_deny.so\n");
   const std::string sHash =
-      "openssl passwd -6 " + sPassword + " | sed s/^/quillet:/ >" + m_oFolder / "passwords";
+      "openssl passwd -6 rmk3816 | sed s/^/quillet:/ >" + m_oFolder / "passwords";
   if (std::system(sHash.c_str()) != 0) {
     throw std::runtime_error("openssl can't make the password file");
   }
@@ -220,28 +193,12 @@ void UpdateServers::PutFile(const std::string& sName, const std::string& sConten
   WriteTestFile(oPath, sContent);
 }
 
-void UpdateServers::RemoveFile(const std::string& sName) const {
-  std::filesystem::remove(m_oFolder / ("ftp/" + sName));
-}
-
 std::string UpdateServers::WebServer() const {
   return "127.0.0.1:" + std::to_string(m_nWebPort);
 }
 
 std::string UpdateServers::FtpServer() const {
   return "127.0.0.1:" + std::to_string(m_nFtpPort);
-}
-
-SilentServer::SilentServer() : m_nSocket(BoundSocket()) {
-  ::listen(m_nSocket, 8);
-}
-
-SilentServer::~SilentServer() {
-  ::close(m_nSocket);
-}
-
-std::string SilentServer::Name() const {
-  return "127.0.0.1:" + std::to_string(PortOf(m_nSocket));
 }
 
 }  // namespace quillet

@@ -34,18 +34,13 @@ class ServerProcess {
 /// nginx and vsftpd. A std::runtime_error if they don't come up within five seconds.
 class UpdateServers {
  public:
-  /// The texts are further lines of the servers' configurations.
-  explicit UpdateServers(const std::string& sPassword = "rmk3816",
-                         const std::string& sWebLines = {}, const std::string& sFtpLines = {});
+  UpdateServers();
   UpdateServers(const UpdateServers&) = delete;
   UpdateServers& operator=(const UpdateServers&) = delete;
   ~UpdateServers();
 
-  void Kill();
-
   void PutPage(const std::string& sName, const std::string& sContent) const;
   void PutFile(const std::string& sName, const std::string& sContent) const;
-  void RemoveFile(const std::string& sName) const;
 
   /// Their files lie here below "web" and "ftp".
   [[nodiscard]] const std::string& Folder() const { return m_oFolder.sPath; }
@@ -53,27 +48,13 @@ class UpdateServers {
   [[nodiscard]] std::string FtpServer() const;
 
  private:
-  void WriteConfiguration(const std::string& sPassword, const std::string& sWebLines,
-                          const std::string& sFtpLines) const;
+  void WriteConfiguration() const;
 
   TemporaryFolder m_oFolder;
   std::uint16_t m_nWebPort = FreePort();
   std::uint16_t m_nFtpPort = FreePort();
   std::unique_ptr<ServerProcess> m_oWeb;
   std::unique_ptr<ServerProcess> m_oFtp;
-};
-
-/// A socket that takes connections and never says a word.
-class SilentServer {
- public:
-  SilentServer();
-  SilentServer(const SilentServer&) = delete;
-  SilentServer& operator=(const SilentServer&) = delete;
-  ~SilentServer();
-  [[nodiscard]] std::string Name() const;
-
- private:
-  int m_nSocket;
 };
 
 }  // namespace quillet
