@@ -1,6 +1,7 @@
 #include "platform/UserData.h"
 
 #include <chrono>
+#include <cstdlib>
 #include <filesystem>
 
 #include "support/OnlineTest.h"
@@ -9,6 +10,27 @@ namespace quillet {
 namespace {
 
 using UserData = OnlineTest;
+
+#ifdef _WIN32
+TEST_F(UserData, AFolderThatCanBeWrittenIsKept) {
+  EXPECT_EQ(FolderForChanges(m_oFolder.sPath), m_oFolder.sPath);
+  const std::string sOwn = FolderForChanges(m_oFolder / "missing");
+  EXPECT_EQ(sOwn, std::string(std::getenv("LOCALAPPDATA")) + "\\Quillet");
+}
+#else
+TEST_F(UserData, AFolderThatCanBeWrittenIsKept) {
+  ::setenv("XDG_DATA_HOME", "/data", 1);
+  EXPECT_EQ(FolderForChanges(m_oFolder.sPath), m_oFolder.sPath);
+  const std::string sClosed = m_oFolder / "missing";
+  EXPECT_EQ(FolderForChanges(sClosed), "/data/quillet");
+  ::setenv("XDG_DATA_HOME", "relative", 1);
+  ::setenv("HOME", "/home/ann", 1);
+  EXPECT_EQ(FolderForChanges(sClosed), "/home/ann/.local/share/quillet");
+  ::unsetenv("XDG_DATA_HOME");
+  ::unsetenv("HOME");
+  EXPECT_EQ(FolderForChanges(sClosed), sClosed);
+}
+#endif
 
 TEST_F(UserData, AnOlderShippedScheduleNeverReplacesTheUsersCopy) {
   EXPECT_EQ(UpdateFileName(false), m_sLocal);
