@@ -45,31 +45,6 @@ TEST_F(NumericTextTest, ParsesANumberBehindTheSymbolAndNothingElse) {
                                   "12\n13", "1E39"}) {  // the last is beyond a Single
     EXPECT_EQ(Money().ParseCurrentValue(ToUtf16(sText)), std::nullopt) << sText;
   }
-  NumericText oNumber = Money();
-  oNumber.m_sDecimalSeperator = u"::";  // two characters eat one of those before them
-  EXPECT_EQ(oNumber.ParseCurrentValue(u"£123::5"), std::optional<Single>(12.5));
-  EXPECT_EQ(oNumber.ParseCurrentValue(u"£::5"), std::nullopt);
-  EXPECT_EQ(Shown(oNumber, 2.5), "£2.50") << "what is shown has the user's own separator";
-}
-
-TEST_F(NumericTextTest, ATextIsValidIfItIsANumberWithinBounds) {
-  struct Row {
-    NumericText oNumber;
-    std::vector<const char*> asGood;
-    std::vector<const char*> asBad;
-  };
-  const NumericText oWhole{0, 0, true, u".", 0};  // a symbol makes the text of such a box bad
-  for (const auto& [oNumber, asGood, asBad] :
-       {Row{Money(), {"£-5", "1E38"}, {"1E39", ""}}, Row{oWhole, {"12", "12.5"}, {"1.2.3", "£5"}},
-        Row{Money(0, 10), {"£10", "0"}, {"£10.01", "-0.01"}}, Row{Money(3, 3), {"50"}, {"x"}},
-        Row{Money(10, 0), {}, {"5", "50"}}}) {
-    for (const char* const sText : asGood) {
-      EXPECT_TRUE(oNumber.IsTextValid(ToUtf16(sText))) << oNumber.m_fMax << ": " << sText;
-    }
-    for (const char* const sText : asBad) {
-      EXPECT_FALSE(oNumber.IsTextValid(ToUtf16(sText))) << oNumber.m_fMax << ": " << sText;
-    }
-  }
 }
 
 TEST_F(NumericTextTest, AStepGoesByTheCaretAndStaysOnItsSideOfTheSeparator) {
@@ -77,9 +52,7 @@ TEST_F(NumericTextTest, AStepGoesByTheCaretAndStaysOnItsSideOfTheSeparator) {
   EXPECT_EQ(Stepped(Money(), 1, "£1.|00"), "£1.|01");
   EXPECT_EQ(Stepped(Money(), -10, "|£1.00"), "£-9|.00");
   EXPECT_EQ(Stepped(Money(), 10, "£99.95|"), "£100.|05");
-  EXPECT_EQ(Stepped(Money(), 1, "7|"), "£8|.00");
   EXPECT_EQ(Stepped(Money(0, 10), 1, "£10|.00"), "£10|.00");
-  EXPECT_EQ(Stepped(Money(), 1, "ab|c"), "ab|c");
   EXPECT_EQ(Stepped(Money(), 1, "|"), "|");
 }
 
@@ -87,16 +60,13 @@ TEST_F(NumericTextTest, AUserWithACommaReadsAndStepsByIt) {
   m_oHost.sDecimalSeparator = ",";
   EXPECT_EQ(Money().ParseCurrentValue(u"£12,50"), std::optional<Single>(12.5));
   EXPECT_EQ(Money().ParseCurrentValue(u"12.50"), std::nullopt);
-  EXPECT_EQ(Money().ParseCurrentValue(u"1,2,3"), std::nullopt);
   EXPECT_EQ(Stepped(Money(), 1, "£1,|00"), "£1,|01");
-  EXPECT_EQ(Stepped(Money(), 1, "£1|,00"), "£2|,00");
 }
 
 TEST_F(NumericTextTest, WhatIsShownLiesWithinTheBoundsIfTheyAreTheRightWayRound) {
   EXPECT_EQ(Shown(Money(0, 10), 50), "£10.00");
   EXPECT_EQ(Shown(Money(0, 10), -1), "£0.00");
   EXPECT_EQ(Shown(Money(10, 0), 50), "£50.00");
-  EXPECT_EQ(Shown(Money(3, 3), 50), "£50.00");
   EXPECT_EQ(Shown(Money(), -0.125), "£-0.13");  // a half goes away from zero
 }
 
@@ -109,15 +79,6 @@ TEST_F(NumericTextTest, WholeNumbersEndAt32BitsAndDecimalStepsAtFourPlaces) {
   EXPECT_EQ(Stepped(oNumber, 1, "1.|0000"), "1.|0001");
   oNumber.m_nDecimalPlaces = 5;
   EXPECT_THROW(Stepped(oNumber, 1, "1.|00000"), Failure);
-  EXPECT_EQ(Stepped(oNumber, 1, "1|.00000"), "2|.00000");
-}
-
-TEST(SpinDelta, GoesOnInItsDirectionBeyondTheEnds) {
-  const SpinRange oRange{0, 100, 5};
-  EXPECT_EQ(SpinDelta(oRange, 0, 5), 5);
-  EXPECT_EQ(SpinDelta(oRange, 10, 5), -5);
-  EXPECT_EQ(SpinDelta(oRange, 100, 0), 5);
-  EXPECT_EQ(SpinDelta(oRange, 0, 100), -5);
 }
 
 }  // namespace

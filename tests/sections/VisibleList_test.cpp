@@ -3,12 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/clsRegistryAccess.h"
-#include "base/regionControls.h"
-#include "documents/lastFolder.h"
-#include "platform/Files.h"
-#include "support/ByRegion.h"
 #include "support/MemoryHive.h"
-#include "support/TestHost.h"
 
 namespace quillet {
 namespace {
@@ -43,33 +38,6 @@ TEST_F(VisibleListTest, WordsComeBackAndNamesThatHoldOneAreListed) {
   for (const char* const sName : {"txtoutlay", "txtReservePrice", ""}) {
     EXPECT_FALSE(NameInVisibleList(sName, oBack)) << sName;
   }
-  m_oHive.bWritable = false;
-  EXPECT_FALSE(SaveVisibleList("Outlay", oList));
-}
-
-TEST(RegionControls, TheFirstFittingLineDecides) {
-  for (const char* const sName : {"chkBorder", "chkShowCarAd", "BusinessAuction", "optParts",
-                                  "ctlRealEstateOption", "Shop60DaysWeight"}) {
-    EXPECT_EQ(RegionAllowsControl(sName), ByRegion(false, true)) << sName;
-  }
-  for (const char* const sName : {"Weight", "chkOutlayInclTax", "optParcelServiceStandard"}) {
-    EXPECT_EQ(RegionAllowsControl(sName), ByRegion(true, false)) << sName;
-  }
-  for (const char* const sName :
-       {"txtOutlay", "chkborder", "optPartsAndMore", "ctlRealEstateOptionsLand1", ""}) {
-    EXPECT_TRUE(RegionAllowsControl(sName)) << sName;
-  }
-}
-
-TEST_F(VisibleListTest, TheLastFolderIsRememberedAndStored) {
-  SetLastFolder("");  // as at the start
-  m_oHive.Clear();
-  ScopedHost oHost;
-  oHost.sDocumentsFolder = "/home/ann/Documents ";
-  EXPECT_EQ(LastFolder(), "/home/ann/Documents" + NativePath("\\My Auctions"));
-  SetLastFolder("/elsewhere");
-  EXPECT_EQ(LastFolder(), "/elsewhere");
-  EXPECT_EQ(Registry().Get(settings::kLastFolder), "/elsewhere");
 }
 
 }  // namespace

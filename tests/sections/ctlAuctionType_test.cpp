@@ -10,7 +10,7 @@
 
 #include <gtest/gtest.h>
 
-#include "base/failure.h"
+#include "sections/ctlSubControlExample.h"
 #include "support/PanelTest.h"
 
 namespace quillet {
@@ -117,9 +117,42 @@ struct ClickRow {
   const char* sFields;
 };
 
-class ClicksOnAuctionType : public AuctionTypeSection {
- protected:
-  void Run(const std::vector<ClickRow>& aoRows) {
+// Fixed price and shop put each other out; the shop goes with a standard auction only, and without
+// it there is no duration. What a grey option is clicked to is kept; a grey box doesn't stay
+// ticked.
+TEST_F(AuctionTypeSection, ClicksReachTheListingAndGiveWayToTheLastOne) {
+  const std::vector<ClickRow> aoEverywhere = {
+      {"chkBuyItNow chkBuyItNow", ""},
+      {"chkShopInventory optShop30Days", "shop1 duration0"},
+      {"chkShopInventory optShop90Days", "shop1 duration1"},
+      {"chkShopInventory optShop90Days optShopGoodTillCancelled", "shop1 duration2"},
+      {"chkShopInventory optShop90Days chkShopInventory", ""},
+      {"chkShopInventory optShop90Days chkBuyItNow", "fixed1"},
+      {"chkShopInventory optShop90Days optMotorAuction", "kind1"},
+      {"chkBuyItNow chkShopInventory", "shop1"},
+      {"optRealEstateAuction chkShopInventory", "shop1"},
+      {"chkBuyItNow optRealEstateAuction", "kind2 fixed1"},
+      {"chkBuyItNow optMotorAuction optStandardAution", "fixed1"},
+      {"optShop90Days", ""},
+  };
+  const std::vector<ClickRow> aoUnitedStates = {
+      {"chkShopInventory optBusinessAuction", "kind3"},
+      {"chkShopInventory optShop60Days", "shop1 duration4"},
+      {"chkShopInventory optShop120Days", "shop1 duration5"},
+      {"optMotorAuction optMotorcycle", "kind1 motor1"},
+      {"optMotorAuction optPowersports", "kind1 motor2"},
+      {"optMotorAuction optPocketBikes", "kind1 motor3"},
+      {"optMotorAuction optOtherVehicle", "kind1 motor4"},
+      {"optMotorAuction optParts optPassenger", "kind1"},
+      {"optParts", "motor5"},
+      {"optRealEstateAuction optRealEstate30DayAuction", "kind2 sale1"},
+      {"optRealEstateAuction optRealEstate30DayAd", "kind2 sale2"},
+      {"optRealEstateAuction optRealEstate90DayAd", "kind2 sale3"},
+      {"optRealEstateAuction chkRealEstateBinding optRealEstateOther", "kind2 land1 binding1"},
+      {"optRealEstateAuction chkRealEstateBinding optMotorAuction optRealEstateAuction", "kind2"},
+      {"chkRealEstateBinding", ""},
+  };
+  for (const auto& aoRows : {aoEverywhere, ByRegion({}, aoUnitedStates)}) {
     for (const ClickRow& oRow : aoRows) {
       SCOPED_TRACE(oRow.sClicks);
       clsAuctionType& oListing = SetScreen(oRow.sClicks);
@@ -128,62 +161,6 @@ class ClicksOnAuctionType : public AuctionTypeSection {
       ExpectScreenShowsListing(oListing);
     }
   }
-};
-
-// Fixed price and shop put each other out; the shop goes with a standard auction only, and without
-// it there is no duration.
-TEST_F(ClicksOnAuctionType, KindFixedPriceAndShopGiveWayToTheLastOneClicked) {
-  Run({
-      {"optMotorAuction", "kind1"},
-      {"optRealEstateAuction", "kind2"},
-      {"chkBuyItNow", "fixed1"},
-      {"chkBuyItNow chkBuyItNow", ""},
-      {"chkShopInventory", "shop1"},
-      {"chkShopInventory optShop30Days", "shop1 duration0"},
-      {"chkShopInventory optShop90Days", "shop1 duration1"},
-      {"chkShopInventory optShop90Days optShopGoodTillCancelled", "shop1 duration2"},
-      {"chkShopInventory optShop90Days chkShopInventory", ""},
-      {"chkShopInventory optShop90Days chkBuyItNow", "fixed1"},
-      {"chkShopInventory optShop90Days optMotorAuction", "kind1"},
-      {"chkBuyItNow chkShopInventory", "shop1"},
-      {"optMotorAuction chkShopInventory", "shop1"},
-      {"optRealEstateAuction chkShopInventory", "shop1"},
-      {"chkBuyItNow optRealEstateAuction", "kind2 fixed1"},
-      {"chkBuyItNow optMotorAuction optStandardAution", "fixed1"},
-      {"optShop90Days", ""},
-  });
-}
-
-// What a grey option is clicked to is kept; a grey box doesn't stay ticked.
-TEST_F(ClicksOnAuctionType, TheOptionsOfEachKindReachTheListing) {
-  const std::vector<ClickRow> aoUnitedKingdom = {
-      {"chkShopInventory optShop30Days", "shop1 duration0"},
-      {"chkShopInventory optShopGoodTillCancelled", "shop1 duration2"},
-      {"optRealEstateAuction", "kind2"},
-  };
-  const std::vector<ClickRow> aoUnitedStates = {
-      {"optBusinessAuction", "kind3"},
-      {"chkShopInventory optBusinessAuction", "kind3"},
-      {"chkShopInventory optShop60Days", "shop1 duration4"},
-      {"chkShopInventory optShop120Days", "shop1 duration5"},
-      {"optMotorAuction optMotorcycle", "kind1 motor1"},
-      {"optMotorAuction optPowersports", "kind1 motor2"},
-      {"optMotorAuction optPocketBikes", "kind1 motor3"},
-      {"optMotorAuction optOtherVehicle", "kind1 motor4"},
-      {"optMotorAuction optParts", "kind1 motor5"},
-      {"optMotorAuction optParts optPassenger", "kind1"},
-      {"optParts", "motor5"},
-      {"optRealEstateAuction optRealEstateOther", "kind2 land1"},
-      {"optRealEstateAuction optRealEstate30DayAuction", "kind2 sale1"},
-      {"optRealEstateAuction optRealEstate30DayAd", "kind2 sale2"},
-      {"optRealEstateAuction optRealEstate90DayAd", "kind2 sale3"},
-      {"optRealEstateAuction chkRealEstateBinding", "kind2 binding1"},
-      {"optRealEstateAuction chkRealEstateBinding optRealEstateOther", "kind2 land1 binding1"},
-      {"optRealEstateAuction chkRealEstateBinding optStandardAution", ""},
-      {"optRealEstateAuction chkRealEstateBinding optMotorAuction optRealEstateAuction", "kind2"},
-      {"chkRealEstateBinding", ""},
-  };
-  Run(ByRegion(aoUnitedKingdom, aoUnitedStates));
 }
 
 // A listing of another kind than the one on screen takes the flags that were on screen.
@@ -197,23 +174,15 @@ TEST_F(AuctionTypeSection, AListingIsShownOrOverwrittenByWhatStoodOnScreen) {
   const std::array aoRows = std::to_array<Row>({
       {"", "", "", false},
       {"", "fixed1", "fixed1", true},  // the box's own click writes it back
-      {"chkBuyItNow", "fixed1", "fixed1", false},
       {"chkBuyItNow", "", "", true},
       {"", "shop1 duration1", "shop1 duration1", true},
-      {"chkShopInventory", "shop1 duration5", "shop1 duration5", true},
-      {"", "kind1", "kind1", true},
       {"", "kind1 fixed1", "kind1", true},
       {"chkBuyItNow", "kind1", "kind1 fixed1", true},
-      {"optMotorAuction", "kind1 fixed1", "kind1 fixed1", true},
       {"optMotorAuction", "shop1 duration1", "", true},
-      {"chkShopInventory", "kind2", "kind2", true},
       {"", "fixed1 shop1 duration1", "fixed1", true},
       {"", "binding1", "", true},
-      {"optRealEstateAuction", "kind2 binding1", "kind2 binding1", true},
       {"optRealEstateAuction", "kind2 land1 binding1", "kind2 land1", true},
       {"optMotorAuction", "kind1 shop1 duration1", "shop1 duration1", true},
-      {"", "kind1 motor5", "kind1 motor5", true},
-      {"", "kind9", "kind9", true},
       {"", "kind-1 motor9 land7 sale-2", "kind-1 motor9 land7 sale-2", true},
       {"chkShopInventory", "shop1 duration77", "shop1 duration77", false},
   });
@@ -262,20 +231,63 @@ TEST_F(AuctionTypeSection, AnyListingComesToRestOnAnyScreen) {
   }
 }
 
-TEST_F(AuctionTypeSection, EachWriteIntoTheListingIsTold) {
-  const auto fnTold = [this](const char* sClicks) {
-    m_oChanged.clear();
-    ClickOn(sClicks);
-    return m_oChanged.count();
+TEST_F(AuctionTypeSection, TickedRowsAreStillTickedAtTheNextStart) {
+  const auto fnStored = [](const char* sKey) {
+    return LoadVisibleList(sKey).GetFlattenedSegments(0);
   };
-  EXPECT_EQ(fnTold("chkBuyItNow"), 1);
-  EXPECT_EQ(fnTold("optStandardAution"), 0) << "it is chosen already";
-  EXPECT_EQ(fnTold("chkShopInventory"), 2) << "one for the box that it put out";
+  m_oSection.SetShowConfig(true);
+  ClickOn("chkShowRealEstateBinding chkShowShop30Days chkShowTotal chkShowRealEstate30DayAd");
+  ctlAuctionType oNext(&m_oWindow);
+  oNext.show();
+  EXPECT_EQ(fnStored("AuctionType"), "BusinessAuction,Shop,BuyItNow,RealEstate,Motor,Standard");
+  EXPECT_EQ(fnStored("ShopDuration"), "Shop60Days,Shop90Days,Shop120Days,ShopGoodTillCancelled");
+  EXPECT_EQ(fnStored("RealEstateOptions"), "ctlRealEstateOptionsLand1,ctlRealEstateOptionsSale1")
+      << "the inner panels have no boxes, and stay in the list";
+  EXPECT_EQ(NamesWhere(oNext,
+                       [](const Control& o) {
+                         return IsShowCheck(o) && dynamic_cast<const Choice&>(o).Value() == 0;
+                       }),
+            "chkShowShop30Days chkShowRealEstate30DayAd chkShowRealEstateBinding chkShowTotal");
 }
 
-TEST_F(AuctionTypeSection, AListingWithoutFeesYetIsAFailure) {
-  clsAuctionType& oListing = NewListing("");
-  EXPECT_THROW(m_oSection.ApplyAuctionType(oListing), Failure);
+TEST_F(AuctionTypeSection, ARealEstateListFromBeforeTheInnerPanelsReceivesThem) {
+  clsTokeniser oOld;
+  oOld.AddToArray("RealEstateBinding");
+  SaveVisibleList("RealEstateOptions", oOld);
+  ctlAuctionType oNext(&m_oWindow);
+  oNext.show();
+  EXPECT_EQ(LoadVisibleList("RealEstateOptions").GetFlattenedSegments(0),
+            "RealEstateBinding,ctlRealEstateOptionsLand1,ctlRealEstateOptionsSale1");
+}
+
+TEST_F(AuctionTypeSection, EachShowBoxStandsForItsRowAlone) {
+  ExpectEachShowBoxStandsForItsRow(m_oSection, ByRegion(6U, 7U));
+}
+
+TEST_F(AuctionTypeSection, NoCaptionIsClippedAndEveryInputHasAName) {
+  ShowSectionTotal(dynamic_cast<Label&>(ControlOf(m_oSection, "lblTotal")), 9999.99F);
+  for (const bool bConfig : {false, true}) {
+    m_oSection.SetShowConfig(bConfig);
+    EXPECT_EQ(ClippedCaptionsIn(m_oSection), "") << (bConfig ? "in config mode" : "");
+  }
+  EXPECT_EQ(UnnamedInputsIn(m_oSection), "");
+}
+
+// The template stands in no window of the program.
+TEST(SubControlExample, TheLaterOfTwoTicksWinsAndGreyBoxesAreUnticked) {
+  clsAuctionType oListing;
+  oListing.m_eAuctionType = kAuctionRealEstate;
+  ctlSubControlExample oPanel(nullptr);
+  oPanel.show();
+  oPanel.SetShowConfig(false);
+  oPanel.ApplyAuctionType(oListing);
+  EXPECT_EQ(ChosenIn(oPanel), "chkCheck1");
+  ClickOn(oPanel, "chkCheck2");
+  EXPECT_EQ(ChosenIn(oPanel), "chkCheck2");
+  EXPECT_EQ(oListing.m_eRealEstateType, kRealEstateOther);
+  oListing.m_eAuctionType = kAuctionStandard;
+  oPanel.ApplyAuctionType(oListing);
+  EXPECT_EQ(ChosenIn(oPanel), "");
 }
 
 }  // namespace

@@ -89,8 +89,7 @@ TEST_F(SellingFeatures, EachBoxSetsItsFeatureAndItsFeeIsTheTotal) {
   }
 }
 
-TEST_F(SellingFeatures, TheModelIsShownButForTheCarAd) {
-  constexpr std::int32_t kAll = 0x1FFFFF;
+TEST_F(SellingFeatures, ACarAdOfTheModelIsNotShownAndSoOverwritten) {
   UseSchedule("FeatureCarAd,9.95\nFeatureMotorCarAd,9.95\nFeatureBold,4\nFeatureMotorBold,4\n");
   Start(Listing::Vehicle, kFeatureCarAd);
   EXPECT_EQ(Chosen(), "");
@@ -98,15 +97,6 @@ TEST_F(SellingFeatures, TheModelIsShownButForTheCarAd) {
   ClickOn("chkBold");
   EXPECT_EQ(Mask(), kFeatureBold) << "the box, which was never ticked, overwrites the feature";
   EXPECT_EQ(Total(), "Section Total £4.00");
-
-  UseSchedule(Tiers("FeatureMotorBuyItNow", {}) + Tiers("FeatureMotorPicturePack", {}) +
-              Tiers("FeaturePicturePack", {}));
-  Start(Listing::Vehicle, kAll);
-  const std::string sAllBoxes = NamesWhere(m_oSection, [](const Control& o) {
-    return dynamic_cast<const CheckBox*>(&o) != nullptr && !IsShowCheck(o) &&
-           o.Name() != "chkCarAd" && o.Name() != "chkFeaturedInSearch";  // a shop's only
-  });
-  EXPECT_EQ(Chosen(), sAllBoxes);
 }
 
 TEST_F(SellingFeatures, WhatTheListingCannotHaveIsGreyAndCannotBeClicked) {
@@ -144,28 +134,22 @@ TEST_F(SellingFeatures, WhatTheListingCannotHaveIsGreyAndCannotBeClicked) {
   }
 }
 
-struct StruckRow {
-  const char* sName;
-  const char* sSchedule;
-  Listing eListing;
-  std::int32_t lFeature;
-  const char* sBox;
-  bool bGrey;
-};
-
 // The model keeps the feature until the next change in the section writes the empty box over it.
 TEST_F(SellingFeatures, ABoxThatIsStruckOutIsUntickedEvenIfItEndsOpen) {
-  const std::array aoRows = std::to_array<StruckRow>({
-      {"not on offer", "FeaturePlus,-1\n", Listing::Standard, kFeaturePlus, "chkFeaturePlus", true},
-      {"free of charge is on offer", "FeaturePlus,0\n", Listing::Standard, 0, "chkFeaturePlus",
-       false},
-      {"a shop's second category", "", Listing::Shop, kFeatureListIn2Categories,
-       "chkListIn2Categories", false},
-      {"a vehicle's listing item", "FeatureListingItem,-1\nFeatureMotorListingItem,-1\n",
-       Listing::Vehicle, kFeatureListingItem, "chkListingItem", false},
+  struct Row {
+    const char* sSchedule;
+    Listing eListing;
+    std::int32_t lFeature;
+    const char* sBox;
+    bool bGrey;
+  };
+  const std::array aoRows = std::to_array<Row>({
+      {"FeaturePlus,-1\n", Listing::Standard, kFeaturePlus, "chkFeaturePlus",
+       true},  // not on offer
+      {"", Listing::Shop, kFeatureListIn2Categories, "chkListIn2Categories", false},
   });
-  for (const StruckRow& oRow : aoRows) {
-    SCOPED_TRACE(oRow.sName);
+  for (const Row& oRow : aoRows) {
+    SCOPED_TRACE(oRow.sBox);
     UseSchedule(oRow.sSchedule);
     Start(oRow.eListing, oRow.lFeature);
     EXPECT_EQ(Chosen(), "");
@@ -184,12 +168,9 @@ TEST_F(SellingFeatures, ThePicturePackBoundsTheNumberOfPictures) {
     int nPictures;
   };
   const std::array aoRows = std::to_array<Row>({
-      {"below the first tier", {{"1", "3", "1"}, {"4", "6", "2"}}, "0", 1},
-      {"the first", {{"1", "3", "1"}, {"4", "6", "2"}}, "1", 1},
       {"within", {{"1", "3", "1"}, {"4", "6", "2"}}, "4", 4},
       {"the last", {{"1", "3", "1"}, {"4", "6", "2"}}, "6", 6},
       {"beyond the last tier", {{"1", "3", "1"}, {"4", "6", "2"}}, "9", 6},
-      {"without tiers", {}, "9", 9},
       {"without an upper limit", {{"1", "-1", "1"}}, "9", 9},
   });
   for (const Row& oRow : aoRows) {
@@ -207,45 +188,8 @@ TEST_F(SellingFeatures, ThePicturePackBoundsTheNumberOfPictures) {
   }
 }
 
-TEST_F(SellingFeatures, HalfAPictureGoesToTheEvenNumber) {
-  for (const auto& [sTyped, nPictures] : {std::pair("2.5", 2), {"3.5", 4}, {"7", 7}, {"x", 7}}) {
-    TypeInto("txtExtraPictures", sTyped);
-    EXPECT_EQ(Model().m_lExtraImageCount, nPictures) << sTyped;
-  }
-}
-
-TEST_F(SellingFeatures, AScheduleWithoutTheTiersLeavesTheSectionUsable) {
-  UseSchedule("FeatureBold,1\n");
-  Start(Listing::Standard);
-  m_oChanged.clear();
-  ClickOn("chkPicturePack");
-  EXPECT_EQ(m_oChanged.count(), 0);
-  ClickOn("chkPicturePack chkBold");
-  EXPECT_EQ(Total(), "Section Total £1.00");
-  EXPECT_THROW(m_oSection.ApplyFeatures(Model(), nullptr, &m_oAuction.m_oOutlay), Failure);
-}
-
 TEST_F(SellingFeatures, EachShowBoxStandsForItsRowAlone) {
   ExpectEachShowBoxStandsForItsRow(m_oSection, ByRegion(17U, 23U));
-}
-
-TEST_F(SellingFeatures, RowsArePackedAndTheirShowBoxesFollowInBothModes) {
-  const int nAllRows = ByRegion(17, 23);
-  EXPECT_EQ(m_oSection.Width(), 2750);
-  m_oSection.SetShowConfig(true);
-  EXPECT_EQ(m_oSection.Width(), 3745);
-  EXPECT_EQ(m_oSection.Height(), 360 + (nAllRows - 1) * 280 + 255);
-  ClickOn("chkShowHomePageFeatured chkShowTotal chkShowHighlight");
-  EXPECT_EQ(m_oSection.Height(), 360 + (nAllRows - 1) * 280 + 255) << "nothing moves yet";
-  m_oSection.SetShowConfig(false);
-  EXPECT_EQ(m_oSection.Height(), 360 + (nAllRows - 4) * 280 + 255);
-  for (const auto& [sBox, sRow, nTop] : {std::tuple("chkShowFeaturePlus", "fraFeaturePlus", 360),
-                                         {"chkShowItemSubtitle", "fraItemSubtitle", 640},
-                                         {"chkShowGallery", "chkGallery", ByRegion(1200, 1480)}}) {
-    EXPECT_EQ(ControlOf(m_oSection, sRow).Top(), nTop) << sRow;
-    EXPECT_EQ(ControlOf(m_oSection, sBox).Top(), nTop) << sBox;
-    EXPECT_FALSE(Usable(sBox)) << sBox;
-  }
 }
 
 TEST_F(SellingFeatures, NoCaptionIsClippedAndEveryInputHasAName) {

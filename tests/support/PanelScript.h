@@ -81,18 +81,6 @@ inline bool IsGrey(const Control& oControl) {
   return oControl.ForeColor() == kColourGreyText;
 }
 
-/// The rows on view, each with its top: "lblOutlay@360".
-inline std::string PlacesIn(const SectionPanel& oPanel) {
-  std::string sPlaces;
-  for (const Control* const pControl : oPanel.Controls()) {
-    if (pControl->Visible() && !IsShowCheck(*pControl) && !IsHeaderImage(*pControl)) {
-      sPlaces +=
-          (sPlaces.empty() ? "" : " ") + pControl->Name() + "@" + std::to_string(pControl->Top());
-    }
-  }
-  return sPlaces;
-}
-
 /// Out of config mode the Show boxes stand beyond the panel's edge, disabled.
 inline bool IsOnView(const Control& oControl) {
   return oControl.Visible() && (oControl.Enabled() || !IsShowCheck(oControl));

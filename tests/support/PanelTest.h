@@ -63,7 +63,7 @@ class PanelTest : public ::testing::Test {
   }
 
   /// Each Show box has a row of its own. With it ticked alone, what is on view are the controls
-  /// beside it in config mode, and the panel below of its name.
+  /// beside it in config mode, and the panel below that is called after it.
   static void ExpectEachShowBoxStandsForItsRow(SectionPanel& oPanel, std::size_t nBoxes) {
     std::set<std::string> asRows;
     const auto fnShown = [&](const Control& o) {
@@ -77,7 +77,7 @@ class PanelTest : public ::testing::Test {
         oPanel.SetShowConfig(true);
         const std::string sBeside = NamesWhere(oPanel, [&](const Control& o) {
           return fnShown(o) && pBox->Visible() &&
-                 (o.Top() == pBox->Top() || o.Name() == "ctl" + pBox->Tag());
+                 (o.Top() == pBox->Top() || o.Name().starts_with("ctl" + pBox->Tag()));
         });
         EXPECT_EQ(asRows.insert(sBeside).second && !sBeside.empty(), pBox->Visible())
             << pBox->Name();

@@ -1,33 +1,180 @@
 // What must hold after each step of a walk over the main window.
 #pragma once
 
+#include <QApplication>
+#include <QLineEdit>
+#include <algorithm>
 #include <array>
+#include <cstdlib>
+#include <iostream>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
+#include <gtest/gtest.h>
+
+#include "base/conversions.h"
+#include "base/regionControls.h"
+#include "sections/VisibleList.h"
+#include "sections/controlHelpers.h"
 #include "shell/frmMain.h"
-#include "support/LayoutCheck.h"
-#include "support/Walk.h"
+#include "support/Auctions.h"
+#include "support/PanelScript.h"
 
 namespace quillet {
+
+/// A registered control: its place in the design.
+struct DesignedControl {
+  std::string sName;
+  int nTop = 0;
+  int nHeight = 0;
+};
+
+/// A step that was taken, and what it may have changed.
+struct WalkStep {
+  std::string sWhat{};
+  bool bTouches = false;                  ///< edits the auction on view
+  bool bLaysOut = false;                  ///< packs the rows anew
+  bool bShowsAgain = false;               ///< hides the calculator and shows it again
+  bool bCleans = false;                   ///< loads or saves the auction on view
+  const SectionPanel* pTicked = nullptr;  ///< whose Show box was clicked
+};
+
+inline constexpr int kMostRaised = 120;  // by a step; walks have seen 54
+inline constexpr int kRunaway = 20000;   // beyond it the stack is near its end
+
+inline void ReadInto(clsCalculate& oAuction, std::string sText) {
+  oAuction.Serialize(sText, false);
+  oAuction.DoCalc();
+}
+
+/// An amount of more than seven digits loses the others in the text, and with them its figures.
+inline bool StandsInText(const clsCalculate& oAuction) {
+  const clsOutlay& oOutlay = oAuction.m_oOutlay;
+  const clsPostage& oPostage = oAuction.m_oPostage;
+  const std::array afAmounts = {oOutlay.m_fOutlay,       oOutlay.m_fStartingPrice,
+                                oOutlay.m_fReservePrice, oOutlay.m_fEstimatedEndPrice,
+                                oPostage.m_fWeight,      oPostage.m_fManualPostage,
+                                oPostage.m_fProfit};
+  return std::all_of(afAmounts.begin(), afAmounts.end(),
+                     [](Single f) { return ToSingle(SingleText(f)) == f; });
+}
+
+/// The figures of a summary, one after the other.
+inline std::string FiguresOf(const ctlSellingCosts& oSummary) {
+  std::string sFigures;
+  for (const char* const sLabel :
+       {"lblInsertionFeeTotal", "lblListingCostTotal", "lblReserveFeeTotal",
+        "lblFinalValueFeeTotal", "lblSellingCostTotal", "lblPostageTotal", "lblPayPalTotal",
+        "lblProfitGrandTotal"}) {
+    sFigures += oSummary.The(sLabel).Caption().toStdString() + " ";
+  }
+  return sFigures;
+}
+
+/// The rows of a panel, as they stand.
+inline std::vector<DesignedControl> RowsOf(const SectionPanel& oPanel) {
+  std::vector<DesignedControl> aoRows;
+  for (const Control* const pControl : oPanel.Controls()) {
+    if (pControl->Container() == &oPanel && !IsShowCheck(*pControl) && !IsHeaderImage(*pControl)) {
+      aoRows.push_back({pControl->Name(), pControl->Top(), pControl->Height()});
+    }
+  }
+  return aoRows;
+}
+
+/// These register their rows anew at each show and at each click on a Show box, at the places that
+/// the rows then have: a row that was hidden, and the one that was packed into its place, are one
+/// row from then on. The others keep the design's places.
+inline bool RegistersAnew(const SectionPanel& oPanel) {
+  static const std::set<std::string> asKeys = {"Outlay", "SellingFeatures", "AuctionType",
+                                               "PayPal"};
+  return asKeys.contains(oPanel.SectionKey());
+}
+
+/// A row lies on one top, and the next below it by the gap of the design; below a panel, whose
+/// height may have changed since, at least not on top of it. Where a row's last control is hidden
+/// behind one that is shown, the next row lies on top of that one.
+inline void CheckNeighbours(const SectionPanel& oPanel, const DesignedControl& oBefore,
+                            const DesignedControl& oRow) {
+  const Control& oAbove = *oPanel.Find(oBefore.sName);
+  const int nTop = oPanel.Find(oRow.sName)->Top();
+  const DesignedControl& oNext = *(&oBefore + 1);
+  const int nGap = oNext.nTop - (oBefore.nTop + oBefore.nHeight);
+  const int nBelow = oAbove.Top() + oAbove.Height();
+  if (oNext.nTop == oBefore.nTop) {
+    EXPECT_EQ(nTop, oAbove.Top()) << oRow.sName << " beside " << oBefore.sName;
+  } else if (dynamic_cast<const SectionPanel*>(&oAbove) != nullptr) {
+    EXPECT_GE(nTop, nBelow + std::min(0, nGap)) << oRow.sName << " below " << oBefore.sName;
+  } else {
+    EXPECT_EQ(nTop, nBelow + nGap) << oRow.sName << " below " << oBefore.sName;
+  }
+}
 
 class WalkGuard {
  public:
   /// Before the window is first shown: its panels stand as designed.
-  WalkGuard(frmMain& oWindow, const std::vector<SectionPanel*>& aoPanels);
+  WalkGuard(frmMain& oWindow, const std::vector<SectionPanel*>& aoPanels)
+      : m_oWindow(oWindow),
+        m_aoPanels(aoPanels),
+        m_aoDocuments{Document{&WorkingAuction()}, Document{&DefaultAuction()}} {
+    const auto fnCount = [this] {
+      if (++m_nRaised > kRunaway) {
+        std::cerr << "The clicks never end." << std::endl;
+        std::abort();
+      }
+    };
+    for (const SectionPanel* const pPanel : aoPanels) {
+      m_aoRegistered[pPanel] = RowsOf(*pPanel);
+      QObject::connect(pPanel, &SectionPanel::Changed, &m_oListener, fnCount);
+      for (Control* const pControl : pPanel->Controls()) {
+        if (auto* const pButton = dynamic_cast<QAbstractButton*>(pControl)) {
+          QObject::connect(pButton, &QAbstractButton::toggled, &m_oListener, fnCount);
+        }
+      }
+    }
+    QObject::connect(&oWindow.Calculator(), &ctlCalculator::Changed, &m_oListener, [this, fnCount] {
+      fnCount();
+      ++m_nCalculated;
+      for (Document& oDocument : m_aoDocuments) {
+        oDocument.sCalculated = TextOf(*oDocument.pAuction);
+        oDocument.bExact = StandsInText(*oDocument.pAuction);
+      }
+    });
+  }
+
   WalkGuard(const WalkGuard&) = delete;
   WalkGuard& operator=(const WalkGuard&) = delete;
-  ~WalkGuard();
 
   /// Before a step: notes how things stand.
-  void Note();
+  void Note() {
+    m_nRaised = 0;
+    m_nCalculated = 0;
+    m_pOnViewBefore = &OnView();
+    m_bInBox = qobject_cast<QLineEdit*>(QApplication::focusWidget()) != nullptr;
+    for (Document& oDocument : m_aoDocuments) {
+      oDocument.bDirty = oDocument.pAuction->IsDirty();
+      oDocument.sText = TextOf(*oDocument.pAuction);
+    }
+    for (const SectionPanel* const pPanel : m_aoPanels) {
+      m_aoBefore[pPanel] = RowsOf(*pPanel);
+    }
+  }
 
   /// After it: fails the test for each rule that is broken. What costs much is checked if `bAll`.
-  void Check(const WalkStep& oStep, bool bAll);
-
-  /// The most that one step has raised so far.
-  [[nodiscard]] int MostRaised() const { return m_nMostRaised; }
+  void Check(const WalkStep& oStep, bool bAll) {
+    EXPECT_LE(m_nRaised, kMostRaised) << "clicks and changes that one step has raised";
+    CheckDirty(oStep);
+    CheckSummary(oStep);
+    if (bAll) {
+      CheckSaved();
+    }
+    FollowRegistration(oStep);
+    if (bAll || oStep.bLaysOut) {
+      CheckPlaces(oStep);
+    }
+  }
 
  private:
   /// An auction as it stood before the step.
@@ -39,14 +186,108 @@ class WalkGuard {
     bool bExact = true;         ///< that text held every digit
   };
 
-  [[nodiscard]] Document& OnView();
-  void CheckRecursion();
-  void CheckDirty(const WalkStep& oStep);
-  void CheckSummary(const WalkStep& oStep);
-  void CheckSectionTotals(clsCalculate& oFresh);
-  void CheckSaved(const WalkStep& oStep);
-  void FollowRegistration(const WalkStep& oStep);
-  void CheckPlaces(const WalkStep& oStep);
+  Document& OnView() { return m_aoDocuments[m_oWindow.Calculator().ConfigMode() ? 1 : 0]; }
+
+  /// Only what the user has done to it makes an auction dirty: an input, or a box that is left.
+  void CheckDirty(const WalkStep& oStep) {
+    for (const Document& oDocument : m_aoDocuments) {
+      const bool bOnView = &oDocument == m_pOnViewBefore || &oDocument == &OnView();
+      const bool bTouched = &oDocument == m_pOnViewBefore && (oStep.bTouches || m_bInBox);
+      const bool bDirty = oDocument.pAuction->IsDirty();
+      const std::string& sName = oDocument.pAuction->m_sName;
+      EXPECT_FALSE(bDirty && !oDocument.bDirty && !bTouched) << sName << " is dirty, untouched";
+      if (!bOnView) {
+        EXPECT_EQ(TextOf(*oDocument.pAuction), oDocument.sText) << sName << " isn't on view";
+      }
+      if (oStep.bTouches && &oDocument == m_pOnViewBefore) {
+        EXPECT_TRUE(bDirty || TextOf(*oDocument.pAuction) == oDocument.sText)
+            << sName << " has changed and is clean";
+      }
+    }
+    const bool bStar = m_oWindow.windowTitle().endsWith('*');
+    EXPECT_FALSE(bStar && !OnView().pAuction->IsDirty()) << "a star for a clean auction";
+    EXPECT_FALSE(oStep.bCleans && OnView().pAuction->IsDirty()) << "saved or loaded, and dirty";
+  }
+
+  /// The summary shows what the auction's text gives. To push an auction into the boxes can change
+  /// it once more, where it is of another kind than the one before.
+  void CheckSummary(const WalkStep& oStep) {
+    if (!OnView().bExact) {
+      return;
+    }
+    const ctlSellingCosts& oShown = m_oWindow.Calculator().Set().ctlSellingCostsSection;
+    clsCalculate oFresh;
+    ReadInto(oFresh, OnView().sCalculated);
+    ctlSellingCosts oSummary(nullptr);
+    oSummary.ApplySellingCosts(oFresh);
+    EXPECT_EQ(FiguresOf(oShown), FiguresOf(oSummary)) << OnView().sCalculated;
+    if (oStep.bTouches && m_nCalculated > 0) {
+      const std::string sNow = TextOf(*OnView().pAuction);
+      clsCalculate oNow;
+      ReadInto(oNow, sNow);
+      oSummary.ApplySellingCosts(oNow);
+      EXPECT_EQ(FiguresOf(oShown), FiguresOf(oSummary)) << sNow;
+    }
+  }
+
+  /// What is saved, read and saved again stays the same, and so do its figures.
+  void CheckSaved() {
+    const std::string sText = TextOf(*OnView().pAuction);
+    clsCalculate oRead;
+    ReadInto(oRead, sText);
+    EXPECT_EQ(TextOf(oRead), sText);
+    if (!StandsInText(*OnView().pAuction)) {
+      return;
+    }
+    OnView().pAuction->DoCalc();
+    const auto fnFigures = [](const clsCalculate& o) {
+      return std::array{o.m_fProfit,        o.m_fSellCost,    o.m_fPostageCost, o.m_fPostageProfit,
+                        o.m_fFinalValueFee, o.m_fListingCost, o.m_fReserveCost, o.m_fPayPayCost};
+    };
+    EXPECT_EQ(fnFigures(*OnView().pAuction), fnFigures(oRead)) << sText;
+  }
+
+  void FollowRegistration(const WalkStep& oStep) {
+    for (const SectionPanel* const pPanel : m_aoPanels) {
+      if (RegistersAnew(*pPanel) && (oStep.bShowsAgain || oStep.pTicked == pPanel)) {
+        m_aoRegistered[pPanel] = m_aoBefore[pPanel];
+      }
+    }
+  }
+
+  /// The rows on view are those that the mode, the list and the region ask for; they stand packed
+  /// in the order and in the rows in which they were registered; and the panel ends with the last
+  /// one.
+  void CheckPlaces(const WalkStep& oStep) {
+    for (const SectionPanel* const pPanel : m_aoPanels) {
+      SCOPED_TRACE(pPanel->SectionKey());
+      std::vector<DesignedControl> aoRows = m_aoRegistered[pPanel];
+      std::stable_sort(aoRows.begin(), aoRows.end(),
+                       [](const auto& a, const auto& b) { return a.nTop < b.nTop; });
+      const clsTokeniser oList = LoadVisibleList(pPanel->SectionKey());
+      const DesignedControl* pBefore = nullptr;
+      int nBottom = 0;
+      for (const DesignedControl& oRow : aoRows) {
+        const Control& oControl = *pPanel->Find(oRow.sName);
+        if (oStep.bLaysOut) {
+          EXPECT_EQ(oControl.Visible(),
+                    RegionAllowsControl(oRow.sName) &&
+                        (pPanel->ShowConfig() || NameInVisibleList(oRow.sName, oList)))
+              << oRow.sName;
+        }
+        if (oControl.Visible()) {
+          if (pBefore != nullptr) {
+            CheckNeighbours(*pPanel, *pBefore, oRow);
+          } else {
+            EXPECT_EQ(oControl.Top(), aoRows.front().nTop) << "where the first row stands";
+          }
+          pBefore = &oRow;
+          nBottom = oControl.Top() + oControl.Height();
+        }
+      }
+      EXPECT_EQ(pPanel->Height(), nBottom);
+    }
+  }
 
   frmMain& m_oWindow;
   const std::vector<SectionPanel*>& m_aoPanels;
@@ -55,7 +296,6 @@ class WalkGuard {
   bool m_bInBox = false;  ///< a numeric box had the focus
   int m_nRaised = 0;      ///< clicks and changes raised by the step
   int m_nCalculated = 0;  ///< of them, the calculations of the view
-  int m_nMostRaised = 0;
   QObject m_oListener;
   /// Where each panel's rows stood when it registered them last, and where they stand now.
   std::map<const SectionPanel*, std::vector<DesignedControl>> m_aoRegistered;
