@@ -60,16 +60,18 @@ class WineScreen(Screen):
 
     # A key that comes before its window has the focus is lost.
 
-    def ask(self, key, title):
-        """Presses a key until such a window is there."""
-        def shown():
-            self.keys(key)
-            return wait_for(title, lambda: self.windows(title), patience=3)
-
+    def press(self, key, what, condition):
+        """Presses a key, and once more if that has had no effect."""
         try:
-            shown()
+            self.keys(key)
+            wait_for(what, condition, patience=3)
         except AssertionError:
-            shown()
+            self.keys(key)
+            wait_for(what, condition)
+
+    def ask(self, key, title):
+        """Presses a key that opens such a window."""
+        self.press(key, title, lambda: self.windows(title))
         self.window(title)
 
     def end(self):
@@ -98,8 +100,7 @@ class Installed(unittest.TestCase):
     def install(self):
         self.assertEqual(self.screen.wine(SETUP, "/S").returncode, 0)
 
-    def uninstall(self, *switches):
-        self.screen.wine(self.screen.folder / "uninstall.exe", "/S", *switches)
+    def expect_no_program(self):
         wait_for("the end of the program folder", lambda: not self.screen.folder.exists())
 
     def test_1_the_installer_puts_one_program_without_libraries(self):
@@ -194,7 +195,13 @@ class Installed(unittest.TestCase):
         self.assertEqual(self.screen.registry(CONFIG, "/v", "FTPSkipFlag"), "", log)
 
     def test_7_uninstalling_leaves_nothing_but_the_settings(self):
-        self.uninstall()
+        title = "Quillet Uninstall ?"
+        self.screen.open(title, self.screen.folder / "uninstall.exe")
+        self.screen.press("Return", "the question", lambda: len(self.screen.windows(title)) == 2)
+        self.screen.keep_picture("windows-uninstall")
+        self.screen.keys("Return")  # which is no
+        self.expect_no_program()
+        self.screen.keys("Return")
         self.assertFalse(list(self.screen.user.rglob("Quillet.lnk")))
         for key in (r"HKCU\Software\Classes\Quillet.Auction", r"HKCU\Software\Classes\.qlt",
                     r"HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Quillet"):
@@ -203,7 +210,8 @@ class Installed(unittest.TestCase):
 
     def test_8_the_switch_takes_the_settings_too(self):
         self.install()
-        self.uninstall("/SETTINGS")
+        self.screen.wine(self.screen.folder / "uninstall.exe", "/S", "/SETTINGS")
+        self.expect_no_program()
         wait_for("the end of the settings",
                  lambda: not self.screen.registry(r"HKCU\Software\Velmor"))
 
