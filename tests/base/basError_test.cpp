@@ -1,7 +1,6 @@
 #include "base/basError.h"
 
 #include <filesystem>
-#include <fstream>
 #include <regex>
 
 #include <gtest/gtest.h>

@@ -3,7 +3,6 @@
 #include <cmath>
 #include <limits>
 #include <optional>
-#include <ostream>
 
 #include <gtest/gtest.h>
 

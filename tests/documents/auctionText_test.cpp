@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "support/Auctions.h"
-#include "support/Prices.h"
 #include "support/TestHost.h"
 
 namespace quillet {

@@ -10,7 +10,6 @@
 #include "support/Auctions.h"
 #include "support/Log.h"
 #include "support/MemoryHive.h"
-#include "support/Prices.h"
 #include "support/TestHost.h"
 
 namespace quillet {

@@ -4,7 +4,6 @@
 
 #include "support/ByRegion.h"
 #include "support/Prices.h"
-#include "support/TestHost.h"
 
 namespace quillet {
 namespace {

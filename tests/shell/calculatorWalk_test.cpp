@@ -7,7 +7,6 @@
 #include <deque>
 #include <filesystem>
 #include <iostream>
-#include <memory>
 #include <numeric>
 #include <random>
 #include <vector>

@@ -75,25 +75,6 @@ TEST_F(Calculator, ADraggedPlaceSnapsIsStoredAndComesBackUntilItIsReset) {
   EXPECT_EQ(Stored("PayPal", "Left"), "5760");
 }
 
-TEST_F(Calculator, RowsWithoutATickAreGoneOutOfConfigModeAndStayGone) {
-  ctlOutlay& oOutlay = m_pView->Set().ctlOutlaySection;
-  ShowView(true, WorkingAuction());
-  ClickOn(oOutlay,
-          "chkShowOutlay chkShowStartingPrice chkShowReservePrice "
-          "chkShowEstimatedEndPrice");
-  ShowView(false, WorkingAuction());
-  EXPECT_EQ(NamesWhere(oOutlay, [](auto& o) { return IsOnView(o) && !IsHeaderImage(o); }),
-            "txtQuantity lblQuantity");
-  EXPECT_EQ(ControlOf(oOutlay, "txtQuantity").Top(), 360);
-  EXPECT_EQ(oOutlay.Height(), 360 + 255) << "the label stands last in the list";
-
-  ShowView(true, WorkingAuction());
-  ClickOn(oOutlay, "chkShowQuantity");
-  ShowView(false, WorkingAuction());
-  EXPECT_EQ(oOutlay.Height(), 0);
-  EXPECT_EQ(Stored("Outlay", "Visible"), "") << "empty is a choice, and not asked for again";
-}
-
 TEST_F(Calculator, WhatTheRegionLacksIsGoneInBothModesAndAllElseIsThere) {
   const std::string sLacking = ByRegion<std::string>(
       "fraBorder chkBorder fra10DayDuration chk10DayDuration fraListingItem chkListingItem "
@@ -118,6 +99,15 @@ TEST_F(Calculator, WhatTheRegionLacksIsGoneInBothModesAndAllElseIsThere) {
       sGone += sNames + (sNames.empty() ? "" : " ");
     }
     EXPECT_EQ(sGone, sLacking) << bConfig;
+  }
+}
+
+TEST_F(Calculator, ColoursComeFromTheSettingsIfTheyAreNumbers) {
+  EXPECT_EQ(TotalColour(), 0xC0FFC0U);
+  for (const auto& [sStored, nColour] :
+       {std::pair("255", 255U), {"-2147483643", kColourWindow}, {"orange", 33023U}}) {
+    Registry().Set(settings::kSubtotalColour, sStored);
+    EXPECT_EQ(SubtotalColour(), nColour) << sStored;
   }
 }
 

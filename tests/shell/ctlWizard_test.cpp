@@ -1,14 +1,12 @@
 #include "shell/ctlWizard.h"
 
 #include <QApplication>
-#include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
 #include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
-#include "base/basMain.h"
 #include "base/clsRegistryAccess.h"
 #include "sections/ImageButton.h"
 #include "sections/ScrollBar.h"
@@ -78,11 +76,6 @@ class Wizard : public ::testing::Test {
     const bool bBox = pFocus != nullptr && pFocus->objectName() == "txtValue";
     return pFocus == nullptr ? "none"
                              : (bBox ? pFocus->parentWidget() : pFocus)->objectName().toStdString();
-  }
-  std::string PlaceOf(const char* sName) {
-    const auto& o = The<Control>(sName);
-    return std::to_string(o.Left()) + "," + std::to_string(o.Top()) + "," +
-           std::to_string(o.Width()) + "," + std::to_string(o.Height());
   }
   void Press(int nKey, Qt::KeyboardModifiers eWith = {}) {
     QWidget* const pFocus = QApplication::focusWidget();
@@ -195,7 +188,7 @@ TEST_F(Wizard, WhatIsEnteredStepByStepIsTheAuctionAndItsFigures) {
   Start();
   for (int i = 0; i < 5; ++i, Click("imgNext")) {
     Enter(Section());
-    if (Section().SectionKey() == "SellingFeatures") {
+    if (std::string(Section().SectionKey()) == "SellingFeatures") {
       EXPECT_TRUE(IsGrey(ControlOf(Section(), "chkBuyItNow"))) << "the price is fixed";
     }
   }

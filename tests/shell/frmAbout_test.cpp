@@ -3,7 +3,6 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QLineEdit>
-#include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
 

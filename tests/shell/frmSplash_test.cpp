@@ -1,6 +1,5 @@
 #include "shell/frmSplash.h"
 
-#include <QApplication>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTest>

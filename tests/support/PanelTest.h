@@ -7,8 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include "base/region.h"
-#include "base/regionControls.h"
 #include "engine/clsCalculate.h"
 #include "prices/money.h"
 #include "sections/VisibleList.h"

@@ -188,16 +188,5 @@ TEST_F(QtSettingsHiveTest, GatheredChangesThatCantBeStoredAnyMoreAreForgotten) {
   EXPECT_TRUE(oHive->Write(kUser, kPath, "Kept", "newer"));
 }
 
-TEST_F(QtSettingsHiveTest, AFolderThatCantBeMadeIsTriedAgainAtEachWrite) {
-  const auto oHive = Open();
-  std::ofstream(m_oFolder / "user") << "a file in the folder's place";
-  EXPECT_FALSE(oHive->Write(kUser, kPath, "Top", "1"));
-  EXPECT_EQ(oHive->Read(kUser, kPath, "Top"), std::nullopt);
-  EXPECT_TRUE(oHive->Write(kMachine, kPath, "Top", "1")) << "the other root isn't concerned";
-  std::filesystem::remove(m_oFolder / "user");
-  EXPECT_TRUE(oHive->Write(kUser, kPath, "Top", "2"));
-  EXPECT_EQ(oHive->Read(kUser, kPath, "Top"), "2");
-}
-
 }  // namespace
 }  // namespace quillet
