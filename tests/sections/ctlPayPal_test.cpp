@@ -93,6 +93,18 @@ TEST_F(PayPal, EachShowBoxStandsForItsRowAlone) {
   ExpectEachShowBoxStandsForItsRow(Bands(), 5);
 }
 
+TEST_F(PayPal, TheRowsBelowTheBandsFollowTheirHeight) {
+  for (const auto& [sBoxes, nHeight, nTotalTop] :
+       {std::tuple("", 1375, 3135), {"chkShowBusinessRateBand5", 1095, 2855}}) {
+    m_oSection.SetShowConfig(true);
+    ClickOn(sBoxes);
+    m_oSection.SetShowConfig(false);
+    EXPECT_EQ(Bands().Height(), nHeight) << sBoxes;
+    EXPECT_EQ(ControlOf(m_oSection, "lblTotal").Top(), nTotalTop) << sBoxes;
+    EXPECT_EQ(m_oSection.Height(), nTotalTop + 255) << sBoxes;
+  }
+}
+
 TEST_F(PayPal, NoCaptionIsClippedAndEveryInputHasAName) {
   m_oSection.SetShowConfig(true);
   ClickOn("chkUsePayPal");
