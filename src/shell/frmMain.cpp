@@ -267,10 +267,10 @@ void frmMain::ShowConfiguration() {
 void frmMain::PushDocument(bool bConfigMode, clsCalculate& oDocument, const std::string& sTitle) {
   m_pWizard->SetVisible(false);
   m_pCalculator->SetVisible(true);
+  m_pCalculator->setFocus();  // from a row that goes it would wander into a box
   m_pCalculator->SetConfigMode(bConfigMode);
   m_pCalculator->RefreshSums(true, &oDocument);
   m_pCalculator->CalcMinSize(m_lCalcMinWidth, m_lCalcMinHeight);
-  m_pCalculator->setFocus();
   SetWindowTitle(sTitle, false);
   Form_Resize();
 }

@@ -102,6 +102,14 @@ TEST_F(Window, ACommandByKeyLeavesTheBoxBeforeItBringsAnotherAuction) {
   EXPECT_TRUE(m_oHost.aoShown.empty()) << "what was just saved is not asked about";
 }
 
+TEST_F(Window, ARowThatGoesWithTheFocusChangesNoAuction) {
+  Start();
+  m_oWindow->ClickButton(kButtonConfig);
+  ClickOn(m_oWindow->Calculator().Set().ctlOutlaySection, "chkShowStartingPrice");
+  m_oWindow->ClickButton(kButtonCalculator);
+  EXPECT_FALSE(WorkingAuction().IsDirty());
+}
+
 TEST_F(Window, CloseAsksAndCanBeCancelled) {
   Start();
   Change();
