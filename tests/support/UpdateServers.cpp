@@ -183,10 +183,6 @@ void UpdateServers::WriteConfiguration() const {
   }
 }
 
-void UpdateServers::PutPage(const std::string& sName, const std::string& sContent) const {
-  WriteTestFile(m_oFolder / ("web/" + sName), sContent);
-}
-
 void UpdateServers::PutFile(const std::string& sName, const std::string& sContent) const {
   const std::filesystem::path oPath(m_oFolder / ("ftp/" + sName));
   std::filesystem::create_directories(oPath.parent_path());

@@ -39,7 +39,6 @@ class UpdateServers {
   UpdateServers& operator=(const UpdateServers&) = delete;
   ~UpdateServers();
 
-  void PutPage(const std::string& sName, const std::string& sContent) const;
   void PutFile(const std::string& sName, const std::string& sContent) const;
 
   /// Their files lie here below "web" and "ftp".
