@@ -18,7 +18,10 @@ constexpr int kDesignWidth = 1980;
 constexpr int kDesignHeight = 345;
 constexpr int kSpinUnit = 255;  // the spin button is as many of these wide as it is high
 constexpr int kTextMargin = 60;
-constexpr int kFreeBelow = 20;  // boxes on neighbouring rows don't touch
+constexpr int kNarrow = 1000;  // a box so wide needs all its room to hold "$999.99"
+constexpr int kNarrowMargin = 15;
+constexpr int kRightMargin = -30;  // the toolkit leaves room of its own
+constexpr int kFreeBelow = 20;     // boxes on neighbouring rows don't touch
 constexpr int kKeyStep = 1;
 constexpr int kShiftedKeyStep = 10;
 
@@ -250,8 +253,11 @@ void ctlNumericText::paintEvent(QPaintEvent* /*pEvent*/) {
   oPainter.setRenderHint(QPainter::Antialiasing);
   oPainter.setPen(QPen(InkColour(eEdge), fLine));
   oPainter.setBrush(InputGround(m_nBackColor));
+  // A panel ends with the label of its last row, which can be less high than the box.
+  const int nRoom = isWindow() ? height() : parentWidget()->height() - y();
+  const int nBottom = std::min(height() - Pixels(kFreeBelow), nRoom);
   const QRectF oBox =
-      QRectF(rect()).adjusted(fLine / 2, fLine / 2, -fLine / 2, -fLine / 2 - Pixels(kFreeBelow));
+      QRectF(0, 0, width(), nBottom).adjusted(fLine / 2, fLine / 2, -fLine / 2, -fLine / 2);
   oPainter.drawRoundedRect(oBox, kRadius, kRadius);
   oPainter.setPen(QPen(InkColour(Ink::FieldEdge), 1.0));
   const double fBetween = m_pText->width() + 0.5;
@@ -263,7 +269,8 @@ void ctlNumericText::Placed() {
   const int nSpinWidth =
       std::min(width(), Pixels(RoundToLong(Height() / double{kSpinUnit}) * kSpinUnit));
   m_pText->setGeometry(0, 0, width() - nSpinWidth, height());
-  m_pText->setTextMargins(Pixels(kTextMargin), 0, 0, Pixels(kFreeBelow));
+  const int nMargin = Width() > kNarrow ? kTextMargin : kNarrowMargin;
+  m_pText->setTextMargins(Pixels(nMargin), 0, Pixels(kRightMargin), Pixels(kFreeBelow));
   m_pSpin->setGeometry(width() - nSpinWidth, 0, nSpinWidth, height());
 }
 
