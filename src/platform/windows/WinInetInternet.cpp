@@ -59,7 +59,8 @@ WinInetInternet::Outcome WinInetInternet::OutcomeOf(bool bDone) {
   if (bDone) {
     return {};
   }
-  const DWORD nError = ::GetLastError();
+  const DWORD nLast = ::GetLastError();
+  const DWORD nError = nLast != 0 ? nLast : ERROR_INTERNET_INTERNAL_ERROR;  // 0 is success
   return {.nError = nError,
           .sResponse = nError == ERROR_INTERNET_EXTENDED_ERROR ? ServerResponse() : std::string()};
 }
