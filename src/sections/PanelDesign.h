@@ -45,7 +45,8 @@ struct PanelDesign {
   /// Whose list ApplyAllVisibility reads; null where the member has no such step.
   const char* sVisibilityList;
   /// The rows are registered once, at their design places, and a click on a Show box rereads the
-  /// list. Else they are registered anew, at the places that they then have, after each click.
+  /// list. Else they are registered anew at each show, and after each click at the places that they
+  /// then have.
   bool bAddingComplete;
   bool bRowsByLabel;  ///< a Show box stands beside its row's label, whatever else the tag names
   int nWidth;

@@ -199,7 +199,7 @@ void SectionPanel::showEvent(QShowEvent* pEvent) {
     ApplyThemeColours(*pControl);
   }
   EnsureVisibleList();
-  BuildLocator();
+  BuildLocator(RowPlaces::kDesigned);
   LoadShowChecks();
 }
 
@@ -259,14 +259,21 @@ void SectionPanel::EnsureVisibleList() {
   }
 }
 
-void SectionPanel::BuildLocator() {
+/// A show takes the places of the design: by then the rows may be packed, the hidden ones still
+/// where others have come to stand, and what stands on one top would count as one row.
+void SectionPanel::BuildLocator(RowPlaces ePlaces) {
   m_oLocator.Reset();
   m_oLocator.SetSection(SectionKey());
-  for (const Control* const pControl : m_aoControls) {
-    if (!IsHeaderImage(*pControl) && !IsShowCheck(*pControl)) {
-      const bool bInFrame = std::string_view(pControl->Container()->TypeName()) == "Frame";
-      m_oLocator.AddControl(pControl->Name(), pControl->Top(), pControl->Height(), bInFrame);
+  for (std::size_t i = 0; i < m_aoControls.size(); ++i) {
+    const Control& oControl = *m_aoControls[i];
+    if (IsHeaderImage(oControl) || IsShowCheck(oControl)) {
+      continue;
     }
+    const ControlDesign& oDesign = m_oDesign.aoControls[i];
+    const bool bDesigned = ePlaces == RowPlaces::kDesigned;
+    const bool bInFrame = std::string_view(oControl.Container()->TypeName()) == "Frame";
+    m_oLocator.AddControl(oControl.Name(), bDesigned ? oDesign.nTop : oControl.Top(),
+                          bDesigned ? oDesign.nHeight : oControl.Height(), bInFrame);
   }
   if (m_oDesign.bAddingComplete) {
     m_oLocator.SetAddingComplete(true);
@@ -394,7 +401,7 @@ void SectionPanel::SaveShowChecks() {
   if (m_oDesign.bAddingComplete) {
     m_oLocator.UpdateVisibility();
   } else {
-    BuildLocator();
+    BuildLocator(RowPlaces::kAsTheyStand);
   }
 }
 

@@ -112,8 +112,11 @@ class SectionPanel : public QWidget, public Control {
   [[nodiscard]] QString CaptionOf(const Control& oControl) const;
   [[nodiscard]] QString CaptionBeside(std::size_t nControl) const;
 
+  /// At which tops and heights the rows are registered.
+  enum class RowPlaces { kDesigned, kAsTheyStand };
+
   void EnsureVisibleList();
-  void BuildLocator();
+  void BuildLocator(RowPlaces ePlaces);
   void UpdateControlHeights();
   void LoadShowChecks();
   void UpdateSectionLayout();

@@ -195,8 +195,7 @@ class Walk {
       return;
     }
     Control* const pBox = Pick(aoBoxes);
-    m_oStep = {.sWhat = "show box " + pBox->Name(),
-               .pTicked = dynamic_cast<const SectionPanel*>(pBox->Container())};
+    m_oStep.sWhat = "show box " + pBox->Name();
     QTest::mouseClick(&pBox->Widget(), Qt::LeftButton, Qt::NoModifier,
                       QPoint(4, pBox->Widget().height() / 2));
   }

@@ -13,6 +13,7 @@
 #include "support/Auctions.h"
 #include "support/ByRegion.h"
 #include "support/PanelScript.h"
+#include "support/Places.h"
 
 namespace quillet {
 namespace {
@@ -99,6 +100,25 @@ TEST_F(Calculator, WhatTheRegionLacksIsGoneInBothModesAndAllElseIsThere) {
       sGone += sNames + (sNames.empty() ? "" : " ");
     }
     EXPECT_EQ(sGone, sLacking) << bConfig;
+  }
+}
+
+TEST_F(Calculator, AViewThatIsShownAgainLooksAsAfterARestartWhicheverRowIsHidden) {
+  for (SectionPanel* const pSection : m_pView->Set().Sections()) {
+    for (Control* const pControl : AllControls(*pSection)) {
+      if (IsShowCheck(*pControl)) {
+        auto& oBox = dynamic_cast<CheckBox&>(*pControl);
+        ShowView(true, WorkingAuction());
+        oBox.SetValue(0);
+        ShowView(false, WorkingAuction());
+        EXPECT_EQ(OverlapsIn(*pSection), "") << oBox.Name();
+        m_pView->SetVisible(false);
+        ShowView(false, WorkingAuction());
+        EXPECT_EQ(PlacesOf(m_pView->Set().Sections()), PlacesAfterRestart()) << oBox.Name();
+        ShowView(true, WorkingAuction());
+        oBox.SetValue(1);
+      }
+    }
   }
 }
 

@@ -9,8 +9,6 @@
 #include <cstdlib>
 #include <iostream>
 #include <limits>
-#include <map>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -23,24 +21,17 @@
 #include "shell/frmMain.h"
 #include "support/Auctions.h"
 #include "support/PanelScript.h"
+#include "support/Places.h"
 
 namespace quillet {
-
-/// A registered control: its place in the design.
-struct DesignedControl {
-  std::string sName;
-  int nTop = 0;
-  int nHeight = 0;
-};
 
 /// A step that was taken, and what it may have changed.
 struct WalkStep {
   std::string sWhat{};
-  bool bTouches = false;                  ///< edits the auction on view
-  bool bLaysOut = false;                  ///< packs the rows anew
-  bool bShowsAgain = false;               ///< hides the calculator and shows it again
-  bool bCleans = false;                   ///< loads or saves the auction on view
-  const SectionPanel* pTicked = nullptr;  ///< whose Show box was clicked
+  bool bTouches = false;     ///< edits the auction on view
+  bool bLaysOut = false;     ///< packs the rows anew
+  bool bShowsAgain = false;  ///< hides the calculator and shows it again
+  bool bCleans = false;      ///< loads or saves the auction on view
 };
 
 inline constexpr int kMostRaised = 120;  // by a step; walks have seen 54
@@ -75,48 +66,8 @@ inline std::string FiguresOf(const ctlSellingCosts& oSummary) {
   return sFigures;
 }
 
-/// The rows of a panel, as they stand.
-inline std::vector<DesignedControl> RowsOf(const SectionPanel& oPanel) {
-  std::vector<DesignedControl> aoRows;
-  for (const Control* const pControl : oPanel.Controls()) {
-    if (pControl->Container() == &oPanel && !IsShowCheck(*pControl) && !IsHeaderImage(*pControl)) {
-      aoRows.push_back({pControl->Name(), pControl->Top(), pControl->Height()});
-    }
-  }
-  return aoRows;
-}
-
-/// These register their rows anew at each show and at each click on a Show box, at the places that
-/// the rows then have: a row that was hidden, and the one that was packed into its place, are one
-/// row from then on. The others keep the design's places.
-inline bool RegistersAnew(const SectionPanel& oPanel) {
-  static const std::set<std::string> asKeys = {"Outlay", "SellingFeatures", "AuctionType",
-                                               "PayPal"};
-  return asKeys.contains(oPanel.SectionKey());
-}
-
-/// A row lies on one top, and the next below it by the gap of the design; below a panel, whose
-/// height may have changed since, at least not on top of it. Where a row's last control is hidden
-/// behind one that is shown, the next row lies on top of that one.
-inline void CheckNeighbours(const SectionPanel& oPanel, const DesignedControl& oBefore,
-                            const DesignedControl& oRow) {
-  const Control& oAbove = *oPanel.Find(oBefore.sName);
-  const int nTop = oPanel.Find(oRow.sName)->Top();
-  const DesignedControl& oNext = *(&oBefore + 1);
-  const int nGap = oNext.nTop - (oBefore.nTop + oBefore.nHeight);
-  const int nBelow = oAbove.Top() + oAbove.Height();
-  if (oNext.nTop == oBefore.nTop) {
-    EXPECT_EQ(nTop, oAbove.Top()) << oRow.sName << " beside " << oBefore.sName;
-  } else if (dynamic_cast<const SectionPanel*>(&oAbove) != nullptr) {
-    EXPECT_GE(nTop, nBelow + std::min(0, nGap)) << oRow.sName << " below " << oBefore.sName;
-  } else {
-    EXPECT_EQ(nTop, nBelow + nGap) << oRow.sName << " below " << oBefore.sName;
-  }
-}
-
 class WalkGuard {
  public:
-  /// Before the window is first shown: its panels stand as designed.
   WalkGuard(frmMain& oWindow, const std::vector<SectionPanel*>& aoPanels)
       : m_oWindow(oWindow),
         m_aoPanels(aoPanels),
@@ -128,7 +79,6 @@ class WalkGuard {
       }
     };
     for (const SectionPanel* const pPanel : aoPanels) {
-      m_aoRegistered[pPanel] = RowsOf(*pPanel);
       QObject::connect(pPanel, &SectionPanel::Changed, &m_oListener, fnCount);
       for (Control* const pControl : pPanel->Controls()) {
         if (auto* const pButton = dynamic_cast<QAbstractButton*>(pControl)) {
@@ -159,9 +109,6 @@ class WalkGuard {
       oDocument.bDirty = oDocument.pAuction->IsDirty();
       oDocument.sText = TextOf(*oDocument.pAuction);
     }
-    for (const SectionPanel* const pPanel : m_aoPanels) {
-      m_aoBefore[pPanel] = RowsOf(*pPanel);
-    }
   }
 
   /// After it: fails the test for each rule that is broken. What costs much is checked if `bAll`.
@@ -169,7 +116,6 @@ class WalkGuard {
     EXPECT_LE(m_nRaised, kMostRaised) << "clicks and changes that one step has raised";
     CheckDirty(oStep);
     CheckSummary(oStep);
-    FollowRegistration(oStep);
     if (bAll || oStep.bLaysOut) {
       CheckPlaces(oStep);
     }
@@ -236,45 +182,23 @@ class WalkGuard {
     }
   }
 
-  void FollowRegistration(const WalkStep& oStep) {
-    for (const SectionPanel* const pPanel : m_aoPanels) {
-      if (RegistersAnew(*pPanel) && (oStep.bShowsAgain || oStep.pTicked == pPanel)) {
-        m_aoRegistered[pPanel] = m_aoBefore[pPanel];
-      }
-    }
-  }
-
-  /// The rows on view are those that the mode, the list and the region ask for; they stand packed
-  /// in the order and in the rows in which they were registered; and the panel ends with the last
-  /// one.
+  /// The rows on view are those that the mode, the list and the region ask for, and none lies on
+  /// another. A calculator that is shown again looks as after a restart.
   void CheckPlaces(const WalkStep& oStep) {
     for (const SectionPanel* const pPanel : m_aoPanels) {
       SCOPED_TRACE(pPanel->SectionKey());
-      std::vector<DesignedControl> aoRows = m_aoRegistered[pPanel];
-      std::stable_sort(aoRows.begin(), aoRows.end(),
-                       [](const auto& a, const auto& b) { return a.nTop < b.nTop; });
       const clsTokeniser oList = LoadVisibleList(pPanel->SectionKey());
-      const DesignedControl* pBefore = nullptr;
-      int nBottom = 0;
-      for (const DesignedControl& oRow : aoRows) {
-        const Control& oControl = *pPanel->Find(oRow.sName);
-        if (oStep.bLaysOut) {
-          EXPECT_EQ(oControl.Visible(),
-                    RegionAllowsControl(oRow.sName) &&
-                        (pPanel->ShowConfig() || NameInVisibleList(oRow.sName, oList)))
-              << oRow.sName;
-        }
-        if (oControl.Visible()) {
-          if (pBefore != nullptr) {
-            CheckNeighbours(*pPanel, *pBefore, oRow);
-          } else {
-            EXPECT_EQ(oControl.Top(), aoRows.front().nTop) << "where the first row stands";
-          }
-          pBefore = &oRow;
-          nBottom = oControl.Top() + oControl.Height();
-        }
+      for (const Control* const pRow : RowsIn(*pPanel)) {
+        EXPECT_TRUE(!oStep.bLaysOut ||
+                    pRow->Visible() ==
+                        (RegionAllowsControl(pRow->Name()) &&
+                         (pPanel->ShowConfig() || NameInVisibleList(pRow->Name(), oList))))
+            << pRow->Name();
       }
-      EXPECT_EQ(pPanel->Height(), nBottom);
+      EXPECT_EQ(OverlapsIn(*pPanel), "");
+    }
+    if (oStep.bShowsAgain) {
+      EXPECT_EQ(PlacesOf(m_oWindow.Calculator().Set().Sections()), PlacesAfterRestart());
     }
   }
 
@@ -286,9 +210,6 @@ class WalkGuard {
   int m_nRaised = 0;      ///< clicks and changes raised by the step
   int m_nCalculated = 0;  ///< of them, the calculations of the view
   QObject m_oListener;
-  /// Where each panel's rows stood when it registered them last, and where they stand now.
-  std::map<const SectionPanel*, std::vector<DesignedControl>> m_aoRegistered;
-  std::map<const SectionPanel*, std::vector<DesignedControl>> m_aoBefore;
 };
 
 }  // namespace quillet

@@ -1,0 +1,102 @@
+#include "sections/clsControlLocator.h"
+
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+#include "base/clsRegistryAccess.h"
+#include "sections/VisibleList.h"
+#include "support/ByRegion.h"
+#include "support/MemoryHive.h"
+
+namespace quillet {
+namespace {
+
+class ControlLocator : public ::testing::Test {
+ protected:
+  ControlLocator() { SetRegistryHive(m_oHive); }
+
+  /// Rows of "name top height", with a name in brackets for what stands in a Frame.
+  void Add(const std::string& sRows) {
+    std::istringstream oRows(sRows);
+    int nTop = 0;
+    int nHeight = 0;
+    for (std::string sName; oRows >> sName >> nTop >> nHeight;) {
+      m_oLocator.AddControl(sName, nTop, nHeight, sName.front() == '[');
+    }
+  }
+
+  /// What is shown, as "name@top", and behind a stroke what is hidden.
+  std::string Packed(const std::string& sWanted) {
+    clsTokeniser oList;
+    oList.Tokenise(sWanted, ",");
+    SaveVisibleList("Test", oList);
+    m_oLocator.UpdateVisibility();
+    m_oLocator.BuildList(true);
+    std::string sPacked;
+    std::string sName;
+    int nTop = 0;
+    for (int i = 0; i < m_oLocator.IncludedCount(); ++i) {
+      m_oLocator.GetIncludedControl(i, sName, nTop);
+      sPacked += sName + "@" + std::to_string(nTop) + " ";
+    }
+    sPacked += "|";
+    for (int i = 0; i < m_oLocator.ExcludedCount(); ++i) {
+      m_oLocator.GetExcludedControl(i, sName);
+      sPacked += " " + sName;
+    }
+    return sPacked;
+  }
+
+  MemoryHive m_oHive;
+  clsControlLocator m_oLocator;
+};
+
+TEST_F(ControlLocator, WhatIsLeftMovesUpByTheGapsOfTheDesign) {
+  m_oLocator.SetSection("Test");
+  Add("chkPlus 920 255 txtPrice 640 285 lblPrice 640 255 chkBold 360 255 [chkBold] 0 255");
+  for (const auto& [sWanted, sPacked] :
+       {std::pair("Bold,Price,Plus", "chkBold@360 txtPrice@640 lblPrice@640 chkPlus@920 |"),
+        {"Price,Plus", "txtPrice@360 lblPrice@360 chkPlus@640 | chkBold"},
+        {"Bold,Plus", "chkBold@360 chkPlus@640 | txtPrice lblPrice"},
+        {"Plus", "chkPlus@360 | chkBold txtPrice lblPrice"},
+        {"Bold,txtPrice,Plus", "chkBold@360 txtPrice@640 chkPlus@640 | lblPrice"},
+        {"", "| chkBold txtPrice lblPrice chkPlus"}}) {
+    EXPECT_EQ(Packed(sWanted), sPacked) << sWanted;
+  }
+}
+
+TEST_F(ControlLocator, WhatHasGrownPushesTheRowsBelowItDown) {
+  m_oLocator.SetSection("Test");
+  Add("optA 360 255 ctlB 640 500 optC 1165 255");
+  m_oLocator.UpdateHeight("ctlB", 700);
+  EXPECT_EQ(Packed("A,B,C"), "optA@360 ctlB@640 optC@1365 |");
+  m_oLocator.UpdateHeight("ctlB", 0);
+  EXPECT_EQ(Packed("A,B,C"), "optA@360 ctlB@640 optC@665 |");
+  EXPECT_EQ(Packed("A,C"), "optA@360 optC@640 | ctlB");
+}
+
+TEST_F(ControlLocator, WhatTheRegionLacksIsGoneWhateverIsWanted) {
+  m_oLocator.SetSection("Test");
+  Add("chkBorder 360 255 lblWeight 640 255 chkBold 920 255");
+  EXPECT_EQ(Packed("Border,Weight,Bold"),
+            ByRegion<std::string>("lblWeight@360 chkBold@640 | chkBorder",
+                                  "chkBorder@360 chkBold@640 | lblWeight"));
+  m_oLocator.BuildList(false);
+  EXPECT_EQ(m_oLocator.IncludedCount(), 2);
+}
+
+TEST_F(ControlLocator, WhatIsCompleteTakesNothingMoreAndStartsOverNoMore) {
+  for (const auto& [bComplete, sPacked] : {std::pair(false, "optB@100 |"), {true, "optA@360 |"}}) {
+    m_oLocator = clsControlLocator();
+    Add("optA 360 255");
+    m_oLocator.SetAddingComplete(bComplete);
+    m_oLocator.Reset();
+    m_oLocator.SetSection("Test");
+    Add("optB 100 255");
+    EXPECT_EQ(Packed("A,B"), sPacked);
+  }
+}
+
+}  // namespace
+}  // namespace quillet

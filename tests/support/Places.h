@@ -1,0 +1,70 @@
+// Where the rows of the sections stand.
+#pragma once
+
+#include <QRect>
+#include <QWidget>
+#include <array>
+#include <string>
+#include <vector>
+
+#include "shell/SectionSet.h"
+#include "support/PanelScript.h"
+
+namespace quillet {
+
+/// The controls that a panel's rows are made of.
+inline std::vector<Control*> RowsIn(const SectionPanel& oPanel) {
+  std::vector<Control*> aoRows = oPanel.Controls();
+  std::erase_if(aoRows, [&](const Control* p) {
+    return p->Container() != &oPanel || IsShowCheck(*p) || IsHeaderImage(*p);
+  });
+  return aoRows;
+}
+
+/// Those rows on view that lie on one another by more than a pixel.
+inline std::string OverlapsIn(const SectionPanel& oPanel) {
+  constexpr int kPixel = 15;
+  std::string sOverlaps;
+  std::vector<Control*> aoRows = RowsIn(oPanel);
+  std::erase_if(aoRows, [](const Control* p) { return !p->Visible(); });
+  const auto fnPlace = [](const Control& o) {
+    return QRect(o.Left(), o.Top(), o.Width(), o.Height());
+  };
+  for (std::size_t i = 0; i < aoRows.size(); ++i) {
+    for (std::size_t j = 0; j < i; ++j) {
+      const QRect oCommon = fnPlace(*aoRows[i]) & fnPlace(*aoRows[j]);
+      if (oCommon.width() > kPixel && oCommon.height() > kPixel) {
+        sOverlaps += aoRows[i]->Name() + " on " + aoRows[j]->Name() + "\n";
+      }
+    }
+  }
+  return sOverlaps;
+}
+
+/// The height of each panel and the tops of its rows on view.
+inline std::string PlacesOf(const std::array<SectionPanel*, 5>& aoSections) {
+  std::string sPlaces;
+  for (const SectionPanel* const pSection : aoSections) {
+    sPlaces += std::string(pSection->SectionKey()) + " " + std::to_string(pSection->Height());
+    for (const Control* const pControl : AllControls(*pSection)) {
+      if (pControl->Widget().isVisibleTo(pSection) && !IsShowCheck(*pControl)) {
+        sPlaces += " " + pControl->Name() + "@" + std::to_string(pControl->Top());
+      }
+    }
+    sPlaces += "\n";
+  }
+  return sPlaces;
+}
+
+/// The places out of config mode of sections that were just made, with the lists that are stored.
+inline std::string PlacesAfterRestart() {
+  QWidget oWindow;
+  const SectionSet oSet(oWindow);
+  oWindow.show();
+  for (SectionPanel* const pSection : oSet.Sections()) {
+    pSection->SetShowConfig(false);
+  }
+  return PlacesOf(oSet.Sections());
+}
+
+}  // namespace quillet
