@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "app/calc/Catalogue.h"
+#include "prices/Catalogue.h"
 
 namespace quillet {
 

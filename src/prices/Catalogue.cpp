@@ -1,4 +1,4 @@
-#include "app/calc/Catalogue.h"
+#include "prices/Catalogue.h"
 
 #include <array>
 #include <charconv>
@@ -137,6 +137,14 @@ bool Catalogue::Holds(std::string_view sKey) const {
     }
   }
   return m_asTables.contains(sTable);
+}
+
+bool Catalogue::HoldsAnyOf(const PriceTable& oTable) const {
+  std::size_t nEntry = 0;
+  while (nEntry < oTable.Size() && !Holds(oTable.KeyAt(nEntry))) {
+    ++nEntry;
+  }
+  return nEntry < oTable.Size();
 }
 
 std::int32_t TierOfKey(std::string_view sKey, std::string_view sTable) {

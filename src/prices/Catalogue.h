@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "prices/PriceTable.h"
+
 namespace quillet {
 
 enum class KeyKind {
@@ -35,6 +37,9 @@ class Catalogue {
 
   /// True for a key of the catalogue, and for a key of any of its tables. Case doesn't matter.
   [[nodiscard]] bool Holds(std::string_view sKey) const;
+
+  /// True if the table has at least one key that the catalogue holds.
+  [[nodiscard]] bool HoldsAnyOf(const PriceTable& oTable) const;
 
  private:
   std::vector<CatalogueKey> m_aoKeys;
