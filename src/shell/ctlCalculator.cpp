@@ -212,19 +212,13 @@ void ctlCalculator::SaveSectionPositions() const {
   }
 }
 
-/// The first time, remembers where the design has the sections. A stored place that is no number
-/// is a Failure.
+/// The first time, remembers where the design has the sections. A stored place that is no number is
+/// as good as none.
 void ctlCalculator::LoadSectionPositions() {
   const auto fnStored = [](const SectionPanel& oSection, const char* sName, int nPlace) {
     std::string sText;
-    if (!Registry().GetRegSettingString(HiveRoot::User, sText, sName, SectionOf(oSection), "")) {
-      return nPlace;
-    }
-    const auto nStored = ToLong(sText);
-    if (!nStored) {
-      throw Failure(FailureNumber::TypeMismatch, "A stored place isn't a number: " + sText);
-    }
-    return *nStored;
+    Registry().GetRegSettingString(HiveRoot::User, sText, sName, SectionOf(oSection), "");
+    return ToLong(sText).value_or(nPlace);
   };
   for (SectionPanel* const pSection : PlacedInOrder()) {
     m_colDesignPositions.try_emplace(pSection->SectionKey() + std::string("_Left"),

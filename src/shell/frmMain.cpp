@@ -311,7 +311,9 @@ void frmMain::SetWindowTitle(const std::string& sName, bool bDirty) {
     sTitle.resize(sTitle.size() - std::string_view(kAuctionExtension).size());
   }
   const std::string sCaption = sTitle.empty() ? m_sCaption : m_sCaption + " - " + sTitle;
-  setWindowTitle(QString::fromStdString(sCaption + (bDirty ? "*" : "")));
+  // "[*]" would stand for a mark of the toolkit's own; written twice it stands for itself.
+  setWindowTitle(
+      QString::fromStdString(sCaption + (bDirty ? "*" : "")).replace("[*]", "[*][*]"));
 }
 
 void frmMain::SetZoomPercent(int nPercent) {

@@ -68,9 +68,11 @@ TEST_F(Calculator, ADraggedPlaceSnapsIsStoredAndComesBackUntilItIsReset) {
   EXPECT_EQ(Stored("PayPal", "Left"), "6960");
   EXPECT_EQ(Stored("Postage", "Top"), "5640") << "every place is stored on each move";
 
+  Registry().SetRegSettingString(HiveRoot::User, "here", "Top", "Controls\\Outlay");
   auto* const pOther = new ctlCalculator(&m_oWindow);
   pOther->SetVisible(true);
   EXPECT_EQ(pOther->Set().ctlPayPalSection.Left(), 6960);
+  EXPECT_EQ(pOther->Set().ctlOutlaySection.Top(), 1560) << "no number, no place";
   pOther->ResetControlPositions();
   EXPECT_EQ(pOther->Set().ctlPayPalSection.Left(), 5760);
   EXPECT_EQ(Stored("PayPal", "Left"), "5760");

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QTest>
+#include <QWindow>
 #include <memory>
 
 #include <gtest/gtest.h>
@@ -36,7 +37,7 @@ class Window : public ::testing::Test {
 
   /// The caption behind the edition's name.
   std::string Caption() {
-    const std::string sCaption = m_oWindow->windowTitle().toStdString();
+    const std::string sCaption = m_oWindow->windowHandle()->title().toStdString();
     EXPECT_TRUE(sCaption.starts_with(EditionName()));
     return sCaption.substr(EditionName().size());
   }
@@ -53,11 +54,11 @@ TEST_F(Window, TheStarFollowsTheDocument) {
   EXPECT_EQ(Caption(), "");
   Change();
   EXPECT_EQ(Caption(), "*");
-  m_oHost.asChoices = {m_oFolder / "camera.qlt"};
+  m_oHost.asChoices = {m_oFolder / "camera[*].qlt"};
   m_oWindow->ClickButton(kButtonSave);
-  EXPECT_EQ(Caption(), " - camera");
+  EXPECT_EQ(Caption(), " - camera[*]");
   Change();
-  EXPECT_EQ(Caption(), " - camera*");
+  EXPECT_EQ(Caption(), " - camera[*]*");
   m_oHost.aeAnswers = {Answer::No};
   m_oWindow->ClickButton(kButtonNew);
   EXPECT_EQ(Caption(), "") << "no star, although the auction still counts as changed";
