@@ -72,8 +72,8 @@ void DocumentLifecycle::UseFile(const std::string& sPath, bool bSave) {
   try {
     if (bSave) {
       SaveAuction(sPath);
-    } else {
-      LoadAuction(sPath);
+    } else if (!LoadAuction(sPath)) {
+      return;
     }
     WorkingAuction().SetDirty(false);
     m_oView.SetWindowTitle(m_sFileName, false);
@@ -89,13 +89,18 @@ void DocumentLifecycle::SaveAuction(const std::string& sPath) {
   RaiseIfFailed(ReplaceFile(sPath, sText + "\n"));
 }
 
-/// The file is read whole before any field of the auction changes.
-void DocumentLifecycle::LoadAuction(const std::string& sPath) {
+/// The file is read whole before any field of the auction changes, and one that lacks a section is
+/// told by the auction it is tried on: what is on view then stays what is in memory.
+bool DocumentLifecycle::LoadAuction(const std::string& sPath) {
   std::string sText;
   RaiseIfFailed(ReadWholeFile(sPath, kLargestFile, sText));
   sText = DecodeText(std::move(sText));
+  if (!clsCalculate("Trial").Serialize(sText, false)) {
+    return false;
+  }
   WorkingAuction().Serialize(sText, false);
   m_oView.RefreshCalculator();
+  return true;
 }
 
 void DocumentLifecycle::SaveOrLoadDefaultAuction(bool bSave) {

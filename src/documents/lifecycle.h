@@ -31,7 +31,8 @@ class DocumentLifecycle {
 
   /// Lets the user choose a file, and saves the working auction there or loads it from there. False
   /// only if the dialog was cancelled: a file that can't be written or read is shown in a message
-  /// box, and counts as done. A save replaces the file whole or leaves the old one.
+  /// box, and counts as done. A save replaces the file whole or leaves the old one; a load replaces
+  /// the auction whole or leaves it as it is, and as dirty as it is.
   bool SaveOrLoadAuction(bool bSave);
 
   /// The same with a file that is already chosen, given by its whole native path.
@@ -60,7 +61,7 @@ class DocumentLifecycle {
 
  private:
   void SaveAuction(const std::string& sPath);
-  void LoadAuction(const std::string& sPath);
+  bool LoadAuction(const std::string& sPath);
 
   DocumentView& m_oView;
   std::string m_sCaption;

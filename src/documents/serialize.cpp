@@ -118,15 +118,17 @@ void clsPostage::Serialize(std::string& sData, bool bSave) {
   oSection.Read(9, m_bSendIndividually);
 }
 
-void clsCalculate::Serialize(std::string& sData, bool bSave) {
+bool clsCalculate::Serialize(std::string& sData, bool bSave) {
   try {
     m_oAuctionType.Serialize(sData, bSave);
     m_oOutlay.Serialize(sData, bSave);
     m_oSellingFeatures.Serialize(sData, bSave);
     m_oPayPal.Serialize(sData, bSave);
     m_oPostage.Serialize(sData, bSave);
+    return true;
   } catch (const Failure& oFailure) {
     ShowMessage(oFailure.what(), kMessagePlain, "");
+    return false;
   }
 }
 

@@ -29,9 +29,9 @@ class clsCalculate {
   void DoCalc();
 
   /// The whole text of the auction (docs/auction-file.md): appended to `sData`, or read from there.
-  /// A section that is missing ends the reading and is shown in a message box; the caller sees a
-  /// normal return.
-  void Serialize(std::string& sData, bool bSave);
+  /// A section that is missing ends the reading and is shown in a message box; what was read before
+  /// it stays, and the caller sees a normal return: false.
+  bool Serialize(std::string& sData, bool bSave);
 
   /// Takes over another auction's inputs, by way of its text: not its name, nor its totals.
   void Copy(clsCalculate& oSourceAuction);

@@ -13,6 +13,7 @@
 #include "platform/qt/ShockwaveFlash.h"
 #include "shell/zoomSteps.h"
 #include "support/Auctions.h"
+#include "support/Log.h"
 #include "support/PanelScript.h"
 #include "support/TestHost.h"
 
@@ -63,6 +64,28 @@ TEST_F(Window, TheStarFollowsTheDocument) {
   m_oWindow->ClickButton(kButtonNew);
   EXPECT_EQ(Caption(), "") << "no star, although the auction still counts as changed";
   EXPECT_TRUE(WorkingAuction().IsDirty());
+}
+
+TEST_F(Window, AFailedLoadLeavesTheAuctionItsStarAndTheCaption) {
+  Start();
+  Change();
+  const std::string sBefore = TextOf(WorkingAuction());
+  const std::string sOther = "[TYPE]001[TYPE][OUTLAY]9|9|9|9|9|True[OUTLAY]";
+  for (const auto& [sText, sSection] : {std::pair<std::string, std::string>{"a poem", "[OUTLAY]"},
+                                        {"", "[OUTLAY]"},
+                                        {sOther, "[PAYPAL]"}}) {
+    WriteTestFile(m_oFolder / "bad.qlt", sText);
+    m_oHost.asChoices = {m_oFolder / "bad.qlt"};
+    m_oHost.aoShown.clear();
+    m_oWindow->ClickButton(kButtonLoad);
+    EXPECT_THAT(m_oHost.aoShown,
+                testing::ElementsAre(ShownMessage{"Failure loading section " + sSection, 0, ""}));
+    EXPECT_EQ(Caption(), "*");
+    EXPECT_EQ(TextOf(WorkingAuction()), sBefore);
+    m_oHost.aoShown.clear();
+    EXPECT_FALSE(m_oWindow->close()) << "asked about what is still unsaved, and cancelled";
+    EXPECT_EQ(m_oHost.aoShown.size(), 1U);
+  }
 }
 
 TEST_F(Window, ConfigModeSavesASettingAndLoadsNothing) {
