@@ -103,7 +103,7 @@ std::optional<Float> ConvertExactly(const Scanned& oNumber, std::string_view sSe
 
 /// The way of every other number.
 template <typename Float>
-std::optional<Float> ConvertAny(std::string_view sText, const std::string& sSeparator) {
+std::optional<Float> ConvertAny(std::string_view sText, std::string_view sSeparator) {
   const std::optional<Scanned> oNumber = Scan(sText, sSeparator);
   if (!oNumber) {
     return std::nullopt;
@@ -180,13 +180,14 @@ bool WritePlain(Single fValue, std::string& sText) {
 }
 
 /// Kept out of line, so that plain prices pay nothing for it.
-[[gnu::noinline]] bool ReadAnySingle(std::string_view sText, const std::string& sSeparator,
-                                     Single& fValue) {
-  const std::optional<float> fFound = ConvertAny<float>(sText, sSeparator);
-  if (fFound) {
-    fValue = Single::OfFinite(*fFound);
-  }
-  return fFound.has_value();
+template <typename Float>
+[[gnu::noinline]] std::optional<Float> ConvertOfFile(std::string_view sText) {
+  const std::optional<Float> fValue = ConvertAny<Float>(sText, kPoint);
+  return fValue ? fValue : ConvertAny<Float>(sText, TheHost().DecimalSeparator());
+}
+
+std::optional<Single> AsSingle(const std::optional<float>& fValue) {
+  return fValue ? std::optional(Single::OfFinite(*fValue)) : std::nullopt;
 }
 
 /// What a pattern of FormatNumber asks for.
@@ -255,19 +256,28 @@ bool IsNumeric(std::string_view sText) {
   return ToDouble(sText).has_value();
 }
 
-bool ReadSingle(std::string_view sText, Single& fValue) {
-  const std::string& sSeparator = TheHost().DecimalSeparator();
+std::optional<Single> ToSingle(std::string_view sText) {
+  return AsSingle(ConvertAny<float>(sText, TheHost().DecimalSeparator()));
+}
+
+std::optional<double> ToFileDouble(std::string_view sText) {
+  return ConvertOfFile<double>(sText);
+}
+
+std::optional<Single> ToFileSingle(std::string_view sText) {
+  Single fValue;
+  return ReadFileSingle(sText, fValue) ? std::optional(fValue) : std::nullopt;
+}
+
+bool ReadFileSingle(std::string_view sText, Single& fValue) {
   float fPlain = 0;
-  if (ReadPlainNumber(sText, sSeparator, fPlain)) {
+  if (ReadPlainNumber(sText, kPoint, fPlain)) {
     fValue = Single::OfFinite(fPlain);
     return true;
   }
-  return ReadAnySingle(sText, sSeparator, fValue);
-}
-
-std::optional<Single> ToSingle(std::string_view sText) {
-  Single fValue;
-  return ReadSingle(sText, fValue) ? std::optional<Single>(fValue) : std::nullopt;
+  const std::optional<Single> fFound = AsSingle(ConvertOfFile<float>(sText));
+  fValue = fFound.value_or(fValue);
+  return fFound.has_value();
 }
 
 std::optional<std::int32_t> ToLong(std::string_view sText) {
@@ -289,7 +299,7 @@ std::optional<bool> ToBoolean(std::string_view sText) {
       return bValue;
     }
   }
-  const std::optional<double> fValue = ToDouble(sText);
+  const std::optional<double> fValue = ToFileDouble(sText);
   return fValue ? std::optional<bool>(*fValue != 0) : std::nullopt;
 }
 

@@ -1,4 +1,4 @@
-// Between text and numbers, by the user's decimal separator (Host::DecimalSeparator).
+// Between text and numbers, by the user's decimal separator (Host::DecimalSeparator) unless said.
 //
 // A number is: blanks, an optional sign, digits with at most one decimal separator among them, an
 // optional exponent ("E" or "e", an optional sign, digits), blanks. Currency signs, grouping,
@@ -23,14 +23,19 @@ namespace quillet {
 /// The nearest 32-bit float, a tie to even; a number too small for one reads as 0.
 [[nodiscard]] std::optional<Single> ToSingle(std::string_view sText);
 
+// Numbers of a file, which may come from elsewhere: also with a point, whatever the user's
+// separator.
+[[nodiscard]] std::optional<double> ToFileDouble(std::string_view sText);
+[[nodiscard]] std::optional<Single> ToFileSingle(std::string_view sText);
+
 /// The same for the many look-ups of prices: false, and `fValue` left alone, if it doesn't convert.
-[[nodiscard]] bool ReadSingle(std::string_view sText, Single& fValue);
+[[nodiscard]] bool ReadFileSingle(std::string_view sText, Single& fValue);
 
 [[nodiscard]] std::optional<std::int32_t> ToLong(std::string_view sText);     ///< 32 bits, signed
 [[nodiscard]] std::optional<std::int16_t> ToInteger(std::string_view sText);  ///< 16 bits, signed
 [[nodiscard]] std::optional<std::uint8_t> ToByte(std::string_view sText);     ///< 0 to 255
 
-/// "True" or "False" in any case, or any number, 0 being false.
+/// Of a file: "True" or "False" in any case, or any number, 0 being false.
 [[nodiscard]] std::optional<bool> ToBoolean(std::string_view sText);
 
 /// The nearest whole number, an exact half to the even neighbour. Beyond 32 bits is a Failure.

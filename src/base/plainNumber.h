@@ -6,7 +6,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
-#include <string>
 #include <string_view>
 
 namespace quillet {
@@ -14,6 +13,9 @@ namespace quillet {
 [[nodiscard]] inline bool IsDigit(char c) {
   return static_cast<unsigned char>(c - '0') <= 9;
 }
+
+/// The decimal separator that a number of a file may have whatever the user's is.
+inline constexpr std::string_view kPoint = ".";
 
 /// The powers of ten that a format holds exactly. One exact integer times or divided by one of them
 /// rounds once, and so gives the nearest number.
@@ -46,7 +48,7 @@ inline std::size_t TakePlainDigits(std::string_view& sText, std::uint32_t& uDigi
 /// The number that a text is, if it is nothing but a few digits with a minus and a separator at
 /// most. False, and `fValue` left alone, for any other text, be it a number or not.
 template <typename Float>
-[[nodiscard]] inline bool ReadPlainNumber(std::string_view sText, const std::string& sSeparator,
+[[nodiscard]] inline bool ReadPlainNumber(std::string_view sText, std::string_view sSeparator,
                                           Float& fValue) {
   constexpr std::size_t kMostDigits = 9;  // so many fit without a look at each
   const bool bNegative = sText.starts_with('-');

@@ -88,7 +88,7 @@ void SectionReader::ReadAs(std::int32_t nPlace, Field& oField, Converter&& fnCon
 }
 
 void SectionReader::Read(std::int32_t nPlace, Single& fField) const {
-  ReadAs(nPlace, fField, ToSingle);
+  ReadAs(nPlace, fField, ToFileSingle);
 }
 
 void SectionReader::Read(std::int32_t nPlace, bool& bField) const {

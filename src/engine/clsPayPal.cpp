@@ -111,7 +111,7 @@ std::string clsPayPal::GetBusinessRateBandAttribute(std::int32_t nAttribute,
 Single clsPayPal::BandRate(const KeyText& oKey) const {
   std::int32_t nBand = 0;
   const std::string sValue = GetBusinessRateBandAttribute(1, nBand);
-  const auto fValue = ToSingle(sValue);
+  const auto fValue = ToFileSingle(sValue);
   if (!fValue) {
     throw Failure(FailureNumber::TypeMismatch,
                   "The fee schedule has no value for PayPal's merchant rate band " +

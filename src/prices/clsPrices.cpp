@@ -9,7 +9,6 @@
 #include "base/plainNumber.h"
 #include "base/text.h"
 #include "platform/Files.h"
-#include "platform/Host.h"
 #include "prices/clsTokeniser.h"
 #include "prices/lines.h"
 
@@ -77,11 +76,11 @@ class TierReader {
  private:
   bool ReadText(std::string_view sText, Single& fValue) const {
     float fPlain = 0;
-    if (ReadPlainNumber(sText, m_sSeparator, fPlain)) {
+    if (ReadPlainNumber(sText, kPoint, fPlain)) {
       fValue = Single::OfFinite(fPlain);
       return true;
     }
-    return ReadSingle(sText, fValue);
+    return ReadFileSingle(sText, fValue);
   }
 
   [[noreturn]] void RaiseNoCount() const {
@@ -93,7 +92,6 @@ class TierReader {
   }
 
   const PriceTable& m_oTable;
-  const std::string& m_sSeparator = TheHost().DecimalSeparator();
   PriceKey m_oKey;
   std::optional<PriceTable::Tiers> m_oTiers;
 };
@@ -186,7 +184,7 @@ bool clsPrices::HitTestRanges(const KeyText& oName, Single fHitTestValue, clsPri
 
 bool clsPrices::ReadNumber(const KeyText& oKey, Single& fValue) const {
   const auto sFound = m_oTable.Find(oKey);
-  return sFound && ReadSingle(*sFound, fValue);
+  return sFound && ReadFileSingle(*sFound, fValue);
 }
 
 clsPrices& Prices() {

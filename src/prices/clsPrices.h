@@ -15,7 +15,8 @@
 namespace quillet {
 
 /// Keys are compared without regard to case. Where a code `eShop` is passed, its suffix is joined
-/// onto the key. Values are text, converted anew at each look-up by the user's decimal separator.
+/// onto the key. Values are text, converted anew at each look-up, with the user's decimal
+/// separator or a point.
 class clsPrices {
  public:
   /// Bytes; no sane fee schedule is larger, and none that is gets loaded.

@@ -75,6 +75,11 @@ TEST(Conversions, TheSeparatorIsTheUsers) {
   EXPECT_EQ(ToSingle("1,25E+1"), Single(12.5));
   EXPECT_EQ(ToSingle("1,123456789012345678901"), Single(1.1234568));
   EXPECT_EQ(ToSingle("1.5"), nullopt);
+  for (const char* sOfFile : {"1.5", "1,5", " 15e-1", "1.50000000000"}) {
+    EXPECT_EQ(ToFileSingle(sOfFile), Single(1.5)) << sOfFile;
+    EXPECT_EQ(ToFileDouble(sOfFile), 1.5) << sOfFile;
+  }
+  EXPECT_EQ(ToFileSingle("1.234,5"), nullopt);
   EXPECT_EQ(SingleText(12.5), "12,5");
   EXPECT_EQ(FormatNumber(1234.5, "#,##0.00"), "1.234,50");
 }

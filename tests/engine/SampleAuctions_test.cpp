@@ -9,6 +9,7 @@
 
 #include "engine/clsCalculate.h"
 #include "support/Prices.h"
+#include "support/TestHost.h"
 
 namespace quillet {
 namespace {
@@ -19,22 +20,23 @@ std::string ContentOf(const std::filesystem::path& oPath) {
 }
 
 /// What the program makes of an auction, as a row of the page's table.
-std::string RowOf(const std::string& sName, clsCalculate& oAuction) {
-  oAuction.DoCalc();
-  const Single fFeatures =
-      oAuction.m_oSellingFeatures.DoCalc(&oAuction.m_oAuctionType, &oAuction.m_oOutlay);
+std::string RowOf(const std::string& sName, const clsCalculate& oAuction) {
   std::string sRow = "| `" + sName + "` |";
   for (const Single& fFigure :
-       {oAuction.m_fListingCost, fFeatures, oAuction.m_fReserveCost, oAuction.m_fFinalValueFee,
-        oAuction.m_fPayPayCost, oAuction.m_fPostageCost, oAuction.m_fSellCost,
-        oAuction.m_fProfit}) {
+       {oAuction.m_fListingCost, oAuction.m_oSellingFeatures.LastFee(), oAuction.m_fReserveCost,
+        oAuction.m_fFinalValueFee, oAuction.m_fPayPayCost, oAuction.m_fPostageCost,
+        oAuction.m_fSellCost, oAuction.m_fProfit}) {
     sRow += " " + FormatNumber(fFigure, "0.00") + " |";
   }
   const double fPercent = oAuction.m_fProfit / oAuction.m_fSellCost * 100;
   return sRow + (fPercent > 0 ? " " + std::to_string(static_cast<int>(fPercent)) : "") + " |\n";
 }
 
-TEST(SampleAuctions, StandAsTheyAreSavedAndGiveTheFiguresOfTheirPage) {
+class SampleAuctions : public ::testing::TestWithParam<const char*> {};
+INSTANTIATE_TEST_SUITE_P(DecimalSeparator, SampleAuctions, ::testing::Values(".", ",", "\u066b"));
+
+TEST_P(SampleAuctions, StandAsTheyAreSavedAndGiveTheFiguresOfTheirPageWhereverTheUserIs) {
+  ScopedHost oHost;
   UseShippedSchedule();
   const std::filesystem::path oSource(QUILLET_SOURCE_DIR);
   const std::string sPage = ContentOf(oSource / "docs/sample-auctions.md");
@@ -45,7 +47,12 @@ TEST(SampleAuctions, StandAsTheyAreSavedAndGiveTheFiguresOfTheirPage) {
     ++nSamples;
     clsCalculate oAuction;
     std::string sText = ContentOf(oEntry.path());
+    oHost.sDecimalSeparator = GetParam();
     oAuction.Serialize(sText, false);
+    if (sName.starts_with("uk-") == (RegionCode() == 0)) {
+      oAuction.DoCalc();
+    }
+    oHost.sDecimalSeparator = ".";
     std::string sSaved;
     oAuction.Serialize(sSaved, true);
     EXPECT_EQ(sSaved + "\n", sText);

@@ -33,8 +33,10 @@ TEST(PayPal, AnExactHalfOfASmallestUnitGoesDown) {
   }
   ScopedHost oHost;
   oHost.sDecimalSeparator = ",";
-  UseSchedule(kCents + "PersonalRatePounds%,3\n");
-  EXPECT_EQ(Account(kAccountPersonal).DoCalc(50.5, nullptr).Float(), 1.51F);  // of 1,515
+  UseSchedule(kCents + "BusinessRateBand1Value,0.5\n" +
+              Tiers("BusinessRatePounds%", {{"0.1", "0.9", "3"}}) +
+              "BusinessRatePoundsFixedRanges,0\n");
+  EXPECT_EQ(Account(kAccountBusiness).DoCalc(50.5, nullptr).Float(), 1.51F);  // of 1,515
 }
 
 TEST(PayPal, IsAPercentageAndAFixedChargeForEachPayment) {

@@ -4,7 +4,6 @@
 
 #include "base/Single.h"
 #include "base/conversions.h"
-#include "platform/Host.h"
 #include "prices/clsPriceRange.h"
 
 namespace quillet {
@@ -166,7 +165,7 @@ class TierCheck {
     for (const char* const sBand : {"1", "2", "3", "4", "5"}) {
       const ScheduleEntry* const pValue =
           m_oSchedule.Ask(std::string("BusinessRateBand") + sBand + "Value");
-      const auto fValue = pValue != nullptr ? ToDouble(pValue->sValue) : std::nullopt;
+      const auto fValue = pValue != nullptr ? ToFileDouble(pValue->sValue) : std::nullopt;
       if (fValue && !IsInATier(*fValue)) {
         Report(pValue->nLine, "no tier holds " + Quoted(pValue->sKey) + " of " + pValue->sValue);
       }
@@ -196,15 +195,12 @@ std::optional<double> AskNumber(Schedule& oSchedule, const std::string& sKey) {
   if (pEntry == nullptr) {
     return std::nullopt;
   }
-  if (!ToSingle(pEntry->sValue)) {
-    const std::string& sSeparator = TheHost().DecimalSeparator();
-    oSchedule.Report(
-        pEntry->nLine,
-        Quoted(pEntry->sKey) + " isn't a number: " + Quoted(pEntry->sValue) +
-            (sSeparator == "." ? "" : " (the decimal separator here is \"" + sSeparator + "\")"));
+  if (!ToFileSingle(pEntry->sValue)) {
+    oSchedule.Report(pEntry->nLine,
+                     Quoted(pEntry->sKey) + " isn't a number: " + Quoted(pEntry->sValue));
     return std::nullopt;
   }
-  return ToDouble(pEntry->sValue);
+  return ToFileDouble(pEntry->sValue);
 }
 
 }  // namespace quillet
