@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QPainter>
 #include <QPainterPath>
+#include <QWheelEvent>
 #include <algorithm>
 
 #include "platform/qt/Theme.h"
@@ -46,6 +47,14 @@ void ComboBox::paintEvent(QPaintEvent* /*pEvent*/) {
   oPainter.setPen(QPen(InkColour(underMouse() ? Ink::Text : Ink::FaintText),
                        std::max(1.4, fHalf * 0.45), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
   oPainter.drawPath(oArrow);
+}
+
+void ComboBox::wheelEvent(QWheelEvent* pEvent) {
+  if (hasFocus()) {
+    QComboBox::wheelEvent(pEvent);
+  } else {
+    pEvent->ignore();
+  }
 }
 
 }  // namespace quillet

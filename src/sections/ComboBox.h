@@ -14,6 +14,8 @@ class ComboBox : public QComboBox, public Control {
 
  protected:
   void paintEvent(QPaintEvent* pEvent) override;
+  /// Goes through the list while it has the focus; else the wheel is the page's.
+  void wheelEvent(QWheelEvent* pEvent) override;
 };
 
 }  // namespace quillet

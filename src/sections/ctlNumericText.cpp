@@ -1,5 +1,6 @@
 #include "sections/ctlNumericText.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QValidator>
@@ -158,8 +159,14 @@ void ctlNumericText::Show(const BoxText& oBox) {
 }
 
 /// The keys' events end here: a failure on the way has no one left to tell. The toolkit's text box
-/// does nothing of its own with these keys, so the caret stays where the step has put it.
+/// does nothing of its own with the arrows, so the caret stays where the step has put it. Enter
+/// goes on to whoever has a use for it.
 bool ctlNumericText::txtValue_KeyDown(const QKeyEvent& oEvent) {
+  if (oEvent.key() == Qt::Key_Return || oEvent.key() == Qt::Key_Enter) {
+    CommitTyping();
+    m_pText->selectAll();
+    return false;
+  }
   if (oEvent.key() != Qt::Key_Up && oEvent.key() != Qt::Key_Down) {
     return false;
   }
@@ -208,6 +215,20 @@ void ctlNumericText::UserControl_LostFocus() {
   IgnoreFailure([&] { emit Changed(); });
 }
 
+void ctlNumericText::CommitTyping() {
+  if (m_pText->isModified()) {
+    UserControl_LostFocus();
+    m_pText->setModified(false);
+  }
+}
+
+void ctlNumericText::LeaveFor(QWidget& oView) {
+  auto* const pText = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+  const bool bUntouched = pText != nullptr && !pText->isModified();
+  const QSignalBlocker oQuiet(bUntouched ? pText->parent() : nullptr);
+  oView.setFocus();
+}
+
 bool ctlNumericText::eventFilter(QObject* pWatched, QEvent* pEvent) {
   switch (pEvent->type()) {
     case QEvent::KeyPress:
@@ -230,10 +251,12 @@ bool ctlNumericText::eventFilter(QObject* pWatched, QEvent* pEvent) {
   return QWidget::eventFilter(pWatched, pEvent);
 }
 
-/// Steps as the spin button does. With Ctrl held the wheel belongs to the window's zoom.
+/// Steps as the spin button does, in the box that has the focus: over any other the page scrolls.
+/// With Ctrl held the wheel belongs to the window's zoom.
 void ctlNumericText::wheelEvent(QWheelEvent* pEvent) {
   constexpr int kNotch = 120;
-  if ((pEvent->modifiers() & Qt::ControlModifier) != 0 || pEvent->angleDelta().y() == 0) {
+  if (!m_pText->hasFocus() || (pEvent->modifiers() & Qt::ControlModifier) != 0 ||
+      pEvent->angleDelta().y() == 0) {
     pEvent->ignore();
     return;
   }

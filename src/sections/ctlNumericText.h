@@ -64,6 +64,14 @@ class ctlNumericText : public QWidget, public Control {
 
   void Refresh() { update(); }
 
+  /// Enters what was typed, as leaving the box does. One that nobody has typed into has nothing to
+  /// enter.
+  void CommitTyping();
+
+  /// Moves the focus to a view for the program's own sake. A box that is left by it enters what was
+  /// typed, and is silent where nothing was.
+  static void LeaveFor(QWidget& oView);
+
   /// The part that takes the focus.
   [[nodiscard]] QLineEdit* TextBox() const { return m_pText; }
 

@@ -110,7 +110,6 @@ ctlWizard::ctlWizard(QWidget* pParent)
   MakeFrames();
   MakeButtons();
   MakeKeys();
-  setFocusPolicy(Qt::ClickFocus);  // a click beside the section leaves the box that was typed into
   Place(0, 0, kDesignWidth, kDesignHeight);
 }
 
@@ -169,6 +168,7 @@ void ctlWizard::MakeButtons() {
     pButton->SetGap(kButtonGap);
     pButton->Place(nLeft, kButtonTop, kButtonWidth, kButtonHeight);
     nLeft += kPitch;
+    pButton->setFocusPolicy(Qt::TabFocus);  // a click turns the page, which leaves the box
     setTabOrder(pBefore, pButton);
     pBefore = pButton;
   }
@@ -372,6 +372,11 @@ void ctlWizard::PaintCard(QPainter& oPainter) const {
   }
 }
 
+/// A click beside the section leaves the box that was typed into; the buttons keep theirs.
+void ctlWizard::mousePressEvent(QMouseEvent* /*pEvent*/) {
+  setFocus(Qt::MouseFocusReason);
+}
+
 /// Buttons take these keys for themselves.
 void ctlWizard::keyPressEvent(QKeyEvent* pEvent) {
   if (!m_tCurrent || pEvent->isAutoRepeat()) {
@@ -404,11 +409,10 @@ void ctlWizard::wheelEvent(QWheelEvent* pEvent) {
   pEvent->accept();
 }
 
-/// A numeric box enters its number when the focus leaves it.
 void ctlWizard::LeaveInput() {
-  QWidget* const pFocus = QApplication::focusWidget();
+  const QWidget* const pFocus = QApplication::focusWidget();
   if (pFocus != nullptr && m_pViewPort->isAncestorOf(pFocus)) {
-    pFocus->clearFocus();
+    ctlNumericText::LeaveFor(*this);
   }
 }
 

@@ -52,6 +52,7 @@ class ctlWizard : public QWidget, public Control {
  protected:
   void showEvent(QShowEvent* pEvent) override;
   void paintEvent(QPaintEvent* pEvent) override;
+  void mousePressEvent(QMouseEvent* pEvent) override;
   void keyPressEvent(QKeyEvent* pEvent) override;
   void wheelEvent(QWheelEvent* pEvent) override;
   void Placed() override;

@@ -359,25 +359,20 @@ void frmMain::Form_Resize() {
   }
 }
 
-/// What stands in a box counts when the focus leaves it. A command that comes by key leaves the
-/// focus where it is, so a box that was typed into is left and entered again.
+/// A command that comes by key leaves the focus where it is, and with it what was typed.
 void frmMain::CommitTyping() {
-  auto* const pText = qobject_cast<QLineEdit*>(QApplication::focusWidget());
-  if (pText != nullptr && pText->isModified()) {
-    pText->clearFocus();
-    pText->setFocus();
-    pText->setModified(false);
+  const QWidget* const pFocus = QApplication::focusWidget();
+  auto* const pBox = pFocus != nullptr ? qobject_cast<ctlNumericText*>(pFocus->parent()) : nullptr;
+  if (pBox != nullptr) {
+    pBox->CommitTyping();
   }
 }
 
 /// A box that is left writes into the auction on view. So it is left before a command that may
-/// bring another one, which would else be changed by it. One that nobody has typed into since it
-/// was saved has nothing to write.
+/// bring another one, which would else be changed by it.
 void frmMain::LeaveBox() {
-  if (auto* const pText = qobject_cast<QLineEdit*>(QApplication::focusWidget())) {
-    const QSignalBlocker oQuiet(pText->isModified() ? nullptr : pText->parent());
-    QWidget& oView = m_pWizard->Visible() ? m_pWizard->Widget() : m_pCalculator->Widget();
-    oView.setFocus();
+  if (qobject_cast<QLineEdit*>(QApplication::focusWidget()) != nullptr) {
+    ctlNumericText::LeaveFor(m_pWizard->Visible() ? m_pWizard->Widget() : m_pCalculator->Widget());
   }
 }
 

@@ -127,6 +127,15 @@ TEST_F(ctlNumericTextTest, TypingIsSilentAndLeavingTellsOfTheLastGoodText) {
   EXPECT_EQ(m_pBox->Text(), "5") << "the last one within the bounds";
 }
 
+TEST_F(ctlNumericTextTest, EnterEntersWhatWasTypedAndSelectsIt) {
+  TypeInstead("12.5x");
+  for (const auto eKey : {Qt::Key_Return, Qt::Key_Enter}) {
+    Press(eKey);
+    EXPECT_EQ(m_pText->selectedText(), "12.5");
+    EXPECT_EQ(m_oChanged.count(), 1) << "there is nothing more to enter";
+  }
+}
+
 TEST_F(ctlNumericTextTest, TheSpinButtonStepsForEverAndBringsTheFocusToTheText) {
   m_pText->setCursorPosition(0);
   QTest::keyClicks(m_pNext->TextBox(), "bad");
@@ -157,8 +166,11 @@ TEST_F(ctlNumericTextTest, AHeldSpinButtonGoesOnUntilItIsLetGoOrDisabled) {
   }
 }
 
-TEST_F(ctlNumericTextTest, TheWheelStepsByWholeNotchesAndIsTheWindowsWithCtrl) {
+TEST_F(ctlNumericTextTest, TheWheelStepsByWholeNotchesAndIsThePagesWithCtrlOrWithoutTheFocus) {
   m_pText->setCursorPosition(0);
+  EXPECT_FALSE(Wheel(120));
+  EXPECT_EQ(Number(), "3.00");
+  m_pText->setFocus();
   EXPECT_TRUE(Wheel(120));
   EXPECT_EQ(Number(), "4.00");
   Wheel(-60);

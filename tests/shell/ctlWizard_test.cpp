@@ -66,7 +66,7 @@ class Wizard : public ::testing::Test {
     return dynamic_cast<Kind&>(*m_pView->findChild<QWidget*>(sName));
   }
   void Click(const char* sButton) {
-    auto& oButton = The<ImageButton>(sButton);
+    auto& oButton = The<QWidget>(sButton);
     QTest::mouseClick(&oButton, Qt::LeftButton, {}, oButton.rect().center());
   }
   int Page() { return m_pView->Current()->lIndex; }
@@ -120,6 +120,7 @@ TEST_F(Wizard, ClicksLeadThroughTheFivePagesInTheirOrder) {
   }
   EXPECT_EQ(oComplete.count(), 1);
   EXPECT_EQ(Page(), 4) << "the window turns the view off";
+  EXPECT_FALSE(WorkingAuction().IsDirty()) << "nothing was entered";
 }
 
 TEST_F(Wizard, KeysLeadThroughThePages) {
@@ -151,6 +152,7 @@ TEST_F(Wizard, KeysLeadThroughThePages) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return Page() == nPage && oComplete.count() == nComplete; }))
         << sWhat << ": page " << Page() << ", complete " << oComplete.count();
   }
+  EXPECT_FALSE(WorkingAuction().IsDirty()) << "nothing was entered";
   The<ImageButton>("imgBack").setFocus();
   Press(Qt::Key_Return);
   EXPECT_EQ(Page(), 3) << "Enter works the button that has the focus";
@@ -232,6 +234,10 @@ TEST_F(Wizard, TypingCountsWhicheverWayThePageIsLeft) {
   QTest::keyClicks(QApplication::focusWidget(), "34");
   Press(Qt::Key_Left, Qt::AltModifier);
   EXPECT_EQ(WorkingAuction().m_oOutlay.m_fOutlay, 34.0F);
+  Click("imgNext");
+  QTest::keyClicks(QApplication::focusWidget(), "56");
+  Click("Steps");
+  EXPECT_EQ(WorkingAuction().m_oOutlay.m_fOutlay, 56.0F) << "a click beside the section";
 }
 
 TEST_F(Wizard, ThePageMovesWhenTheThumbIsLetGo) {

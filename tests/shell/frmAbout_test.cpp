@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QTest>
 #include <QTimer>
+#include <QWheelEvent>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -77,7 +78,9 @@ TEST_F(About, AnUnknownStartModeShowsAsWizardAndStays) {
     Registry().Set(settings::kStartMode, sStored);
     OpenSettings();
     EXPECT_EQ(Shown(), sShown) << sStored;
-    EXPECT_FALSE(MayApply()) << "filling the controls is no change";
+    QWheelEvent oWheel({5, 5}, {}, {}, {0, 120}, {}, {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&The<ComboBox>("cboStartMode"), &oWheel);
+    EXPECT_FALSE(MayApply()) << "neither filling nor the wheel is a change";
     EXPECT_EQ(Stored(), std::string(sStored) + " 120");
   }
 }
