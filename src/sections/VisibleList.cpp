@@ -21,6 +21,9 @@ bool SaveVisibleList(const std::string& sSectionKey, const clsTokeniser& oList) 
 }
 
 bool NameInVisibleList(std::string_view sName, const clsTokeniser& oList) {
+  if (oList.IsEmpty()) {
+    return true;
+  }
   for (std::int32_t i = 0; i < oList.Count(); ++i) {
     if (sName.find(oList.Element(i)) != std::string_view::npos) {
       return true;

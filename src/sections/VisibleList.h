@@ -16,7 +16,8 @@ namespace quillet {
 /// False if the settings can't be written.
 bool SaveVisibleList(const std::string& sSectionKey, const clsTokeniser& oList);
 
-/// True if any word of the list occurs in `sName`, in the same case.
+/// True if any word of the list occurs in `sName`, in the same case. A list that was never stored
+/// names every row, so that settings that can't be written hide none.
 [[nodiscard]] bool NameInVisibleList(std::string_view sName, const clsTokeniser& oList);
 
 }  // namespace quillet

@@ -14,6 +14,7 @@
 #include "shell/zoomSteps.h"
 #include "support/Auctions.h"
 #include "support/Log.h"
+#include "support/MemoryHive.h"
 #include "support/PanelScript.h"
 #include "support/TestHost.h"
 
@@ -86,6 +87,31 @@ TEST_F(Window, AFailedLoadLeavesTheAuctionItsStarAndTheCaption) {
     EXPECT_FALSE(m_oWindow->close()) << "asked about what is still unsaved, and cancelled";
     EXPECT_EQ(m_oHost.aoShown.size(), 1U);
   }
+}
+
+TEST_F(Window, EveryRowIsThereWhetherOrNotTheSettingsCanBeWritten) {
+  const auto fnRows = [this](bool bWritable) {
+    MemoryHive oHive;
+    SetRegistryHive(oHive);
+    Registry().Set(settings::kStartMode, "1");
+    oHive.bWritable = bWritable;
+    Start();
+    std::string sRows;
+    for (const int nButton : {kButtonCalculator, kButtonConfig, kButtonCalculator}) {
+      m_oWindow->ClickButton(nButton);
+      for (const SectionPanel* const pSection : m_oWindow->Calculator().Set().Sections()) {
+        sRows += NamesWhere(*pSection, [](const Control& oControl) {
+          const auto* const pBox = dynamic_cast<const CheckBox*>(&oControl);
+          return oControl.Visible() || (pBox != nullptr && pBox->Value() != 0);
+        });
+      }
+    }
+    m_oWindow.reset();  // ahead of its settings
+    return sRows;
+  };
+  const std::string sRows = fnRows(true);
+  EXPECT_NE(sRows.find("txtOutlay"), std::string::npos);
+  EXPECT_EQ(fnRows(false), sRows);
 }
 
 TEST_F(Window, ConfigModeSavesASettingAndLoadsNothing) {
