@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "app/calc/checkSchedule.h"
+#include "prices/checkSchedule.h"
 #include "base/failure.h"
 #include "prices/clsPrices.h"
 #include "prices/money.h"

@@ -4,7 +4,7 @@
 #include "app/calc/CalcHost.h"
 #include "app/calc/Options.h"
 #include "app/calc/Output.h"
-#include "app/calc/checkSchedule.h"
+#include "app/calc/checkFile.h"
 #include "app/calc/run.h"
 #include "platform/Descriptors.h"
 

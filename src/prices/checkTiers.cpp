@@ -1,4 +1,4 @@
-#include "app/calc/checkTiers.h"
+#include "prices/checkTiers.h"
 
 #include <algorithm>
 

@@ -1,15 +1,10 @@
-#include "app/calc/checkSchedule.h"
+#include "prices/checkSchedule.h"
 
-#include <system_error>
-
-#include "app/calc/Output.h"
-#include "app/calc/Schedule.h"
-#include "app/calc/checkTiers.h"
 #include "base/basCommon.h"
 #include "base/region.h"
 #include "base/text.h"
-#include "platform/Files.h"
-#include "prices/clsPrices.h"
+#include "prices/Schedule.h"
+#include "prices/checkTiers.h"
 
 namespace quillet {
 namespace {
@@ -47,22 +42,6 @@ std::vector<Finding> CheckSchedule(std::string_view sText) {
   }
   ReportUnasked(oSchedule, oCatalogue);
   return oSchedule.Findings();
-}
-
-Status CheckScheduleFile(const std::string& sPath) {
-  std::string sBytes;
-  if (const std::error_code oError = ReadWholeFile(sPath, clsPrices::kLargestFile, sBytes)) {
-    Complain(sPath + ": " + oError.message());
-    return kUnusable;
-  }
-  Output oOutput;
-  const std::vector<Finding> aoFindings = CheckSchedule(DecodeText(std::move(sBytes)));
-  for (const Finding& oFinding : aoFindings) {
-    oOutput.Text() += sPath + ":" + std::to_string(oFinding.nLine) + ": " + oFinding.sText + "\n";
-    oOutput.FlushIfLarge();
-  }
-  oOutput.Flush();
-  return aoFindings.empty() ? kEveryAuctionCalculated : kSomeFailed;
 }
 
 }  // namespace quillet

@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
-#include "app/calc/Schedule.h"
 #include "prices/Catalogue.h"
+#include "prices/Schedule.h"
 
 namespace quillet {
 

@@ -1,4 +1,4 @@
-#include "app/calc/Schedule.h"
+#include "prices/Schedule.h"
 
 #include <algorithm>
 
