@@ -34,7 +34,7 @@ constexpr std::array<Set, 4> kSets = {{
 constexpr std::array<Row, 37> kRows = {{
     {kBoth, KeyKind::Text, "Currency{Symbol,Format}"},
     {kBoth, KeyKind::Number, "LocalTax"},
-    {kBoth, KeyKind::PriceTiers, "Opening"},
+    {kBoth, KeyKind::LotTiers, "Opening"},
     {kBoth, KeyKind::Number, "ShopInsertion{Fee,Surcharge}{shop}"},
     {kUk, KeyKind::Number, "AuctionType{Motor,RealEstate}"},
     {kUs, KeyKind::Number, "{AuctionType,TransactionFee}Motor{vehicle}"},

@@ -16,6 +16,7 @@ enum class KeyKind {
   Number,
   // Tier tables, by what is looked up in them.
   PriceTiers,        ///< an amount of money
+  LotTiers,          ///< an amount of money times a quantity
   PictureTiers,      ///< a count
   WeightTiers,       ///< kilograms
   BandTiers,         ///< the value of a merchant-rate band

@@ -1,6 +1,7 @@
 #include "prices/checkTiers.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "base/Single.h"
 #include "base/conversions.h"
@@ -19,6 +20,32 @@ struct Tier {
   [[nodiscard]] bool IsEndless() const { return fEnd == clsPriceRange::kNoUpperLimit; }
   [[nodiscard]] std::string Name() const { return "tier " + std::to_string(nNumber); }
 };
+
+/// A number of items at a price in whole cents.
+struct Lot {
+  std::int32_t nQuantity = 0;
+  Single fPrice;
+
+  [[nodiscard]] Single Total() const { return fPrice * nQuantity; }
+  [[nodiscard]] std::string Name() const {
+    return std::to_string(nQuantity) + " x " + FormatNumber(fPrice, "0.00");
+  }
+};
+
+/// A lot whose total, as the fee is asked for, lies between two others.
+std::optional<Lot> LotBetween(Single fEnd, Single fStart) {
+  constexpr std::int32_t kMostItems = 10'000;
+  for (std::int32_t nQuantity = 1; nQuantity <= kMostItems; ++nQuantity) {
+    const double fCents = std::max(0.0, std::floor(fEnd * 100 / nQuantity));
+    for (const double fOther : {fCents, fCents + 1}) {
+      const Lot oLot{.nQuantity = nQuantity, .fPrice = fOther / 100};
+      if (oLot.Total() > fEnd && oLot.Total() < fStart) {
+        return oLot;
+      }
+    }
+  }
+  return std::nullopt;
+}
 
 class TierCheck {
  public:
@@ -121,6 +148,10 @@ class TierCheck {
       Report(nLine, oTier.Name() + " overlaps with " + oBefore.Name() + " without an upper limit");
     } else if (oTier.fStart < oBefore.fEnd) {
       Report(nLine, "overlap between " + sBetween);
+    } else if (m_oTable.eKind == KeyKind::LotTiers) {
+      if (const auto oLot = LotBetween(oBefore.fEnd, oTier.fStart)) {
+        Report(nLine, "gap between " + sBetween + ": " + oLot->Name() + " falls into it");
+      }
     } else if (IsGap(oBefore.fEnd, oTier.fStart)) {
       Report(nLine, "gap between " + sBetween);
     }

@@ -247,13 +247,20 @@ FINDINGS = (
       "@OpeningRanges" for part in ("Start", "End", "Value")]),
     (US, [("OpeningRangeValue3,0.60", "")],
      ['@OpeningRanges: "OpeningRangeValue3" is missing']),
-    (US, [("OpeningRangeStart3,10.00", "OpeningRangeStart3,10.01")],
-     ['@OpeningRangeStart3: "Opening": gap between tier 2 to 9.99 and tier 3 from 10.01']),
-    (US, [("OpeningRangeStart3,10.00", "OpeningRangeStart3,9.99")], []),  # the lower tier wins
-    (US, [("OpeningRangeEnd3,24.99", "OpeningRangeEnd3,9")],
-     ['@OpeningRangeEnd3: "Opening": tier 3 ends at 9 before its start at 10.00',
-      '@OpeningRangeStart4: "Opening": gap between tier 3 to 9 and tier 4 from 25.00']),
-    (US, [("OpeningRangeEnd3,24.99", "OpeningRangeEnd3,-1")],
+    (US, [("OpeningRangeEnd3,24.995", "OpeningRangeEnd3,24.99")],
+     ['@OpeningRangeStart4: "Opening": gap between tier 3 to 24.99 and tier 4 from 25.00: '
+      "21 x 1.19 falls into it"]),
+    (UK, [("OpeningRangeEnd5,99.995", "OpeningRangeEnd5,99.99"),
+          ("OpeningRangeEnd1,0.995", "OpeningRangeEnd1,0.99")],  # nothing falls between these
+     ['@OpeningRangeStart6: "Opening": gap between tier 5 to 99.99 and tier 6 from 100.00: '
+      "3 x 33.33 falls into it"]),
+    (US, [("ReserveRangeStart2,50.00", "ReserveRangeStart2,50.01")],
+     ['@ReserveRangeStart2: "Reserve": gap between tier 1 to 49.99 and tier 2 from 50.01']),
+    (US, [("OpeningRangeStart3,10.00", "OpeningRangeStart3,9.995")], []),  # the lower tier wins
+    (US, [("ReserveRangeEnd2,199.99", "ReserveRangeEnd2,9")],
+     ['@ReserveRangeEnd2: "Reserve": tier 2 ends at 9 before its start at 50.00',
+      '@ReserveRangeStart3: "Reserve": gap between tier 2 to 9 and tier 3 from 200.00']),
+    (US, [("OpeningRangeEnd3,24.995", "OpeningRangeEnd3,-1")],
      ['@OpeningRangeStart4: "Opening": tier 4 overlaps with tier 3 without an upper limit']),
     (US, [("FinalRangeEnd1,25", "FinalRangeEnd1,25.01")],
      ['@FinalRangeStart2: "Final": overlap between tier 1 to 25.01 and tier 2 from 25']),

@@ -64,6 +64,22 @@ TEST_P(SampleAuctions, StandAsTheyAreSavedAndGiveTheFiguresOfTheirPageWhereverTh
   EXPECT_GT(nSamples, 16);
 }
 
+TEST(ShippedSchedule, ChargesEveryLotByItsTier) {
+  UseShippedSchedule();
+  const std::tuple<int, double, double> aoUs[] = {
+      {21, 1.19, .6}, {37, .27, .4}, {111, .09, .4}, {1, .99, .2},     {1, 1, .4},
+      {1, 9.99, .4},  {10, 1, .6},   {250, .1, 1.2}, {1, 499.99, 3.6}, {1000, .5, 4.8}};
+  const std::tuple<int, double, double> aoUk[] = {
+      {3, 33.33, 1.5}, {11, 9.09, 1.5}, {303, .33, 1.5}, {1111, .09, 1.5}, {1, .99, .15},
+      {100, .01, .2},  {1, 29.99, .75}, {300, .1, 1.5},  {1, 99.99, 1.5},  {1000, .1, 2}};
+  for (const auto& [lQuantity, fPrice, fFee] : RegionCode() == 1 ? aoUs : aoUk) {
+    clsOutlay oOutlay;
+    oOutlay.m_lQuantity = lQuantity;
+    oOutlay.m_fStartingPrice = fPrice;
+    EXPECT_EQ(clsAuctionType().DoCalcListingFee(oOutlay), Single(fFee)) << lQuantity << fPrice;
+  }
+}
+
 // A new auction reads the features of thirty days until its type is set; it must not read others
 // than an auction without a shop.
 TEST(ShippedSchedule, PricesFeaturesOfThirtyDaysAsWithoutAShop) {
