@@ -13,6 +13,7 @@
 #include "platform/qt/QtHost.h"
 #include "platform/qt/QtSettingsHive.h"
 #include "platform/qt/Theme.h"
+#include "prices/clsPrices.h"
 #include "shell/DesktopApplication.h"
 
 int main(int nArguments, char** asArguments) {
@@ -29,7 +30,8 @@ int main(int nArguments, char** asArguments) {
   SetHost(oHost);
   QtSettingsHive oSettings;
   SetRegistryHive(oSettings);
-  const std::unique_ptr<Internet> oInternet = PlatformInternet();
+  const std::unique_ptr<Internet> oInternet =
+      PlatformInternet({.nLargest = clsPrices::kLargestFile});
   const std::unique_ptr<Sound> oSound = PlatformSound();
   SetSound(oSound.get());
   DesktopApplication oApplication(*oInternet);

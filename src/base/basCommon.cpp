@@ -22,18 +22,6 @@ std::string_view TrimSpaces(std::string_view sText) {
   return sText.substr(nFirst, sText.find_last_not_of(' ') + 1 - nFirst);
 }
 
-/// Where a file lies that comes with the program and changes later.
-std::string PathOfChangingFile(const std::string& sName) {
-  const std::string sBelow = NativePath("\\" + sName);
-  std::string sShipped = TheHost().ProgramFolder() + sBelow;
-  std::string sOwn = TheHost().DataFolder() + sBelow;
-  if (sOwn == sShipped) {
-    return sShipped;
-  }
-  (void)SeedFile(sShipped, sOwn);
-  return FileExists(sOwn) ? sOwn : sShipped;
-}
-
 bool IsControlCharacter(char cToken) {
   return static_cast<unsigned char>(cToken) < 32;
 }
@@ -58,7 +46,20 @@ std::string RegistryRoot() {
 
 std::string UpdateFileName(bool bNameOnly) {
   const std::string sName = RegionCode() == 1 ? "UpdateUS_v0101.dat" : "UpdateUK_v0101.dat";
-  return bNameOnly ? sName : PathOfChangingFile(sName);
+  if (bNameOnly) {
+    return sName;
+  }
+  std::string sShipped = ShippedUpdateFileName();
+  std::string sOwn = TheHost().DataFolder() + NativePath("\\" + sName);
+  if (sOwn == sShipped) {
+    return sShipped;
+  }
+  (void)SeedFile(sShipped, sOwn);
+  return FileExists(sOwn) ? sOwn : sShipped;
+}
+
+std::string ShippedUpdateFileName() {
+  return TheHost().ProgramFolder() + NativePath("\\" + UpdateFileName(true));
 }
 
 std::int32_t MaxLong(std::int32_t nLeft, std::int32_t nRight) {

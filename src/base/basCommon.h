@@ -20,6 +20,9 @@ namespace quillet {
 /// file is put there first if there is none or an older one.
 [[nodiscard]] std::string UpdateFileName(bool bNameOnly);
 
+/// The path of the fee schedule that came with the program.
+[[nodiscard]] std::string ShippedUpdateFileName();
+
 [[nodiscard]] std::int32_t MaxLong(std::int32_t nLeft, std::int32_t nRight);
 
 /// The smaller; of two equal values the second.

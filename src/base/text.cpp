@@ -67,6 +67,11 @@ void AppendUtf8(char32_t cCode, std::string& sOut) {
   }
 }
 
+/// How many UTF-16 units a character takes.
+std::size_t Units(char32_t cCode) {
+  return cCode != kInvalid && cCode > 0xFFFF ? 2 : 1;
+}
+
 bool IsAscii(std::string_view sText) {
   return std::all_of(sText.begin(), sText.end(),
                      [](char c) { return static_cast<unsigned char>(c) < 0x80; });
@@ -80,10 +85,24 @@ std::size_t Utf16Length(std::string_view sText) {
   }
   std::size_t nLength = 0;
   while (!sText.empty()) {
-    const char32_t cCode = TakeCharacter(sText);
-    nLength += cCode != kInvalid && cCode > 0xFFFF ? 2 : 1;
+    nLength += Units(TakeCharacter(sText));
   }
   return nLength;
+}
+
+std::string CutText(std::string sText, std::size_t nLongest) {
+  std::string_view sRest = sText;
+  std::size_t nLength = 0;
+  while (!sRest.empty()) {
+    std::string_view sNext = sRest;
+    nLength += Units(TakeCharacter(sNext));
+    if (nLength > nLongest) {
+      break;
+    }
+    sRest = sNext;
+  }
+  sText.resize(sText.size() - sRest.size());
+  return sText;
 }
 
 std::u16string ToUtf16(std::string_view sText) {

@@ -10,6 +10,12 @@ namespace quillet {
 /// How many UTF-16 units a UTF-8 text takes. A byte that is no part of valid UTF-8 counts as one.
 [[nodiscard]] std::size_t Utf16Length(std::string_view sText);
 
+/// As many characters that a text may have where its positions are counted in 16 bits.
+inline constexpr std::size_t kLongestText = 32766;
+
+/// The text's beginning in at most `nLongest` UTF-16 units. No character is cut in two.
+[[nodiscard]] std::string CutText(std::string sText, std::size_t nLongest);
+
 [[nodiscard]] std::u16string ToUtf16(std::string_view sText);
 [[nodiscard]] std::string FromUtf16(std::u16string_view sText);
 

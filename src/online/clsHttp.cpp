@@ -161,7 +161,8 @@ void clsHttp::Close(InternetHandle& hHandle) {
   }
 }
 
-bool clsHttp::GetFile(const std::string& sLocalFile, const std::string& sRemoteFile, bool bBinary) {
+bool clsHttp::GetFile(const std::string& sLocalFile, const std::string& sRemoteFile, bool bBinary,
+                      const FileCheck& fnCheck) {
   WriteLog("Proc FTP 1");
   const TransferType eType = bBinary ? TransferType::Binary : TransferType::Ascii;
   WriteLog("Proc FTP 2");
@@ -174,9 +175,12 @@ bool clsHttp::GetFile(const std::string& sLocalFile, const std::string& sRemoteF
   DeleteLocalFile(sTemporary);
   const bool bFetched = m_oInternet.GetFile(m_hFtpSession, sRemoteFile, sTemporary, eType);
   WriteLog("Proc FTP 5");
-  if (!bFetched) {
+  const bool bRefused = bFetched && fnCheck && IsRefused(sTemporary, fnCheck);
+  if (!bFetched || bRefused) {
     WriteLog("Proc FTP 6 - fail");
-    RecordLastError();
+    if (!bRefused) {
+      RecordLastError();
+    }
     WriteLog("Proc FTP 7");
     DeleteLocalFile(sTemporary);
     throw Failure(FailureNumber::Internet, "Error getting file '" + sRemoteFile + "'");
@@ -184,6 +188,17 @@ bool clsHttp::GetFile(const std::string& sLocalFile, const std::string& sRemoteF
   StoreFetchedFile(sTemporary, sLocalFile);
   WriteLog("Proc FTP 8 - okay");
   return true;
+}
+
+bool clsHttp::IsRefused(const std::string& sFile, const FileCheck& fnCheck) {
+  try {
+    fnCheck(sFile);
+    return false;
+  } catch (const Failure& oFailure) {
+    SetLastError(oFailure.what());
+    WriteLog("The fetched file is refused: " + LastError());
+    return true;
+  }
 }
 
 void clsHttp::StoreFetchedFile(const std::string& sTemporary, const std::string& sLocalFile) {

@@ -1,6 +1,7 @@
 // The few Internet operations of the update, each step of them told in the diagnostic log.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "platform/Internet.h"
@@ -35,9 +36,14 @@ class clsHttp {
   void CloseHttpSession();
   void CloseInternetSession();
 
-  /// Fetches a file by FTP. It takes the local one's place only when it is here as a whole. False
-  /// without a connection; a Failure if the file can't be fetched or stored.
-  bool GetFile(const std::string& sLocalFile, const std::string& sRemoteFile, bool bBinary);
+  /// Says by a Failure what is wrong with a fetched file, whose path it gets.
+  using FileCheck = std::function<void(const std::string& sPath)>;
+
+  /// Fetches a file by FTP. It takes the local one's place only when it is here as a whole and
+  /// `fnCheck` has nothing against it. False without a connection; a Failure if the file can't be
+  /// fetched, used or stored.
+  bool GetFile(const std::string& sLocalFile, const std::string& sRemoteFile, bool bBinary,
+               const FileCheck& fnCheck = {});
 
   /// True if both files have the same size; their content isn't looked at. False without an FTP
   /// session; a Failure if the remote file is empty or missing.
@@ -56,6 +62,7 @@ class clsHttp {
                                        const std::string& sUser, const std::string& sPassword,
                                        InternetService eService);
   [[nodiscard]] std::string ReadAnswer(InternetHandle hRequest);
+  [[nodiscard]] bool IsRefused(const std::string& sFile, const FileCheck& fnCheck);
   void StoreFetchedFile(const std::string& sTemporary, const std::string& sLocalFile);
   void DeleteLocalFile(const std::string& sFile);
   void SetLastError(const std::string& sText) { m_sLastError = sText; }

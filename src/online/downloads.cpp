@@ -8,7 +8,10 @@
 #include "base/clsRegistryAccess.h"
 #include "base/conversions.h"
 #include "base/failure.h"
+#include "base/text.h"
+#include "prices/clsPrices.h"
 #include "prices/clsTokeniser.h"
+#include "prices/replacement.h"
 
 namespace quillet {
 namespace {
@@ -48,7 +51,18 @@ void ReadActions(std::string sAnswer) {
   }
 }
 
+/// Has `sFetched` loaded by the routine that will load it, into a table of its own.
+void RequireSchedule(const std::string& sFetched, const std::string& sPresent) {
+  clsPrices oPrices;
+  oPrices.LoadFile(sFetched);
+  RequireReplacement(oPrices, sPresent);
+}
+
 }  // namespace
+
+std::string Downloads::Ask(const std::string& sRequest) {
+  return CutText(m_oHttp.GetHeaderInfo(sRequest), kLongestText);
+}
 
 void Downloads::FetchActions() {
   try {
@@ -56,7 +70,7 @@ void Downloads::FetchActions() {
     const std::string sRequest = "getAction.asp?Code=" + Code();
     if (m_oHttp.StartHttpSession(Registry().Get(settings::kWebServer), "", "")) {
       WriteLog("DL - Special actions 2");
-      const std::string sAnswer = m_oHttp.GetHeaderInfo(sRequest);
+      const std::string sAnswer = Ask(sRequest);
       WriteLog("DL - Special actions 3");
       if (!sAnswer.empty()) {
         WriteLog("DL - Special actions 4");
@@ -98,7 +112,8 @@ void Downloads::FetchUpdateFileOrFail() {
   WriteLog("DL - Update file 6");
   if (!m_oHttp.FilesMatch(sLocal, sRemote)) {
     WriteLog("DL - Update file 7");
-    m_oHttp.GetFile(sLocal, sRemote, true);
+    m_oHttp.GetFile(sLocal, sRemote, true,
+                    [&](const std::string& sFetched) { RequireSchedule(sFetched, sLocal); });
     WriteLog("DL - Update file 8");
   }
   WriteLog("DL - Update file 9 - okay");
@@ -136,7 +151,7 @@ void Downloads::FetchAboutText() {
       WriteLog("DL - Scrolling message 3");
       if (m_oHttp.StartHttpSession(Registry().Get(settings::kWebServer), "", "")) {
         WriteLog("DL - Scrolling message 4");
-        const std::string sText = m_oHttp.GetHeaderInfo("getAbout.asp?Code=" + Code());
+        const std::string sText = Ask("getAbout.asp?Code=" + Code());
         WriteLog("DL - Scrolling message 5");
         if (!sText.empty()) {
           WriteLog("DL - Scrolling message 6");

@@ -24,8 +24,8 @@ class Downloads {
   /// Asks the web server for g_lActionFlags and g_sActionMessage.
   void FetchActions();
 
-  /// Fetches the fee schedule if the server's has another size, unless the action word forbids it
-  /// or an attempt of today has not come to its end.
+  /// Fetches the fee schedule if the server's has another size and is of use, unless the action
+  /// word forbids it or an attempt of today has not come to its end.
   void FetchUpdateFile();
 
   /// Fetches g_sAboutText if the action word asks for it, and stores it for later starts.
@@ -44,6 +44,8 @@ class Downloads {
 
  private:
   void FetchUpdateFileOrFail();
+  /// The web server's answer, of one that is very long the beginning.
+  [[nodiscard]] std::string Ask(const std::string& sRequest);
 
   clsHttp m_oHttp;
   Clock m_fnNow;

@@ -22,7 +22,7 @@ struct InternetLimits {
   std::chrono::milliseconds oConnect{10'000};  ///< until the server is reached and lets the user in
   std::chrono::milliseconds oStall{20'000};    ///< without a byte of the file or answer
   std::chrono::milliseconds oWhole{120'000};   ///< until all of it has come
-  std::size_t nLargest = 8U << 20U;            ///< bytes of a file or answer
+  std::size_t nLargest;                        ///< bytes of a file or answer
 };
 
 /// Calls block until they are done or a limit is reached, and pump the host's events meanwhile. No
@@ -88,6 +88,6 @@ class Internet {
 };
 
 /// The platform's own client.
-[[nodiscard]] std::unique_ptr<Internet> PlatformInternet(InternetLimits oLimits = {});
+[[nodiscard]] std::unique_ptr<Internet> PlatformInternet(InternetLimits oLimits);
 
 }  // namespace quillet

@@ -38,4 +38,10 @@ std::error_code SeedFile(const std::string& sShipped, const std::string& sOwn) {
   return oError ? oError : ReplaceFile(sOwn, sContent);
 }
 
+std::error_code PutAside(const std::string& sFile, const std::string& sAside) {
+  std::error_code oError;
+  std::filesystem::rename(PathOf(sFile), PathOf(sAside), oError);
+  return oError;
+}
+
 }  // namespace quillet

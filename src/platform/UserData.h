@@ -17,4 +17,7 @@ namespace quillet {
 /// its folder. After an error `sOwn` stands as it was.
 [[nodiscard]] std::error_code SeedFile(const std::string& sShipped, const std::string& sOwn);
 
+/// Renames a file to `sAside`, in the place of an older one of that name.
+[[nodiscard]] std::error_code PutAside(const std::string& sFile, const std::string& sAside);
+
 }  // namespace quillet

@@ -9,8 +9,10 @@
 #include "base/plainNumber.h"
 #include "base/text.h"
 #include "platform/Files.h"
+#include "platform/UserData.h"
 #include "prices/clsTokeniser.h"
 #include "prices/lines.h"
+#include "prices/replacement.h"
 
 namespace quillet {
 namespace {
@@ -101,9 +103,11 @@ class TierReader {
 void clsPrices::LoadUpdateFile() {
   const std::string sPath = UpdateFileName(false);
   try {
-    const std::string sText = ReadUpdateFile(sPath, kAttempts);
-    m_oTable.Clear();
-    LoadText(sText);
+    if (sPath != ShippedUpdateFileName()) {
+      LoadUsersCopy(sPath);
+    } else {
+      LoadFile(sPath, kAttempts);
+    }
   } catch (const Failure&) {
     // One route for a file that can't be opened and for one that can't be read to its end.
     ShowMessage("Error opening file " + sPath + "\n\n" + EditionName() + " must close.",
@@ -112,8 +116,30 @@ void clsPrices::LoadUpdateFile() {
   }
 }
 
+/// A copy that is no use makes room for the program's file.
+void clsPrices::LoadUsersCopy(const std::string& sPath) {
+  try {
+    LoadFile(sPath, kAttempts);
+    RequireReplacement(*this, ShippedUpdateFileName());
+  } catch (const Failure& oFailure) {
+    const std::string sAside = sPath + ".bad";
+    if (PutAside(sPath, sAside)) {
+      throw;
+    }
+    LoadFile(UpdateFileName(false), kAttempts);
+    ShowMessage("Your copy of the fee schedule can't be used:\n\n" + std::string(oFailure.what()) +
+                    "\n\nIt is kept as " + sAside + ". " + EditionName() +
+                    " now uses the fees that it came with.",
+                kMessageWarning, EditionName());
+  }
+}
+
 void clsPrices::LoadFile(const std::string& sPath) {
-  const std::string sText = ReadUpdateFile(sPath, 1);
+  LoadFile(sPath, 1);
+}
+
+void clsPrices::LoadFile(const std::string& sPath, int nAttempts) {
+  const std::string sText = ReadUpdateFile(sPath, nAttempts);
   m_oTable.Clear();
   try {
     LoadText(sText);

@@ -22,8 +22,10 @@ class clsPrices {
   /// Bytes; no sane fee schedule is larger, and none that is gets loaded.
   static constexpr std::size_t kLargestFile = std::size_t{1} << 20U;
 
-  /// Reads the region's update file, in five attempts. If it can't be read, or holds a key twice,
-  /// says so in a message box and closes the application; the table is left as far as it got.
+  /// Reads the region's update file, in five attempts. A user's copy that is no use is put aside
+  /// for the file that came with the program, with a message. If that can't be read, or holds a key
+  /// twice, says so in a message box and closes the application; the table is left as far as it
+  /// got.
   void LoadUpdateFile();
 
   /// Reads a given file in one attempt; a Failure names the file and says what is wrong with it.
@@ -54,6 +56,8 @@ class clsPrices {
   [[nodiscard]] const PriceTable& Table() const { return m_oTable; }
 
  private:
+  void LoadFile(const std::string& sPath, int nAttempts);
+  void LoadUsersCopy(const std::string& sPath);
   bool ReadNumber(const KeyText& oKey, Single& fValue) const;
 
   PriceTable m_oTable;

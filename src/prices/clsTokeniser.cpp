@@ -8,7 +8,6 @@
 namespace quillet {
 namespace {
 
-constexpr std::size_t kLongestText = 32766;
 constexpr std::int32_t kGrowth = 50;
 constexpr std::size_t kRoomAtFirst = 16;  // more than any section of an auction has
 

@@ -27,9 +27,9 @@ class Download : public OnlineTest {
 
 TEST_F(Download, AnAnswerIsANumberAndAMessage) {
   struct Row {
-    const char* sAnswer;
+    std::string sAnswer;
     std::int32_t lFlags;
-    const char* sMessage;
+    std::string sMessage;
     const char* sEnd;
   };
   const char* const sOkay = "3|4|5|6 - okay";
@@ -39,6 +39,7 @@ TEST_F(Download, AnAnswerIsANumberAndAMessage) {
                         {"2.5,half", 2, "half", sOkay},
                         {"1E10,much", 0, "before", sFail},
                         {",2,late", 2, "late", sOkay},
+                        {"2," + std::string(32763, 'x') + "😀", 2, std::string(32763, 'x'), sOkay},
                         {"", 64, "before", "3|6 - okay"}};
   ASSERT_TRUE(m_oDownloads.OpenConnection());
   for (const Row& oRow : aoRows) {

@@ -31,7 +31,7 @@ class Update : public OnlineTest {
     PutSetting(settings::kWebServer, sWebServer);
     PutSetting(settings::kFtpServer, sFtpServer);
     PutSetting(settings::kFtpSkipFlag, "");
-    CurlInternet oInternet;
+    CurlInternet oInternet({.nLargest = 1'000'000});
     Downloads oDownloads(oInternet, [] { return 46340.5; });  // 2026-11-14 12:00
     EXPECT_TRUE(oDownloads.OpenConnection());
     oDownloads.FetchActions();
@@ -86,7 +86,7 @@ TEST_F(Update, AFileThatFindsNoRoomIsDropped) {
 TEST_F(Update, AnFtpSessionGoesIntoFoldersAndTellsWhyItCanNot) {
   const UpdateServers oServers;
   oServers.PutFile("fees of 2026/%41 ü.dat", "deep");
-  CurlInternet oInternet;
+  CurlInternet oInternet({.nLargest = 1'000'000});
   clsHttp oHttp(oInternet);
   ASSERT_TRUE(oHttp.OpenConnection());
   oHttp.StartFtpSession(oServers.FtpServer(), "quillet", "rmk3816", "/fees of 2026");

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "prices/clsPrices.h"
 #include "support/OnlineTest.h"
 
 namespace quillet {
@@ -50,6 +51,27 @@ TEST_F(UserData, AnOlderShippedScheduleNeverReplacesTheUsersCopy) {
     EXPECT_EQ(UpdateFileName(false), sOwn);
     EXPECT_EQ(ReadTestFile(sOwn), sExpected) << nSecondsLater;
   }
+}
+
+TEST_F(UserData, ACopyThatIsNoUseStepsAsideForTheShippedSchedule) {
+  m_oHost.sDataFolder = m_oFolder / "share";
+  const std::string sOwn = m_oFolder / ("share\\" + m_sName);
+  WriteTestFile(m_sLocal, "OpeningRanges,0\n");
+  (void)UpdateFileName(false);
+  const auto oLater = std::filesystem::last_write_time(m_sLocal) + std::chrono::seconds(1);
+  for (const char* const sCopy :
+       {"Final,1\nOpeningRanges,0\nfinal,2\n", "<html>", "LocalTax,0\n"}) {
+    WriteTestFile(sOwn, sCopy);
+    std::filesystem::last_write_time(sOwn, oLater);
+    m_oHost.aoShown.clear();
+    UsePrices(nullptr);
+    EXPECT_EQ(Prices().Table().Size(), 1U);
+    EXPECT_EQ(ReadTestFile(sOwn), "OpeningRanges,0\n");
+    EXPECT_EQ(ReadTestFile(sOwn + ".bad"), sCopy);
+    ASSERT_EQ(m_oHost.aoShown.size(), 1U);
+    EXPECT_NE(m_oHost.aoShown[0].sPrompt.find(sOwn + ".bad"), std::string::npos);
+  }
+  UsePrices(nullptr);
 }
 
 TEST_F(UserData, WhereNoCopyCanBeMadeTheShippedScheduleIsUsed) {

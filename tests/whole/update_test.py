@@ -13,8 +13,10 @@ import time
 import unittest
 
 os.environ["QUILLET_BIN"] = sys.argv.pop(1)
-from desktop import PROGRAMS, wait_for  # noqa: E402
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.realpath(__file__)), "../support"))
+from desktop import PROGRAMS, Screen, wait_for  # noqa: E402
 from seen import Desktop, ReadableScreen  # noqa: E402
+from update_servers import UpdateServers  # noqa: E402
 
 FEES = "UpdateUS_v0101.dat"
 NEW_FEE = ("OpeningRangeValue2,0.40", "OpeningRangeValue2,0.450")  # one byte longer
@@ -89,15 +91,21 @@ class Update(unittest.TestCase):
 
     def serve(self, screen):
         """Starts the servers and names them to the program; gives the folder of their files."""
-        servers = subprocess.Popen([PROGRAMS / "update_servers"], stdin=subprocess.PIPE,
-                                   stdout=subprocess.PIPE, text=True)
-        self.addCleanup(servers.communicate)
-        web, ftp, folder = (servers.stdout.readline().strip() for _ in range(3))
+        servers = UpdateServers()
+        self.addCleanup(servers.close)
+        self.name_servers(screen, servers.web, servers.ftp)
+        return servers.files
+
+    @staticmethod
+    def name_servers(screen, web, ftp):
         settings = screen.home / "machine/velmor/quillet.ini"
         settings.parent.mkdir(parents=True)
         key = "Velmor\\Quillet%20US\\Config\\"
         settings.write_text(f"[Software]\n{key}WebServer={web}\n{key}FtpServer={ftp}\n")
-        return type(screen.home)(folder)
+
+    @staticmethod
+    def start(screen, *command):
+        screen.program = subprocess.Popen(command, cwd=screen.home, env=screen.environment)
 
     def test_first_start_fetches_the_fees_and_leads_to_a_saved_auction(self):
         with ReadableScreen("update") as screen:
@@ -107,8 +115,7 @@ class Update(unittest.TestCase):
             (served / "ftp" / FEES).write_text(fees, encoding="utf-8")
             (served / "web/getAction.asp").write_text("10,New fees from today")
             (served / "web/getAbout.asp").write_text("Welcome,\\nseller")
-            screen.program = subprocess.Popen([program / "quillet", "debug=true"], cwd=screen.home,
-                                              env=screen.environment)
+            self.start(screen, program / "quillet", "debug=true")
             screen.window("Information")
             self.assertTrue(screen.windows("Quillet"), "the splash covers the start")
             self.assertEqual((program / FEES).read_text(encoding="utf-8"), fees)
@@ -149,12 +156,38 @@ class Update(unittest.TestCase):
         with ReadableScreen("offline") as screen:
             program = self.at_home(screen)
             begin = time.monotonic()
-            screen.program = subprocess.Popen(["unshare", "-n", program / "quillet", "DEBUG=TRUE"],
-                                              cwd=screen.home, env=screen.environment)
+            self.start(screen, "unshare", "-n", program / "quillet", "DEBUG=TRUE")
             screen.window("Quillet US - Default Configuration")
             self.assertLess(time.monotonic() - begin, 3)
             wait_for("the end of the start", lambda: comments(program)[-1:] == ["End startup"])
             self.assertEqual(comments(program), OFFLINE_LOG)
+
+    def test_a_file_that_is_no_use_leaves_the_fees_of_before(self):
+        fees = (PROGRAMS / FEES).read_text(encoding="utf-8")
+        files = {
+            "a key twice": fees + "openingranges,7\n",
+            "an overlong line": fees + "x" * 32767 + "\n",
+            "a page": "<html><head><title>Sorry, not today</title></head></html>\n",
+            "cut off": fees[:len(fees) // 2],
+            "too large": fees + "\n" * 2**20,
+        }
+        with Screen("refused") as screen:
+            program = self.at_home(screen)
+            served = self.serve(screen)
+            for name, text in files.items():
+                with self.subTest(name):
+                    (served / "ftp" / FEES).write_text(text, encoding="utf-8")
+                    shutil.rmtree(screen.home / ".config", ignore_errors=True)
+                    (program / "QlDebug.log").unlink(missing_ok=True)
+                    self.start(screen, program / "quillet", "debug=true")
+                    screen.window("Quillet US - Default Configuration")
+                    screen.program.kill()
+                    screen.program.wait()
+                    self.assertIn("DL - Update file 10 - fail", comments(program))
+                    self.assertIn("FTPSkipFlag", screen.settings())
+                    self.assertEqual({p.name for p in program.iterdir()},
+                                     {"quillet", FEES, "QlDebug.log"})
+                    self.assertEqual((program / FEES).read_text(encoding="utf-8"), fees)
 
 
 if __name__ == "__main__":

@@ -15,7 +15,7 @@ namespace quillet {
 
 class WinInetInternet : public Internet {
  public:
-  explicit WinInetInternet(InternetLimits oLimits = {}) : m_oLimits(oLimits) {}
+  explicit WinInetInternet(InternetLimits oLimits) : m_oLimits(oLimits) {}
   WinInetInternet(const WinInetInternet&) = delete;
   WinInetInternet& operator=(const WinInetInternet&) = delete;
   ~WinInetInternet() override;

@@ -1,0 +1,25 @@
+#include "prices/replacement.h"
+
+#include "base/basCommon.h"
+#include "base/failure.h"
+#include "base/region.h"
+#include "prices/Catalogue.h"
+
+namespace quillet {
+
+void RequireReplacement(const clsPrices& oPrices, const std::string& sPresent) {
+  const Catalogue oCatalogue(RegionCode());
+  if (!oCatalogue.HoldsAnyOf(oPrices.Table())) {
+    throw Failure(FailureNumber::TypeMismatch, "It holds no fees for " + EditionName() + ".");
+  }
+  clsPrices oPresent;
+  IgnoreFailure([&] { oPresent.LoadFile(sPresent); });  // what can't be read has nothing to lose
+  for (const CatalogueKey& oKey : oCatalogue.Keys()) {
+    const std::string sCount = oKey.sName + std::string(kCountWord.Text());
+    if (oKey.IsTable() && oPresent.Table().Find(sCount) && !oPrices.Table().Find(sCount)) {
+      throw Failure(FailureNumber::TypeMismatch, "Its \"" + sCount + "\" is missing.");
+    }
+  }
+}
+
+}  // namespace quillet
