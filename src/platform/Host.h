@@ -1,6 +1,7 @@
 // What the program asks of the desktop, or terminal, that it runs on.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -26,6 +27,14 @@ struct FileDialog {
   std::string sPattern;   ///< such as "*.qlt"
   std::string sInitDir;   ///< native path; may not exist
   std::string sFileName;  ///< proposed name, without folder; may be empty
+};
+
+/// How the user writes numbers and amounts, beside the decimal separator.
+struct NumberStyle {
+  std::string sGroup{};        ///< what parts groups of digits; empty where nothing does
+  std::size_t nLastGroup = 3;  ///< how many digits the group before the decimals has
+  std::size_t nGroup = 3;      ///< and those before that one
+  std::string sCurrency{};     ///< the symbol of the user's currency; may be empty
 };
 
 /// One implementation lives as long as the process. All text is UTF-8.
@@ -64,6 +73,12 @@ class Host {
 
   /// The user's decimal separator: one character, "." or "," nearly everywhere.
   [[nodiscard]] virtual const std::string& DecimalSeparator() const = 0;
+
+  /// The rest of how the user writes numbers. Where nothing is typed there is no more to it.
+  [[nodiscard]] virtual const NumberStyle& Numbers() const {
+    static const NumberStyle kPlain;
+    return kPlain;
+  }
 };
 
 /// The host that SetHost has set last. There must be one before anything else is asked.

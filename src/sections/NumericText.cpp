@@ -6,6 +6,7 @@
 #include "base/text.h"
 #include "platform/Host.h"
 #include "prices/money.h"
+#include "sections/typedNumber.h"
 
 namespace quillet {
 namespace {
@@ -38,30 +39,26 @@ Single NumericText::ClampValue(Single fValue) const {
 }
 
 std::optional<Single> NumericText::ParseCurrentValue(std::u16string_view sText) const {
-  const std::u16string sSymbol = m_bShowMoney ? ToUtf16(CurrencySymbolText()) : u"";
-  if (sText.starts_with(sSymbol)) {
-    sText.remove_prefix(sSymbol.size());
-  }
-  const std::size_t nAt = Position(sText, m_sDecimalSeperator);
-  const std::size_t nLength = m_sDecimalSeperator.size();
-  if (nAt == 0) {
-    return ToSingle(FromUtf16(sText));
-  }
-  if (nAt < nLength || nAt - 1 + nLength > sText.size()) {
-    return std::nullopt;
-  }
-  // The number that is converted has the separator that the conversion expects.
-  return ToSingle(FromUtf16(sText.substr(0, nAt - nLength)) + TheHost().DecimalSeparator() +
-                  FromUtf16(sText.substr(nAt - 1 + nLength)));
+  return ToTypedSingle(sText, m_sDecimalSeperator, m_bShowMoney);
 }
 
 bool NumericText::IsTextValid(std::u16string_view sText) const {
   const std::optional<Single> fValue =
-      HasDecimals() ? ParseCurrentValue(sText) : ToSingle(FromUtf16(sText));
+      HasDecimals() ? ParseCurrentValue(sText)
+                    : ToTypedSingle(sText, ToUtf16(TheHost().DecimalSeparator()), false);
   if (!fValue) {
     return false;
   }
   return m_fMin == m_fMax || (*fValue >= m_fMin && *fValue <= m_fMax);
+}
+
+bool NumericText::CanBeShown(std::u16string_view sText) const {
+  if (!IsTextValid(sText)) {
+    return false;
+  }
+  constexpr double kBeyond = 2147483648.0;
+  const double fValue = *ParseCurrentValue(sText);
+  return HasDecimals() || (fValue >= -kBeyond && fValue < kBeyond);
 }
 
 bool NumericText::CaretRegion(const BoxText& oBox) const {

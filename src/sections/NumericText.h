@@ -31,11 +31,15 @@ struct NumericText {
   /// nothing.
   [[nodiscard]] Single ClampValue(Single fValue) const;
 
-  /// What the text is worth, or nothing if it is no number or too large for a Single.
+  /// What the text is worth (ToTypedSingle), or nothing if it is no number or too large for a
+  /// Single.
   [[nodiscard]] std::optional<Single> ParseCurrentValue(std::u16string_view sText) const;
 
   /// True for a number within the bounds. Without decimals a currency symbol makes it invalid.
   [[nodiscard]] bool IsTextValid(std::u16string_view sText) const;
+
+  /// True for a valid text whose number the box can show: without decimals it ends at 32 bits.
+  [[nodiscard]] bool CanBeShown(std::u16string_view sText) const;
 
   /// True if the caret stands behind the decimal separator.
   [[nodiscard]] bool CaretRegion(const BoxText& oBox) const;

@@ -163,9 +163,9 @@ void ctlNumericText::Show(const BoxText& oBox) {
 /// goes on to whoever has a use for it.
 bool ctlNumericText::txtValue_KeyDown(const QKeyEvent& oEvent) {
   if (oEvent.key() == Qt::Key_Return || oEvent.key() == Qt::Key_Enter) {
-    CommitTyping();
+    const bool bEntered = CommitTyping();
     m_pText->selectAll();
-    return false;
+    return !bEntered;
   }
   if (oEvent.key() != Qt::Key_Up && oEvent.key() != Qt::Key_Down) {
     return false;
@@ -195,31 +195,39 @@ void ctlNumericText::StepAndTell(int nDelta, bool bInDecimals) {
 
 void ctlNumericText::txtValue_Change() {
   const std::u16string sText = m_pText->text().toStdU16String();
-  const bool bValid = m_oNumber.IsTextValid(sText);
-  if (bValid) {
+  if (m_oNumber.IsTextValid(sText)) {
     m_sLastValidText = sText;
   }
-  if (bValid != m_bValid) {
-    m_bValid = bValid;
+  SetRefused(!m_oNumber.CanBeShown(sText));
+}
+
+void ctlNumericText::SetRefused(bool bRefused) {
+  if (bRefused != m_bRefused) {
+    m_bRefused = bRefused;
     update();
   }
 }
 
 /// The text takes the focus for the whole control, so both are left at once: first the good text
-/// comes back, so that whoever listens reads no number that isn't there to stay.
+/// comes back, so that whoever listens reads no number that isn't there to stay. That it isn't what
+/// was typed is to be seen until the box gets another text.
 void ctlNumericText::UserControl_LostFocus() {
   const std::u16string sText = m_pText->text().toStdU16String();
-  if (!m_oNumber.IsTextValid(sText)) {
+  const bool bValid = m_oNumber.IsTextValid(sText);
+  if (!bValid) {
     Show({m_sLastValidText, m_sLastValidText.size()});
   }
   IgnoreFailure([&] { emit Changed(); });
+  SetRefused(!bValid || !m_oNumber.CanBeShown(Box().sText));
 }
 
-void ctlNumericText::CommitTyping() {
-  if (m_pText->isModified()) {
-    UserControl_LostFocus();
-    m_pText->setModified(false);
+bool ctlNumericText::CommitTyping() {
+  if (!m_pText->isModified()) {
+    return true;
   }
+  UserControl_LostFocus();
+  m_pText->setModified(false);
+  return !m_bRefused;
 }
 
 void ctlNumericText::LeaveFor(QWidget& oView) {
@@ -270,8 +278,8 @@ void ctlNumericText::wheelEvent(QWheelEvent* pEvent) {
 void ctlNumericText::paintEvent(QPaintEvent* /*pEvent*/) {
   constexpr double kRadius = 3.0;
   const bool bFocus = m_pText->hasFocus();
-  const Ink eEdge = !bFocus ? Ink::FieldEdge : m_bValid ? Ink::Accent : Ink::Error;
-  const double fLine = bFocus ? 2.0 : 1.0;
+  const Ink eEdge = m_bRefused ? Ink::Error : bFocus ? Ink::Accent : Ink::FieldEdge;
+  const double fLine = bFocus || m_bRefused ? 2.0 : 1.0;
   QPainter oPainter(this);
   oPainter.setRenderHint(QPainter::Antialiasing);
   oPainter.setPen(QPen(InkColour(eEdge), fLine));

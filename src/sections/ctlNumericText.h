@@ -1,7 +1,8 @@
 // The input for amounts, quantities and weights: a text box that shows a number in a fixed format,
 // and a spin button. The arrow keys and the spin button step the number: left of the decimal
 // separator by whole units, right of it by the last decimal place. Anything may be typed; when the
-// focus leaves with a bad text, the last good one comes back.
+// focus leaves with a bad text, the last good one comes back, and the edge stays red until the box
+// gets another text or is left anew.
 #pragma once
 
 #include <QLineEdit>
@@ -65,8 +66,11 @@ class ctlNumericText : public QWidget, public Control {
   void Refresh() { update(); }
 
   /// Enters what was typed, as leaving the box does. One that nobody has typed into has nothing to
-  /// enter.
-  void CommitTyping();
+  /// enter. False, and a red edge, if it was refused.
+  bool CommitTyping();
+
+  /// Takes the red edge back, for another auction's amount.
+  void ForgetRefusal() { SetRefused(false); }
 
   /// Moves the focus to a view for the program's own sake. A box that is left by it enters what was
   /// typed, and is silent where nothing was.
@@ -92,6 +96,7 @@ class ctlNumericText : public QWidget, public Control {
   void UpDown1_Change();
 
   void SetDisplayValue(Single fValue);
+  void SetRefused(bool bRefused);
   void StepAndTell(int nDelta, bool bInDecimals);
   [[nodiscard]] BoxText Box() const;
   void Show(const BoxText& oBox);
@@ -99,8 +104,8 @@ class ctlNumericText : public QWidget, public Control {
   NumericText m_oNumber;
   std::u16string m_sLastValidText;
   int m_nLastSpinValue = 0;
-  int m_nWheel = 0;  ///< how far the wheel has turned since the last step
-  bool m_bValid = true;
+  int m_nWheel = 0;         ///< how far the wheel has turned since the last step
+  bool m_bRefused = false;  ///< what the user typed is no number for this box
   std::uint32_t m_nBackColor = kColourWindow;
   QLineEdit* m_pText;
   SpinButton* m_pSpin;

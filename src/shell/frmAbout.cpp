@@ -264,12 +264,11 @@ void frmAbout::FillStartMode(const std::string& sStored) {
   m_pCboStartMode->setCurrentIndex(sStored == "1" ? 1 : 0);  // what is neither counts as the first
 }
 
-/// A text that was typed and not yet left is entered first, or put right.
+/// A text that was typed and not yet left is entered first, or put right, and stored as the plain
+/// number that it is worth.
 void frmAbout::imgApply_Click() {
-  if (QLineEdit* const pText = m_pTxtSnapToGrid->TextBox(); pText->hasFocus()) {
-    pText->clearFocus();
-    pText->setFocus();
-  }
+  m_pTxtSnapToGrid->CommitTyping();
+  m_pTxtSnapToGrid->SetValue({});
   Registry().Set(settings::kStartMode, m_pCboStartMode->currentData().toString().toStdString());
   Registry().Set(settings::kSnapToGrid, m_pTxtSnapToGrid->Text());
   g_lSnapToGrid = ToLong(m_pTxtSnapToGrid->Text()).value_or(g_lSnapToGrid);

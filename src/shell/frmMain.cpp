@@ -312,8 +312,7 @@ void frmMain::SetWindowTitle(const std::string& sName, bool bDirty) {
   }
   const std::string sCaption = sTitle.empty() ? m_sCaption : m_sCaption + " - " + sTitle;
   // "[*]" would stand for a mark of the toolkit's own; written twice it stands for itself.
-  setWindowTitle(
-      QString::fromStdString(sCaption + (bDirty ? "*" : "")).replace("[*]", "[*][*]"));
+  setWindowTitle(QString::fromStdString(sCaption + (bDirty ? "*" : "")).replace("[*]", "[*][*]"));
 }
 
 void frmMain::SetZoomPercent(int nPercent) {
@@ -373,6 +372,9 @@ void frmMain::CommitTyping() {
 void frmMain::LeaveBox() {
   if (qobject_cast<QLineEdit*>(QApplication::focusWidget()) != nullptr) {
     ctlNumericText::LeaveFor(m_pWizard->Visible() ? m_pWizard->Widget() : m_pCalculator->Widget());
+  }
+  for (ctlNumericText* const pBox : m_pRhs->findChildren<ctlNumericText*>()) {
+    pBox->ForgetRefusal();
   }
 }
 

@@ -35,15 +35,81 @@ class NumericTextTest : public ::testing::Test {
   ScopedHost m_oHost;
 };
 
-TEST_F(NumericTextTest, ParsesANumberBehindTheSymbolAndNothingElse) {
-  using Row = std::pair<const char*, double>;
-  for (const auto& [sText, fExpected] : {Row{"£12.50", 12.5}, Row{"12.50", 12.5}, Row{"£ 7", 7},
-                                         Row{"£-5", -5}, Row{"£.5", 0.5}, Row{"£5.", 5}}) {
-    EXPECT_EQ(Money().ParseCurrentValue(ToUtf16(sText)), std::optional<Single>(fExpected)) << sText;
-  }
-  for (const char* const sText : {"-£5", "££5", "$5", "", "£", ".", "1.2.3", "12,50", "abc",
-                                  "12\n13", "1E39"}) {  // the last is beyond a Single
-    EXPECT_EQ(Money().ParseCurrentValue(ToUtf16(sText)), std::nullopt) << sText;
+TEST_F(NumericTextTest, ATextIsReadAsTheUsersLocaleWritesIt) {
+  const struct {
+    const char* sDecimal;
+    NumberStyle oStyle;
+    std::vector<std::pair<const char*, std::optional<double>>> aoTexts;
+  } kLocales[] = {
+      {".",
+       {.sGroup = ",", .sCurrency = "$"},
+       {{"£12.50", 12.5},
+        {"12.50", 12.5},
+        {"£ 7", 7},
+        {"£.5", 0.5},
+        {"£5.", 5},
+        {"1,234.50", 1234.5},
+        {"$1,234.50", 1234.5},
+        {"12,345,678", 12345678},
+        {"-£5", -5},
+        {"£-5", -5},
+        {"5-", -5},
+        {"\u22125 £", -5},
+        {"\u00A0£\u00A05\t", 5},
+        {"+5", 5},
+        {"1E3", 1000},
+        {"", {}},
+        {"£", {}},
+        {".", {}},
+        {"££5", {}},
+        {"£$5", {}},
+        {"€5", {}},
+        {"--5", {}},
+        {"-5-", {}},
+        {"+-5", {}},
+        {"1.2.3", {}},
+        {"abc", {}},
+        {"1E39", {}},
+        {"12\n13", {}},
+        {"1,2", {}},
+        {"12,50", {}},
+        {"1234,567", {}},
+        {"1,2345", {}},
+        {",123", {}},
+        {"0,500", {}},
+        {"1,,234", {}},
+        {"1,234,", {}},
+        {"1.234,50", {}},
+        {"1.5,000", {}},
+        {"1 234.50", {}}}},
+      {",",
+       {.sGroup = ".", .sCurrency = "€"},
+       {{"1.234,50 €", 1234.5},
+        {"£12,50", 12.5},
+        {"-1.234.567", -1234567},
+        {"12.50", {}},
+        {"1,234.50", {}},
+        {"1,2,3", {}}}},
+      {",",
+       {.sGroup = "\u202F"},
+       {{"12\u202F345,50", 12345.5},
+        {"12\u00A0345,50", 12345.5},
+        {"12 345,50", 12345.5},
+        {"12\t345", {}},
+        {"12 34", {}},
+        {"12.345,50", {}}}},
+      {".", {.sGroup = "\u2019"}, {{"1\u2019234.5", 1234.5}, {"1'234.5", 1234.5}}},
+      {".", {.sGroup = ",", .nGroup = 2}, {{"12,34,567.5", 1234567.5}, {"1,234,567", {}}}},
+      {".", {}, {{"1234.5", 1234.5}, {"1,234", {}}}},
+  };
+  for (const auto& [sDecimal, oStyle, aoTexts] : kLocales) {
+    m_oHost.sDecimalSeparator = sDecimal;
+    m_oHost.oNumbers = oStyle;
+    for (const auto& [sText, fExpected] : aoTexts) {
+      const std::optional<Single> fRead = Money().ParseCurrentValue(ToUtf16(sText));
+      EXPECT_EQ(fRead.has_value(), fExpected.has_value()) << sText << " with " << sDecimal;
+      EXPECT_EQ(fRead.value_or(0), Single(fExpected.value_or(0))) << sText << " with " << sDecimal;
+    }
   }
 }
 
@@ -54,12 +120,7 @@ TEST_F(NumericTextTest, AStepGoesByTheCaretAndStaysOnItsSideOfTheSeparator) {
   EXPECT_EQ(Stepped(Money(), 10, "£99.95|"), "£100.|05");
   EXPECT_EQ(Stepped(Money(0, 10), 1, "£10|.00"), "£10|.00");
   EXPECT_EQ(Stepped(Money(), 1, "|"), "|");
-}
-
-TEST_F(NumericTextTest, AUserWithACommaReadsAndStepsByIt) {
   m_oHost.sDecimalSeparator = ",";
-  EXPECT_EQ(Money().ParseCurrentValue(u"£12,50"), std::optional<Single>(12.5));
-  EXPECT_EQ(Money().ParseCurrentValue(u"12.50"), std::nullopt);
   EXPECT_EQ(Stepped(Money(), 1, "£1,|00"), "£1,|01");
 }
 
@@ -72,6 +133,9 @@ TEST_F(NumericTextTest, WhatIsShownLiesWithinTheBoundsIfTheyAreTheRightWayRound)
 
 TEST_F(NumericTextTest, WholeNumbersEndAt32BitsAndDecimalStepsAtFourPlaces) {
   NumericText oNumber;
+  EXPECT_TRUE(oNumber.IsTextValid(u"1,234"));
+  EXPECT_FALSE(oNumber.IsTextValid(u"£5")) << "the symbol is for amounts";
+  EXPECT_FALSE(oNumber.CanBeShown(u"2147483648"));
   EXPECT_EQ(Shown(oNumber, 2.5), "2");           // a half to the even neighbour
   EXPECT_EQ(Stepped(oNumber, 1, "2.|5"), "4|");  // the last place is the whole unit
   EXPECT_THROW(Shown(oNumber, 2147483648.0), Failure);

@@ -130,7 +130,9 @@ TEST_F(ctlNumericTextTest, TypingIsSilentAndLeavingTellsOfTheLastGoodText) {
 TEST_F(ctlNumericTextTest, EnterEntersWhatWasTypedAndSelectsIt) {
   TypeInstead("12.5x");
   for (const auto eKey : {Qt::Key_Return, Qt::Key_Enter}) {
-    Press(eKey);
+    QKeyEvent oPress(QEvent::KeyPress, eKey, Qt::NoModifier);
+    QApplication::sendEvent(m_pText, &oPress);
+    EXPECT_EQ(oPress.isAccepted(), eKey == Qt::Key_Return) << "what is refused goes no further";
     EXPECT_EQ(m_pText->selectedText(), "12.5");
     EXPECT_EQ(m_oChanged.count(), 1) << "there is nothing more to enter";
   }
@@ -218,6 +220,10 @@ TEST_F(ctlNumericTextTest, TheEdgeShowsTheFocusAndABadTextAndTheInkWhetherItIsIn
   EXPECT_EQ(fnEdge(), InkColour(Ink::Accent));
   TypeInstead("x");
   EXPECT_EQ(fnEdge(), InkColour(Ink::Error));
+  Press(Qt::Key_Tab);
+  EXPECT_EQ(fnEdge(), InkColour(Ink::Error)) << "what was typed isn't what stands there";
+  m_pBox->SetText("8");
+  EXPECT_EQ(fnEdge(), InkColour(Ink::FieldEdge));
   m_pBox->SetForeColor(kColourGreyText);
   EXPECT_EQ(m_pText->palette().color(QPalette::Text), InkColour(Ink::GreyText));
   m_pBox->SetForeColor(kColourWindowText);

@@ -103,12 +103,16 @@ TEST_F(About, ApplyStoresAndCancelTakesBack) {
 }
 
 TEST_F(About, EnterAppliesWhatWasTypedAndTheBoxKeepsItWithinItsBounds) {
-  for (const auto& [sTyped, sStored] :
-       {std::pair("0", "0 120"), {"1000", "0 1000"}, {"1001", "0 100"}, {"x", "0 120"}}) {
+  for (const auto& [sTyped, sStored] : {std::pair("0", "0 120"),
+                                        {"1000", "0 1000"},
+                                        {"1,000", "0 1000"},
+                                        {"1001", "0 100"},
+                                        {"x", "0 120"}}) {
     Registry().Set(settings::kSnapToGrid, "120");
     OpenSettings();
     Type(sTyped);
     QTest::keyClick(&SnapBox(), Qt::Key_Return);
+    QTest::keyClick(&SnapBox(), Qt::Key_Return);  // once more where the text was put right
     EXPECT_EQ(Stored(), sStored) << sTyped;
     EXPECT_FALSE(MayApply()) << sTyped;
     EXPECT_TRUE(m_oWindow->isVisible());

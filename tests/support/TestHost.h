@@ -53,6 +53,7 @@ class TestHost : public Host {
   std::string DocumentsFolder() const override { return sDocumentsFolder; }
   void OpenLink(const std::string& sTarget) override { asLinks.push_back(sTarget); }
   const std::string& DecimalSeparator() const override { return sDecimalSeparator; }
+  const NumberStyle& Numbers() const override { return oNumbers; }
 
   std::deque<Answer> aeAnswers;                      ///< to the message boxes to come
   std::deque<std::optional<std::string>> asChoices;  ///< of the file dialogs to come
@@ -66,6 +67,7 @@ class TestHost : public Host {
   std::string sProgramFolder = ".";
   std::string sDocumentsFolder = ".";
   std::string sDecimalSeparator = ".";
+  NumberStyle oNumbers{.sGroup = ","};
 };
 
 /// A TestHost that is the host for as long as it lives.

@@ -95,9 +95,24 @@ std::string NativeText(const QString& sPath) {
   return QDir::toNativeSeparators(sPath).toStdString();
 }
 
+/// The sizes of the groups are read off a number that has three of them in every locale.
+NumberStyle StyleOf(const QLocale& oLocale) {
+  NumberStyle oStyle;
+  oStyle.sGroup = oLocale.groupSeparator().toStdString();
+  oStyle.sCurrency = oLocale.currencySymbol().toStdString();
+  const QStringList asGroups = oLocale.toString(1'000'000'000).split(oLocale.groupSeparator());
+  if (asGroups.size() > 2) {
+    oStyle.nLastGroup = static_cast<std::size_t>(asGroups.last().size());
+    oStyle.nGroup = static_cast<std::size_t>(asGroups.at(asGroups.size() - 2).size());
+  }
+  return oStyle;
+}
+
 }  // namespace
 
-QtHost::QtHost() : m_sDecimalSeparator(QString(QLocale::system().decimalPoint()).toStdString()) {
+QtHost::QtHost()
+    : m_sDecimalSeparator(QLocale::system().decimalPoint().toStdString()),
+      m_oNumbers(StyleOf(QLocale::system())) {
   m_oClock.start();
 }
 

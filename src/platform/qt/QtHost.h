@@ -28,10 +28,12 @@ class QtHost : public Host {
   [[nodiscard]] std::string DocumentsFolder() const override;
   void OpenLink(const std::string& sTarget) override;
   [[nodiscard]] const std::string& DecimalSeparator() const override { return m_sDecimalSeparator; }
+  [[nodiscard]] const NumberStyle& Numbers() const override { return m_oNumbers; }
 
  private:
   QElapsedTimer m_oClock;
   std::string m_sDecimalSeparator;
+  NumberStyle m_oNumbers;
 };
 
 }  // namespace quillet
