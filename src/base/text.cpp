@@ -146,8 +146,12 @@ bool IsValidUtf8(std::string_view sBytes) {
 }
 
 std::string DecodeText(std::string sBytes) {
-  if (IsAscii(sBytes) || IsValidUtf8(sBytes)) {
+  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+  if (IsAscii(sBytes)) {
     return sBytes;
+  }
+  if (IsValidUtf8(sBytes)) {
+    return sBytes.starts_with(kByteOrderMark) ? sBytes.substr(kByteOrderMark.size()) : sBytes;
   }
   std::string sOut;
   sOut.reserve(sBytes.size() * 2);
@@ -156,6 +160,23 @@ std::string DecodeText(std::string sBytes) {
     AppendUtf8(cByte >= 0x80 && cByte < 0xA0 ? kWindows1252.at(cByte - 0x80U) : cByte, sOut);
   }
   return sOut;
+}
+
+std::string ShowControls(std::string_view sText) {
+  constexpr std::string_view kDigits = "0123456789abcdef";
+  std::string sShown;
+  for (std::size_t i = 0; i < sText.size(); ++i) {
+    // The second set of them, up to U+009F, stands behind this byte.
+    const bool bSecond = sText[i] == '\xC2' && i + 1 < sText.size();
+    const auto cByte = static_cast<unsigned char>(sText[bSecond ? i + 1 : i]);
+    if (bSecond ? cByte < 0xA0 : cByte < ' ' || cByte == 0x7F) {
+      sShown.append("\\x").append(1, kDigits[cByte >> 4U]).append(1, kDigits[cByte & 0xFU]);
+      i += bSecond ? 1 : 0;
+    } else {
+      sShown += sText[i];
+    }
+  }
+  return sShown;
 }
 
 std::string UpperCase(std::string sText) {

@@ -21,7 +21,7 @@ inline constexpr std::size_t kLongestText = 32766;
 
 [[nodiscard]] bool IsValidUtf8(std::string_view sBytes);
 
-/// The text of a file: UTF-8 as it stands, anything else read as Windows-1252.
+/// The text of a file: UTF-8 without a byte-order mark, anything else read as Windows-1252.
 [[nodiscard]] std::string DecodeText(std::string sBytes);
 
 /// A to Z in place of a to z; other characters stay.
@@ -33,6 +33,9 @@ inline constexpr std::size_t kLongestText = 32766;
 }
 
 [[nodiscard]] bool EqualIgnoringCase(std::string_view sLeft, std::string_view sRight);
+
+/// The text with its control characters shown as "\x1b" and the like.
+[[nodiscard]] std::string ShowControls(std::string_view sText);
 
 /// Without the blanks (spaces and tabs) at both ends.
 [[nodiscard]] std::string_view Trim(std::string_view sText);

@@ -14,7 +14,10 @@ struct Row {
   unsigned nRegions;
   KeyKind eKind;
   std::string_view sPattern;  ///< "{a,b}" stands for a or b, and the name of a set for the set
+  std::int32_t nPercentTier = 0;
 };
+
+constexpr std::int32_t kEveryTier = CatalogueKey::kEveryTier;
 
 struct Set {
   std::string_view sName;
@@ -31,7 +34,7 @@ constexpr std::array<Set, 4> kSets = {{
      "FeaturedInSearch,10DayDuration,GiftServices,PreviewPicture,Border,ListingItem,CarAd"},
 }};
 
-constexpr std::array<Row, 37> kRows = {{
+constexpr std::array<Row, 38> kRows = {{
     {kBoth, KeyKind::Text, "Currency{Symbol,Format}"},
     {kBoth, KeyKind::Number, "LocalTax"},
     {kBoth, KeyKind::LotTiers, "Opening"},
@@ -40,15 +43,15 @@ constexpr std::array<Row, 37> kRows = {{
     {kUs, KeyKind::Number, "{AuctionType,TransactionFee}Motor{vehicle}"},
     {kUs, KeyKind::Number, "AuctionTypeRealEstate{Timeshare,Other}{Auction10,Auction30,Ad30,Ad90}"},
     {kUs, KeyKind::Number, "AuctionTypeBusiness"},
-    {kBoth, KeyKind::PriceTiers, "Reserve"},
-    {kUs, KeyKind::PriceTiers, "ReserveRealEstate"},
+    {kUk, KeyKind::PriceTiers, "Reserve", 2},
+    {kUs, KeyKind::PriceTiers, "Reserve{,RealEstate}", 3},
     {kUs, KeyKind::Number, "Reserve{,RealEstate}Max"},
     {kUk, KeyKind::Number, "Reserve{Motor,RealEstate}"},
     {kUs, KeyKind::Number,
      "ReserveMotor{Passenger,Motorbike,Powersports,PocketBikes,Other}"},  // Motorbike: only here
     {kUs, KeyKind::Number, "ReserveBusiness"},
-    {kBoth, KeyKind::ProgressiveTiers, "{,Shop}Final"},
-    {kUk, KeyKind::PriceTiers, "FinalMotor"},
+    {kBoth, KeyKind::ProgressiveTiers, "{,Shop}Final", kEveryTier},
+    {kUk, KeyKind::PriceTiers, "FinalMotor", 2},
     {kUk, KeyKind::Number, "FinalRealEstate"},
     {kUs, KeyKind::Number, "FinalRealEstate{Timeshare,Other}"},
     {kUs, KeyKind::Number, "FinalBusiness{,Max}"},
@@ -62,10 +65,11 @@ constexpr std::array<Row, 37> kRows = {{
     {kBoth, KeyKind::Number, "PersonalRatePounds{%,Fixed}"},
     {kBoth, KeyKind::Text, "BusinessRateBand{1,2,3,4,5}Name"},
     {kBoth, KeyKind::Number, "BusinessRateBand{1,2,3,4,5}Value"},
-    {kBoth, KeyKind::BandTiers, "BusinessRatePounds{%,Fixed}"},
+    {kBoth, KeyKind::BandTiers, "BusinessRatePounds%", kEveryTier},
+    {kBoth, KeyKind::BandTiers, "BusinessRatePoundsFixed"},
     {kBoth, KeyKind::Text, "UsePostTitle"},
     {kBoth, KeyKind::WeightTiers, "{FirstClass,SecondClass,Parcel}"},
-    {kUk, KeyKind::Number, "FirstClassOverWeightStep{,Value}"},
+    {kBoth, KeyKind::OverWeightNumber, "FirstClassOverWeightStep{,Value}"},
     {kBoth, KeyKind::Text, "InsuranceBandName{1,2,3,4}"},
     {kBoth, KeyKind::Number, "InsuranceBandValue{1,2,3,4}"},
     {kBoth, KeyKind::Number, "RecordedSignedFor"},
@@ -117,7 +121,7 @@ Catalogue::Catalogue(std::int32_t nRegion) {
       continue;
     }
     Expand("", oRow.sPattern, [&](const std::string& sName) {
-      m_aoKeys.push_back({sName, oRow.eKind});
+      m_aoKeys.push_back({sName, oRow.eKind, oRow.nPercentTier});
       (m_aoKeys.back().IsTable() ? m_asTables : m_asPlain).insert(UpperCase(sName));
     });
   }

@@ -14,6 +14,7 @@ namespace quillet {
 enum class KeyKind {
   Text,
   Number,
+  OverWeightNumber,  ///< one that is asked for only where first class has tiers
   // Tier tables, by what is looked up in them.
   PriceTiers,        ///< an amount of money
   LotTiers,          ///< an amount of money times a quantity
@@ -26,8 +27,14 @@ enum class KeyKind {
 struct CatalogueKey {
   std::string sName;  ///< a tier table's without "Ranges" and the like
   KeyKind eKind = KeyKind::Text;
+  std::int32_t nPercentTier = 0;  ///< the tier whose value is a percentage, or kEveryTier
 
-  [[nodiscard]] bool IsTable() const { return eKind != KeyKind::Text && eKind != KeyKind::Number; }
+  static constexpr std::int32_t kEveryTier = -1;
+
+  [[nodiscard]] bool IsTable() const { return eKind >= KeyKind::PriceTiers; }
+  [[nodiscard]] bool IsPercentage(std::int32_t nTier) const {
+    return nPercentTier == nTier || nPercentTier == kEveryTier;
+  }
 };
 
 class Catalogue {

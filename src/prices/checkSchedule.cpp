@@ -1,6 +1,7 @@
 #include "prices/checkSchedule.h"
 
 #include "base/basCommon.h"
+#include "base/conversions.h"
 #include "base/region.h"
 #include "base/text.h"
 #include "prices/Schedule.h"
@@ -9,12 +10,32 @@
 namespace quillet {
 namespace {
 
-void CheckPlainKey(Schedule& oSchedule, const CatalogueKey& oKey) {
-  if (oSchedule.Ask(oKey.sName) == nullptr) {
+/// True unless the schedule says that there are none.
+bool HasFirstClassTiers(Schedule& oSchedule) {
+  const ScheduleEntry* const pCount = oSchedule.Ask("FirstClassRanges");
+  return pCount == nullptr || ToInteger(pCount->sValue).value_or(1) > 0;
+}
+
+void CheckKey(Schedule& oSchedule, const CatalogueKey& oKey) {
+  if (oKey.IsTable()) {
+    CheckTiers(oSchedule, oKey);
+  } else if (oKey.eKind == KeyKind::OverWeightNumber && !HasFirstClassTiers(oSchedule)) {
+    return;
+  } else if (oSchedule.Ask(oKey.sName) == nullptr) {
     oSchedule.Report(oSchedule.LastLine(), Quoted(oKey.sName) + " is missing");
-  } else if (oKey.eKind == KeyKind::Number) {
+  } else if (oKey.eKind != KeyKind::Text) {
     (void)AskNumber(oSchedule, oKey.sName);
   }
+}
+
+/// True if most keys that only one of the two editions asks for are the other one's.
+bool IsOfTheOtherEdition(Schedule& oSchedule, const Catalogue& oCatalogue) {
+  const Catalogue oOther(RegionCode() == 1 ? 0 : 1);
+  int nLead = 0;
+  for (const ScheduleEntry& oEntry : oSchedule.Entries()) {
+    nLead += (oOther.Holds(oEntry.sKey) ? 1 : 0) - (oCatalogue.Holds(oEntry.sKey) ? 1 : 0);
+  }
+  return nLead > 0;
 }
 
 void ReportUnasked(Schedule& oSchedule, const Catalogue& oCatalogue) {
@@ -34,14 +55,15 @@ std::vector<Finding> CheckSchedule(std::string_view sText) {
   const Catalogue oCatalogue(RegionCode());
   Schedule oSchedule(sText, oCatalogue);
   for (const CatalogueKey& oKey : oCatalogue.Keys()) {
-    if (oKey.IsTable()) {
-      CheckTiers(oSchedule, oKey);
-    } else {
-      CheckPlainKey(oSchedule, oKey);
-    }
+    CheckKey(oSchedule, oKey);
   }
   ReportUnasked(oSchedule, oCatalogue);
-  return oSchedule.Findings();
+  std::vector<Finding> aoFindings = oSchedule.Findings();
+  if (IsOfTheOtherEdition(oSchedule, oCatalogue)) {
+    aoFindings.insert(aoFindings.begin(),
+                      {1, "this is the schedule of the other edition, not of " + EditionName()});
+  }
+  return aoFindings;
 }
 
 }  // namespace quillet

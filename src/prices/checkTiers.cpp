@@ -107,13 +107,21 @@ class TierCheck {
     fnReportMissing(oTier.pStart != nullptr, sStart);
     fnReportMissing(oTier.pEnd != nullptr, sEnd);
     fnReportMissing(bValue, sValue);
-    (void)AskNumber(m_oSchedule, sValue);
+    CheckValue(nTier, sValue);
     const auto fStart = AskNumber(m_oSchedule, sStart);
     const auto fEnd = AskNumber(m_oSchedule, sEnd);
     if (fStart && fEnd) {
       oTier.fStart = *fStart;
       oTier.fEnd = *fEnd;
       CheckTier(oTier);
+    }
+  }
+
+  void CheckValue(std::int32_t nTier, const std::string& sKey) {
+    const auto fValue = AskNumber(m_oSchedule, sKey);
+    if (fValue && *fValue < 0 && m_oTable.IsPercentage(nTier)) {
+      const ScheduleEntry& oEntry = *m_oSchedule.Ask(sKey);
+      m_oSchedule.Report(oEntry.nLine, Quoted(sKey) + " is a percentage below 0: " + oEntry.sValue);
     }
   }
 

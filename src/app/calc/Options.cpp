@@ -21,8 +21,8 @@ std::string Footer() {
   return "An auction file holds one auction. Standard input (-, or a pipe) holds one a line.\n"
          "The table is for one auction, CSV for more; json prints one object a line.\n\n"
          "Exit status: 0 when every auction was calculated, 1 when some failed or could not be\n"
-         "read, 2 for wrong usage or an unusable fee schedule. With --check: 1 when something\n"
-         "is wrong with the file.";
+         "read as a whole, 2 for wrong usage or an unusable fee schedule. With --check: 1 when\n"
+         "something is wrong with the file.";
 }
 
 void Describe(CLI::App& oApp, Options& oOptions, std::string& sFormat) {

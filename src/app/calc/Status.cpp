@@ -3,11 +3,12 @@
 #include <iostream>
 
 #include "base/region.h"
+#include "base/text.h"
 
 namespace quillet {
 
 void Complain(std::string_view sText) {
-  std::cerr << ProgramName() << ": " << sText << '\n';
+  std::cerr << ProgramName() << ": " << ShowControls(sText) << '\n';
 }
 
 std::string_view ProgramName() {

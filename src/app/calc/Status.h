@@ -7,11 +7,11 @@ namespace quillet {
 
 enum Status : int {
   kEveryAuctionCalculated = 0,  ///< or nothing found by the check
-  kSomeFailed = 1,              ///< or something found by the check
+  kSomeFailed = 1,              ///< or weren't read whole, or something found by the check
   kUnusable = 2,                ///< wrong usage, or a fee schedule that can't be used
 };
 
-/// Writes a line to standard error, with the program's name in front.
+/// Writes a line to standard error, with the program's name in front and no control characters.
 void Complain(std::string_view sText);
 
 /// "quillet-calc", or the name of the other region's program.

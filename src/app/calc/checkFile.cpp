@@ -3,12 +3,23 @@
 #include <system_error>
 
 #include "app/calc/Output.h"
+#include "base/basCommon.h"
+#include "base/failure.h"
+#include "base/region.h"
 #include "base/text.h"
 #include "platform/Files.h"
+#include "prices/Catalogue.h"
 #include "prices/checkSchedule.h"
-#include "prices/clsPrices.h"
 
 namespace quillet {
+
+bool HoldsAPrice(const clsPrices& oPrices, const std::string& sPath) {
+  const bool bHolds = Catalogue(RegionCode()).HoldsAnyOf(oPrices.Table());
+  if (!bHolds) {
+    Complain(sPath + ": There is no price of " + EditionName() + " in it.");
+  }
+  return bHolds;
+}
 
 Status CheckScheduleFile(const std::string& sPath) {
   std::string sBytes;
@@ -16,10 +27,17 @@ Status CheckScheduleFile(const std::string& sPath) {
     Complain(sPath + ": " + oError.message());
     return kUnusable;
   }
+  const std::string sText = DecodeText(std::move(sBytes));
+  clsPrices oPrices;
+  IgnoreFailure([&] { oPrices.LoadText(sText); });  // the findings tell why it ends early
+  if (!HoldsAPrice(oPrices, sPath)) {
+    return kUnusable;
+  }
   Output oOutput;
-  const std::vector<Finding> aoFindings = CheckSchedule(DecodeText(std::move(sBytes)));
+  const std::vector<Finding> aoFindings = CheckSchedule(sText);
   for (const Finding& oFinding : aoFindings) {
-    oOutput.Text() += sPath + ":" + std::to_string(oFinding.nLine) + ": " + oFinding.sText + "\n";
+    const std::string sLine = std::to_string(oFinding.nLine);
+    oOutput.Text() += ShowControls(sPath + ":" + sLine + ": " + oFinding.sText) + "\n";
     oOutput.FlushIfLarge();
   }
   oOutput.Flush();

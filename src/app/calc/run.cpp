@@ -8,6 +8,7 @@
 #include "app/calc/Progress.h"
 #include "app/calc/Report.h"
 #include "app/calc/calculate.h"
+#include "app/calc/checkFile.h"
 #include "base/basCommon.h"
 #include "base/failure.h"
 #include "platform/Descriptors.h"
@@ -47,7 +48,7 @@ class Printer {
   }
 
   void Add(const Result& oResult) {
-    m_eStatus = oResult.sError ? kSomeFailed : m_eStatus;
+    m_eStatus = oResult.sError || oResult.sMessage ? kSomeFailed : m_eStatus;
     if (m_oReport == nullptr && !m_oHeld) {
       m_oHeld = oResult;
       return;
@@ -133,8 +134,7 @@ Status LoadSchedule(const Options& oOptions) {
     Complain(oFailure.what());
     return kUnusable;
   }
-  if (oPrices->Table().Size() == 0) {
-    Complain(sPath + ": There is no price in it.");
+  if (!HoldsAPrice(*oPrices, sPath)) {
     return kUnusable;
   }
   UsePrices(std::move(oPrices));

@@ -41,7 +41,7 @@ class TableReport : public Report {
       sOut += '\n';
     }
     m_bFirst = false;
-    sOut.append(Coloured(oResult.Name(), kBold)).append("\n");
+    sOut.append(Coloured(ShowControls(oResult.Name()), kBold)).append("\n");
     AddRows(*oResult.oFigures, sOut);
   }
 
