@@ -6,6 +6,7 @@
 #include <QPainterPath>
 #include <QSignalBlocker>
 #include <algorithm>
+#include <cmath>
 
 #include "platform/qt/Theme.h"
 #include "sections/OptionInterface.h"
@@ -19,7 +20,7 @@ QColor MarkColour(const Control& oControl, Ink eInk) {
 
 QRectF MarkRect(const QWidget& oWidget) {
   const double fSize = MarkPlacesAtZoom().fSize;
-  return {0.5, (oWidget.height() - fSize) / 2.0, fSize, fSize};
+  return {0.5, std::floor((oWidget.height() - fSize) / 2.0) + 0.5, fSize, fSize};
 }
 
 /// The caption, and the line around it that shows where the keyboard is.
@@ -108,18 +109,19 @@ QSize CheckBox::sizeHint() const {
 }
 
 void CheckBox::paintEvent(QPaintEvent* /*pEvent*/) {
-  constexpr double kRadius = 3.0;
+  constexpr double kRadius = 0.22;  // of the mark's size, or a small one would look like an option
   QPainter oPainter(this);
   oPainter.setRenderHint(QPainter::Antialiasing);
   const QRectF oMark = MarkRect(*this);
-  oPainter.setPen(isChecked() ? QPen(Qt::NoPen) : QPen(MarkColour(*this, Ink::FaintText), 1.0));
+  const double fRadius = oMark.width() * kRadius;
+  oPainter.setPen(QPen(MarkColour(*this, isChecked() ? Ink::Accent : Ink::FaintText), 1.0));
   oPainter.setBrush(isChecked() ? MarkColour(*this, Ink::Accent) : InkColour(Ink::Field));
-  oPainter.drawRoundedRect(oMark, kRadius, kRadius);
+  oPainter.drawRoundedRect(oMark, fRadius, fRadius);
   if (isChecked()) {
     DrawTick(oPainter, oMark, InkColour(Ink::OnAccent));
   }
   if (hasFocus()) {
-    DrawFocus(oPainter, oMark, kRadius);
+    DrawFocus(oPainter, oMark, fRadius);
   }
   DrawCaption(oPainter, *this, *this);
 }

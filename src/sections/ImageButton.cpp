@@ -74,6 +74,17 @@ void ImageButton::SetPage(bool bPage) {
   update();
 }
 
+void ImageButton::SetFlush(bool bFlush) {
+  m_bFlush = bFlush;
+  Place(Left(), Top(), Width(), Height());
+}
+
+void ImageButton::Placed() {
+  if (m_bFlush) {
+    setGeometry(geometry().adjusted(-Pixels(kEdge), 0, 0, 0));
+  }
+}
+
 void ImageButton::SetGap(int nGap) {
   m_nGap = nGap;
   update();

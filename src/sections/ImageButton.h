@@ -38,9 +38,13 @@ class ImageButton : public QAbstractButton, public Control {
   /// How much of the right side stays free, in twips, where a neighbour's place begins early.
   void SetGap(int nGap);
 
+  /// Its face begins at the very left of the place, and the line of the focus reaches beyond it.
+  void SetFlush(bool bFlush);
+
   [[nodiscard]] QSize sizeHint() const override;
 
  protected:
+  void Placed() override;
   void paintEvent(QPaintEvent* pEvent) override;
   void keyPressEvent(QKeyEvent* pEvent) override;
   [[nodiscard]] bool hitButton(const QPoint& oAt) const override;
@@ -56,6 +60,7 @@ class ImageButton : public QAbstractButton, public Control {
   ButtonPicture m_ePicture = ButtonPicture::None;
   bool m_bPrimary = false;
   bool m_bPage = false;
+  bool m_bFlush = false;
   int m_nGap = 0;
 };
 

@@ -131,11 +131,17 @@ void ctlPostage::ShowPrices(const clsPostage& oPostage) {
 /// What is grey still takes a click, but for the profit's amount and what stands in a Frame:
 /// UpdateModel undoes the choice.
 void ctlPostage::ShowWhatIsOpen(const clsPostage& oPostage, const clsOutlay& oOutlay) {
+  const auto fnShow = [this](const std::string& sService, bool bOpen) {
+    SetControlActive(bOpen, *Find(sService), false);
+    if (Control* const pPrice = Find("lbl" + sService.substr(3))) {
+      SetControlActive(bOpen, *pPrice, false);
+    }
+  };
   for (const OptionCode& oClass : kClasses) {
-    SetControlActive(oPostage.CanHaveClass(oClass.nCode), *Find(oClass.sOption), false);
+    fnShow(oClass.sOption, oPostage.CanHaveClass(oClass.nCode));
   }
-  SetControlActive(oPostage.CanHaveRecordedDelivery(), *Find("chkRecordedDelivery"), false);
-  SetControlActive(oPostage.CanHaveProofOfDelivery(), *Find("chkProofOfDelivery"), false);
+  fnShow("chkRecordedDelivery", oPostage.CanHaveRecordedDelivery());
+  fnShow("chkProofOfDelivery", oPostage.CanHaveProofOfDelivery());
   SetControlActive(oPostage.m_bMakeProfit, *Find("txtProfit"), false);
   SetControlActive(oOutlay.m_lQuantity >= 2, *Find("chkSendInduvidually"), true);
 }

@@ -58,20 +58,22 @@ bool NameHolds(const Label& oLabel, const char* sPart) {
   return oLabel.Name().find(sPart) != std::string::npos;
 }
 
+Label* MakeLabel(std::string_view sName, QWidget* pParent) {
+  if (sName == "lblProfitGrandTotal") {
+    return new GrandTotal(pParent);
+  }
+  return sName.ends_with("Total") ? new Figure(pParent) : new Label(pParent);
+}
+
 }  // namespace
 
 ctlSellingCosts::ctlSellingCosts(QWidget* pParent)
     : QWidget(pParent), Control(static_cast<QWidget&>(*this)) {
   for (const LabelDesign& oDesign : kLabels) {
-    const bool bGrandTotal = std::string_view(oDesign.sName) == "lblProfitGrandTotal";
-    Label* const pLabel = bGrandTotal ? new GrandTotal(this) : new Label(this);
+    Label* const pLabel = MakeLabel(oDesign.sName, this);
     pLabel->SetName(oDesign.sName);
     pLabel->SetCaption(QString::fromUtf8(oDesign.sCaption));
     pLabel->Place(oDesign.nLeft, oDesign.nTop, oDesign.nWidth, oDesign.nHeight);
-    if (NameHolds(*pLabel, "Total") && !bGrandTotal) {
-      pLabel->SetFontSize(kTextPoints, QFont::DemiBold);
-      pLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    }
     m_aoLabels.push_back(pLabel);
   }
   setAccessibleName(tr("Selling Costs"));
@@ -149,6 +151,7 @@ void ctlSellingCosts::ArrangeAsStrip() {
   fnPlace("lblPostageLabel", kCaptions, "lblListingCostLabel");
   fnPlace("lblPostageTotal", kFigures, "lblPostageLabel");
   fnPlace("lblProfitGrandTotal", kGrandTotal, "lblInsertionFeeLabel");
+  GrandTotalLabel().SetAmountPlace(0, 0);
   The("lblProfitLabel").SetLeft(kProfit);
   CentreProfitLabel();
   fnPlace("lblPayPalLabel", kCaptions, "lblReserveFeeLabel");
@@ -172,10 +175,18 @@ void ctlSellingCosts::ArrangeAsColumn() {
     The(oMove.sName).SetLeft(The(oMove.sLeftOf).Left());
     The(oMove.sName).SetTop(The(oMove.sTopOf).Top() + oMove.nRows * nPitch);
   }
-  The("lblProfitLabel").SetLeft(The("lblPayPalLabel").Left());
+  Label& oProfit = The("lblProfitLabel");
+  oProfit.SetLeft(The("lblPayPalLabel").Left());
   CentreProfitLabel();
+  const Label& oAbove = The("lblPayPalTotal");
+  GrandTotalLabel().SetAmountPlace(oProfit.Left() + oProfit.Width(),
+                                   oAbove.Left() + oAbove.Width() - Figure::kGap);
   SetHeight(2130);
   SetWidth(4380);
+}
+
+GrandTotal& ctlSellingCosts::GrandTotalLabel() const {
+  return dynamic_cast<GrandTotal&>(The("lblProfitGrandTotal"));
 }
 
 void ctlSellingCosts::CentreProfitLabel() const {

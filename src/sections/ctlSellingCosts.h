@@ -9,6 +9,8 @@
 
 namespace quillet {
 
+class GrandTotal;
+
 class ctlSellingCosts : public QWidget, public Control {
   Q_OBJECT
 
@@ -33,6 +35,7 @@ class ctlSellingCosts : public QWidget, public Control {
   void ArrangeAsStrip();
   void ArrangeAsColumn();
   void CentreProfitLabel() const;
+  [[nodiscard]] GrandTotal& GrandTotalLabel() const;
 
   int m_nMode = 0;
   std::vector<Label*> m_aoLabels;

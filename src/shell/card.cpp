@@ -11,4 +11,10 @@ void DrawCard(QPainter& oPainter, const QRectF& oCard) {
   oPainter.drawRoundedRect(oCard.adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
 }
 
+void Card::paintEvent(QPaintEvent* /*pEvent*/) {
+  QPainter oPainter(this);
+  oPainter.setRenderHint(QPainter::Antialiasing);
+  DrawCard(oPainter, rect());
+}
+
 }  // namespace quillet

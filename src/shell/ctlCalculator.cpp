@@ -37,14 +37,14 @@ std::string SectionOf(const SectionPanel& oSection) {
   return std::string("Controls\\") + oSection.SectionKey();
 }
 
-QRectF CardOf(const SectionPanel& oSection) {
+QRect CardOf(const SectionPanel& oSection) {
   constexpr int kSides = 105;
   constexpr int kAbove = 60;
   constexpr int kBelow = 120;
-  return {QPointF(Pixels(oSection.Left() + oSection.ContentLeft() - kSides),
-                  Pixels(oSection.Top() - kAbove)),
-          QPointF(Pixels(oSection.Left() + oSection.Width() + kSides),
-                  Pixels(oSection.Top() + oSection.Height() + kBelow))};
+  return {QPoint(Pixels(oSection.Left() + oSection.ContentLeft() - kSides),
+                 Pixels(oSection.Top() - kAbove)),
+          QPoint(Pixels(oSection.Left() + oSection.Width() + kSides) - 1,
+                 Pixels(oSection.Top() + oSection.Height() + kBelow) - 1)};
 }
 
 bool Holds(const SectionPanel& oSection, const QWidget* pWidget) {
@@ -65,6 +65,10 @@ ctlCalculator::ctlCalculator(QWidget* pParent)
   });
   for (const auto& [pControl, nLeft, nTop, nWidth, nHeight] : aoPlaces) {
     pControl->Place(nLeft, nTop, nWidth, nHeight);
+  }
+  for (Card*& pCard : m_apCards) {
+    pCard = new Card(this);
+    pCard->setAttribute(Qt::WA_TransparentForMouseEvents);
   }
   Place(0, 0, kDesignWidth, kDesignHeight);
   setFocusPolicy(Qt::ClickFocus);  // a click beside the sections leaves the box that was typed into
@@ -95,7 +99,7 @@ void ctlCalculator::ResetControlPositions() {
     pSection->SetTop(nTop == kAbsent ? pSection->Top() : nTop);
   }
   SaveSectionPositions();
-  update();
+  PlaceCards();
 }
 
 void ctlCalculator::RefreshSums(bool bUpdateControlDisplays, clsCalculate* pDocument) {
@@ -138,7 +142,7 @@ void ctlCalculator::showEvent(QShowEvent* pEvent) {
   }
 }
 
-/// The cards behind the sections, and the summary's, which ends at the rule below it.
+/// The card of the summary, which ends at the rule below it.
 void ctlCalculator::paintEvent(QPaintEvent* /*pEvent*/) {
   constexpr int kAbove = 30;
   constexpr int kBelowLine = 60;
@@ -148,10 +152,15 @@ void ctlCalculator::paintEvent(QPaintEvent* /*pEvent*/) {
   oPainter.fillRect(rect(), InkColour(Ink::Ground));
   DrawCard(oPainter, {QPointF(Pixels(kLineLeft - kSides), Pixels(kLineLeft - kAbove)),
                       QPointF(width() - Pixels(kLineLeft), Pixels(kLineTop + kBelowLine))});
-  for (const SectionPanel* const pSection : m_oSet.Sections()) {
-    if (pSection->Height() > 0) {
-      DrawCard(oPainter, CardOf(*pSection));
-    }
+}
+
+/// Each right behind its section, so that what is in front has its whole edge.
+void ctlCalculator::PlaceCards() {
+  for (std::size_t i = 0; i < m_apCards.size(); ++i) {
+    SectionPanel& oSection = *m_oSet.Sections().at(i);
+    m_apCards.at(i)->setGeometry(CardOf(oSection));
+    m_apCards.at(i)->setVisible(oSection.Height() > 0);
+    m_apCards.at(i)->stackUnder(&oSection);
   }
 }
 
@@ -160,8 +169,8 @@ void ctlCalculator::UserControl_Show() {
     pSection->SetShowConfig(m_bConfigMode);
   }
   LoadSectionPositions();
+  PlaceCards();
   RefreshSums(true);
-  update();
 }
 
 /// The focus is a section's when any control inside it has it.
@@ -180,7 +189,7 @@ void ctlCalculator::FollowFocus(const QWidget* pOld, const QWidget* pNow) {
 void ctlCalculator::MoveSection(SectionPanel& oSection, float fX, float fY) {
   SnapSection(oSection, oSection.Left() + double{fX}, oSection.Top() + double{fY});
   SaveSectionPositions();
-  update();
+  PlaceCards();
 }
 
 /// To the nearest point of the grid, an exact half to the even one. No place is out of bounds.

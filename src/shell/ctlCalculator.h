@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QWidget>
+#include <array>
 #include <map>
 #include <string>
 
@@ -10,6 +11,8 @@
 #include "shell/SectionSet.h"
 
 namespace quillet {
+
+class Card;
 
 class ctlCalculator : public QWidget, public Control {
   Q_OBJECT
@@ -44,9 +47,11 @@ class ctlCalculator : public QWidget, public Control {
  protected:
   void showEvent(QShowEvent* pEvent) override;
   void paintEvent(QPaintEvent* pEvent) override;
+  void Placed() override { PlaceCards(); }
 
  private:
   void UserControl_Show();
+  void PlaceCards();
   void FollowFocus(const QWidget* pOld, const QWidget* pNow);
   void MoveSection(SectionPanel& oSection, float fX, float fY);
   void SnapSection(SectionPanel& oSection, Single fLeft, Single fTop);
@@ -56,6 +61,7 @@ class ctlCalculator : public QWidget, public Control {
   void GrowToHold(int& nWidth, int& nHeight, const Control& oControl) const;
 
   SectionSet m_oSet;
+  std::array<Card*, 5> m_apCards{};  ///< in the order of the sections
   bool m_bConfigMode = false;
   clsCalculate* m_oDocument = nullptr;
   std::map<std::string, int> m_colDesignPositions;  ///< by SectionKey + "_Left" or "_Top", twips

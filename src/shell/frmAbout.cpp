@@ -41,7 +41,7 @@ constexpr int kPageHeight = 3615;
 
 constexpr int kMinSnap = 1;
 constexpr int kMaxSnap = 1000;
-constexpr double kHintPoints = 7.5;
+constexpr double kSettingPoints = 7.5;  // so that the longest caption ends before its button
 
 /// A rule between the images and the pages. The pages, which are opaque, lie over it.
 class Line : public QWidget, public Control {
@@ -139,7 +139,9 @@ void frmAbout::DescribeControls() {
   m_pImgResetPositions->setAccessibleName(m_pLabel2->Caption());
   m_pLblHint->setWordWrap(true);
   m_pLblHint->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-  m_pLblHint->SetFontSize(kHintPoints, QFont::Medium);
+  for (Label* const pLabel : {m_pLblStartMode, m_pLabel3, m_pLabel2, m_pLblHint}) {
+    pLabel->SetFontSize(kSettingPoints, QFont::Medium);
+  }
   m_pImgAbout->SetPicture(ButtonPicture::About);
   m_pImgAbout->SetPage(true);
   m_pImgSettings->SetPicture(ButtonPicture::Settings);
@@ -163,6 +165,7 @@ void frmAbout::PlaceControls() {
   constexpr int kGap = 90;  // the places of Apply and Cancel overlap
   m_pImgApply->SetGap(kGap);
   m_pImgCancel->SetGap(kGap);
+  m_pImgResetPositions->SetFlush(true);  // with the boxes above it
   const std::array aoPlaces = std::to_array<Place>({
       {m_pLine1, 2280, 120, kLineWidth, 3600},
       {m_pImgAbout, 240, 120, 1695, 420},

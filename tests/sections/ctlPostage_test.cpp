@@ -133,14 +133,17 @@ TEST_F(Postage, WhatCannotBeChosenIsGrey) {
   };
   const std::array aoRows = std::to_array<Row>({
       {1, "chkUsePostage",
-       "txtProfit chkProofOfDelivery optBand2 optBand3 optBand4 chkSendInduvidually",
+       "txtProfit chkProofOfDelivery optBand2 optBand3 optBand4 chkSendInduvidually "
+       "lblProofOfDelivery",
        "txtProfit chkProofOfDelivery chkRecordedDelivery optBand2 optBand3 optBand4 "
-       "optParcelService optFirstClass optSecondClass chkSendInduvidually"},
-      {2, "chkProfit", "chkProofOfDelivery optBand2 optBand3 optBand4",
-       "chkProofOfDelivery chkRecordedDelivery optBand2 optBand3 optBand4 optParcelService "
-       "optFirstClass optSecondClass"},
+       "optParcelService optFirstClass optSecondClass chkSendInduvidually lblProofOfDelivery "
+       "lblRecordedDelivery lblParcelService lblFirstClass lblSecondClass"},
       {2, "chkProfit txtWeight=30",
-       "chkProofOfDelivery optBand2 optBand3 optBand4 optParcelService optSecondClass", nullptr},
+       "chkProofOfDelivery optBand2 optBand3 optBand4 optParcelService optSecondClass "
+       "lblProofOfDelivery lblParcelService lblSecondClass",
+       nullptr},
+      {2, "chkProfit txtWeight=1",
+       "chkProofOfDelivery optBand2 optBand3 optBand4 lblProofOfDelivery", nullptr},
   });
   for (const Row& oRow : aoRows) {
     const char* const sGrey = ByRegion(oRow.sUnitedKingdom, oRow.sUnitedStates);

@@ -124,6 +124,36 @@ TEST_F(Calculator, AViewThatIsShownAgainLooksAsAfterARestartWhicheverRowIsHidden
   }
 }
 
+TEST_F(Calculator, WhatIsInFrontHasItsWholeEdge) {
+  ShowView(true, DefaultAuction());
+  const ctlPayPal& oPayPal = m_pView->Set().ctlPayPalSection;  // over the edge of the outlay
+  const QImage oImage = m_pView->grab().toImage();
+  for (int y = oPayPal.y() + 8; y < oPayPal.geometry().bottom(); ++y) {
+    ASSERT_EQ(oImage.pixelColor(Pixels(oPayPal.Left() - 105), y), InkColour(Ink::Hairline)) << y;
+  }
+}
+
+TEST_F(Calculator, FiguresEndBelowEachOtherAndLeaveAGapToTheNextBlock) {
+  ctlSellingCosts& oSummary = m_pView->Set().ctlSellingCostsSection;
+  ShowView(false, WorkingAuction());
+  const auto fnInkEnd = [&](const char* sName) {
+    const QWidget& oLabel = oSummary.The(sName);
+    const QImage oImage = oSummary.grab(oLabel.geometry()).toImage();
+    for (int x = oImage.width(); x-- > 0;) {
+      for (int y = 0; y < oImage.height(); ++y) {
+        if (oImage.pixel(x, y) != oImage.pixel(0, 0)) {
+          return oLabel.x() + x;
+        }
+      }
+    }
+    return -1;
+  };
+  EXPECT_LE(fnInkEnd("lblInsertionFeeTotal"),
+            oSummary.The("lblSellingCostLabel").x() - Pixels(200));
+  oSummary.SetMode(1);
+  EXPECT_NEAR(fnInkEnd("lblProfitGrandTotal"), fnInkEnd("lblInsertionFeeTotal"), 1);
+}
+
 TEST_F(Calculator, ColoursComeFromTheSettingsIfTheyAreNumbers) {
   EXPECT_EQ(TotalColour(), 0xC0FFC0U);
   for (const auto& [sStored, nColour] :
