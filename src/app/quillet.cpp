@@ -1,6 +1,7 @@
 // The desktop program: chooses the host, starts, and hands over to the event loop.
 #include <QApplication>
 #include <QIcon>
+#include <cstdlib>
 #include <string>
 
 #include "app/startArguments.h"
@@ -46,5 +47,5 @@ int main(int nArguments, char** asArguments) {
   const int nStatus = g_frmMain != nullptr ? QApplication::exec() : 0;
   g_frmMain.reset();
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  return nStatus;
+  return g_bMustClose ? EXIT_FAILURE : nStatus;
 }

@@ -39,6 +39,7 @@ std::int32_t g_lActionFlags = 0;
 std::string g_sActionMessage;
 std::unique_ptr<SplashWindow> g_frmSplash;
 std::unique_ptr<MainWindow> g_frmMain;
+bool g_bMustClose = false;
 
 void SetApplication(Application& oApplication) {
   g_oApplication = &oApplication;
@@ -46,6 +47,7 @@ void SetApplication(Application& oApplication) {
 
 void Main() {
   assert(g_oApplication != nullptr);
+  g_bMustClose = false;
   ParseCommandLine(UpperCase(TheHost().CommandLine()));
   WriteLog("Started app");
   ManageSplash(true, true);
@@ -58,7 +60,11 @@ void Main() {
   ExecuteSpecialActions(1);
   WriteLog("Display main");
   g_frmMain = g_oApplication->CreateMainWindow();
-  g_frmMain->Show();
+  if (g_bMustClose) {
+    g_frmMain.reset();
+  } else {
+    g_frmMain->Show();
+  }
   ManageSplash(false, false);
   WriteLog("End startup");
 }
@@ -112,6 +118,7 @@ void ExecuteSpecialActions(std::int32_t nPhase) {
 }
 
 void CloseApplication() {
+  g_bMustClose = true;
   ManageSplash(false, false);
   if (g_frmMain) {
     g_frmMain->Unload();

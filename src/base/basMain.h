@@ -15,6 +15,7 @@ extern std::int32_t g_lActionFlags;   ///< the server's action word, a mask of A
 extern std::string g_sActionMessage;  ///< the message that came with it
 extern std::unique_ptr<SplashWindow> g_frmSplash;
 extern std::unique_ptr<MainWindow> g_frmMain;
+extern bool g_bMustClose;  ///< the start called CloseApplication: the program ends as failed
 
 /// Bits of the action word.
 enum ActionFlag : std::int32_t {
@@ -42,7 +43,8 @@ void PerformDownloads();
 /// Phase 1 shows the server's message if the action word asks for it; phase 0 does nothing yet.
 void ExecuteSpecialActions(std::int32_t nPhase);
 
-/// Closes the splash and the main window, upon which the process ends by itself.
+/// Closes the splash and the main window, upon which the process ends by itself. A window that is
+/// still being made never shows.
 void CloseApplication();
 
 /// Opens a web address or file with the user's program for it.

@@ -1,5 +1,6 @@
 #include "shell/DesktopApplication.h"
 
+#include "base/basMain.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
 
@@ -43,7 +44,7 @@ std::unique_ptr<MainWindow> DesktopApplication::CreateMainWindow() {
 }
 
 void DesktopApplication::OpenAuction(const std::string& sPath) {
-  if (m_pMain != nullptr) {
+  if (g_frmMain != nullptr && m_pMain != nullptr) {
     m_pMain->OpenAuction(sPath);
   }
 }

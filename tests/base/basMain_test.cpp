@@ -83,11 +83,13 @@ class RecordedApplication : public Application {
   void CloseConnection() override { Step("close connection"); }
   std::unique_ptr<MainWindow> CreateMainWindow() override {
     WriteLog(m_oHost.nPumped >= 10 ? "* create main" : "* create main before the movie's end");
+    fnOnCreate();
     return std::make_unique<RecordedMain>(fnOnShow);
   }
 
   std::int32_t lActions = 0;
   std::set<std::string> asFailing;  ///< the steps that fail
+  std::function<void()> fnOnCreate = [] {};
   std::function<void()> fnOnShow;
 
  private:
@@ -174,6 +176,17 @@ TEST_F(Start, AMissingPriceFileIsTriedFiveTimesThenClosesTheProgramAndMainRunsTo
   EXPECT_EQ(g_frmMain, nullptr);
   EXPECT_EQ(Prices().Table().Size(), 0U);  // made once, and not tried again
   EXPECT_EQ(m_oHost.aoShown.size(), 1U);
+}
+
+TEST_F(Start, AMainWindowThatAsksForMissingPricesWhileItIsMadeNeverShows) {
+  UsePrices(nullptr);
+  m_oApplication.fnOnCreate = [] { (void)Prices(); };
+  const std::vector<std::string> asRun = Run();
+  EXPECT_THAT(std::vector(asRun.end() - 5, asRun.end()),
+              ElementsAre("* create main", "* message", "* splash hidden", "* splash unloaded",
+                          "End startup"));
+  EXPECT_EQ(g_frmMain, nullptr);
+  EXPECT_TRUE(g_bMustClose);
 }
 
 TEST_F(Start, APriceFileWithAKeyTwiceSaysTheSameAndKeepsWhatCameBefore) {

@@ -4,6 +4,7 @@
 import functools
 import pathlib
 import re
+import shutil
 import subprocess
 import unittest
 
@@ -110,6 +111,20 @@ class WholeProgram(unittest.TestCase):
         screen.window("Quillet US - carburetor")
         screen.keys("ctrl+q")
         self.assertEqual(screen.gone(), 0)
+
+    @on_a_screen
+    def test_a_schedule_that_is_missing_or_useless_is_said_and_ends_the_program(self):
+        screen = self.screen
+        folder = screen.home / "program"
+        folder.mkdir()
+        shutil.copy(PROGRAMS / "quillet", folder)
+        for schedule in (None, "Final,1\nFINAL,2\n"):
+            if schedule:
+                (folder / "UpdateUS_v0101.dat").write_text(schedule)
+            screen.start(folder / "quillet", SAMPLES / "carburetor.qlt")
+            screen.keys("Return")
+            self.assertEqual(screen.gone(), 1)
+            self.assertEqual(screen.titles(), [])
 
     def test_version_and_help_need_no_screen(self):
         for program, edition in (("quillet", "Quillet US"), ("quillet-uk", "Quillet UK")):
