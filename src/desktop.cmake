@@ -54,6 +54,7 @@ add_library(quillet_desktop STATIC
   shell/frmAbout.cpp
   shell/frmMain.cpp
   shell/frmSplash.cpp
+  shell/tabOrder.cpp
   shell/zoomSteps.cpp
   )
 set_target_properties(quillet_desktop PROPERTIES AUTOMOC ON AUTORCC ON)

@@ -20,15 +20,7 @@ SectionSet::SectionSet(QWidget& oView)
       ctlSellingFeaturesSection(Make<ctlSellingFeatures>(oView, "ctlSellingFeaturesSection")),
       ctlAuctionTypeSection(Make<ctlAuctionType>(oView, "ctlAuctionTypeSection")),
       ctlPayPalSection(Make<ctlPayPal>(oView, "ctlPayPalSection")),
-      ctlPostageSection(Make<ctlPostage>(oView, "ctlPostageSection")) {
-  QWidget* pBefore = &oView;
-  for (const SectionPanel* const pSection : Sections()) {
-    for (QWidget* const pInput : pSection->InputsInReadingOrder()) {
-      QWidget::setTabOrder(pBefore, pInput);
-      pBefore = pInput;
-    }
-  }
-}
+      ctlPostageSection(Make<ctlPostage>(oView, "ctlPostageSection")) {}
 
 void SectionSet::RefreshSums(clsCalculate& oDocument, bool bUpdateControlDisplays,
                              const std::function<void(bool)>& fnChanged) {

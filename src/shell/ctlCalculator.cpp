@@ -12,6 +12,7 @@
 #include "base/failure.h"
 #include "platform/qt/Theme.h"
 #include "shell/card.h"
+#include "shell/tabOrder.h"
 
 namespace quillet {
 namespace {
@@ -99,7 +100,7 @@ void ctlCalculator::ResetControlPositions() {
     pSection->SetTop(nTop == kAbsent ? pSection->Top() : nTop);
   }
   SaveSectionPositions();
-  PlaceCards();
+  FollowPlaces();
 }
 
 void ctlCalculator::RefreshSums(bool bUpdateControlDisplays, clsCalculate* pDocument) {
@@ -169,8 +170,27 @@ void ctlCalculator::UserControl_Show() {
     pSection->SetShowConfig(m_bConfigMode);
   }
   LoadSectionPositions();
-  PlaceCards();
+  FollowPlaces();
   RefreshSums(true);
+}
+
+/// The cards, and the way of the Tab key, go by the places of the sections as they are now.
+void ctlCalculator::FollowPlaces() {
+  PlaceCards();
+  OrderTabs();
+}
+
+void ctlCalculator::OrderTabs() {
+  const std::array aoSections = m_oSet.Sections();
+  std::vector<SectionPlace> aoPlaces;
+  for (const SectionPanel* const pSection : aoSections) {
+    aoPlaces.push_back({pSection->Left(), pSection->Top(), pSection->Width()});
+  }
+  std::vector<SectionPanel*> aoInOrder;
+  for (const std::size_t nSection : ReadingOrder(aoPlaces)) {
+    aoInOrder.push_back(aoSections.at(nSection));
+  }
+  ChainInputs(*this, aoInOrder);
 }
 
 /// The focus is a section's when any control inside it has it.
@@ -189,7 +209,7 @@ void ctlCalculator::FollowFocus(const QWidget* pOld, const QWidget* pNow) {
 void ctlCalculator::MoveSection(SectionPanel& oSection, float fX, float fY) {
   SnapSection(oSection, oSection.Left() + double{fX}, oSection.Top() + double{fY});
   SaveSectionPositions();
-  PlaceCards();
+  FollowPlaces();
 }
 
 /// To the nearest point of the grid, an exact half to the even one. No place is out of bounds.

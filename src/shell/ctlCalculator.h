@@ -51,7 +51,9 @@ class ctlCalculator : public QWidget, public Control {
 
  private:
   void UserControl_Show();
+  void FollowPlaces();
   void PlaceCards();
+  void OrderTabs();
   void FollowFocus(const QWidget* pOld, const QWidget* pNow);
   void MoveSection(SectionPanel& oSection, float fX, float fY);
   void SnapSection(SectionPanel& oSection, Single fLeft, Single fTop);

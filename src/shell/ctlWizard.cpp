@@ -19,6 +19,7 @@
 #include "sections/controlHelpers.h"
 #include "shell/WizardSteps.h"
 #include "shell/card.h"
+#include "shell/tabOrder.h"
 
 namespace quillet {
 
@@ -153,6 +154,8 @@ void ctlWizard::MakeFrames() {
     connect(&oSection, &SectionPanel::Changed, this, [this] { RefreshSums(true); });
   }
   m_pVert->raise();
+  const std::array aoSections = m_oSet.Sections();
+  ChainInputs(*this, {aoSections.begin(), aoSections.end()});
 }
 
 void ctlWizard::MakeButtons() {

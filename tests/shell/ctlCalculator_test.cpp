@@ -10,6 +10,7 @@
 #include "base/basMain.h"
 #include "base/clsRegistryAccess.h"
 #include "base/region.h"
+#include "shell/tabOrder.h"
 #include "support/Auctions.h"
 #include "support/ByRegion.h"
 #include "support/PanelScript.h"
@@ -53,6 +54,19 @@ class Calculator : public ::testing::Test {
     QTest::mousePress(&oHeader.Widget(), Qt::RightButton, {}, oStart);
     QTest::mouseMove(&oHeader.Widget(), oStart + QPoint(Pixels(nX), Pixels(nY)));
     QTest::mouseRelease(&oHeader.Widget(), Qt::RightButton, {}, oStart);
+  }
+
+  /// The inputs that the first so many presses of Tab come to in the view.
+  std::string Tabs(int nPresses) {
+    m_pView->setFocus();
+    std::string sWalked;
+    for (int i = 0; i < nPresses; ++i) {
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+      const QWidget* const pAt = QApplication::focusWidget();
+      const QWidget* const pNamed = pAt->objectName() == "txtValue" ? pAt->parentWidget() : pAt;
+      sWalked += pNamed->objectName().toStdString() + " ";
+    }
+    return sWalked;
   }
 
   QWidget m_oWindow;
@@ -165,24 +179,42 @@ TEST_F(Calculator, ColoursComeFromTheSettingsIfTheyAreNumbers) {
 
 TEST_F(Calculator, TabWalksTheInputsInReadingOrderAndNeverReachesAShowBox) {
   ShowView(false, WorkingAuction());
-  ctlNumericText& oFirst =
-      dynamic_cast<ctlNumericText&>(ControlOf(m_pView->Set().ctlOutlaySection, "txtOutlay"));
-  oFirst.TextBox()->setFocus();
-  std::string sWalked;
-  for (int i = 0; i < 6; ++i) {
-    const QWidget* const pAt = QApplication::focusWidget();
-    const QWidget* const pNamed = pAt->objectName() == "txtValue" ? pAt->parentWidget() : pAt;
-    sWalked += pNamed->objectName().toStdString() + " ";
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-  }
-  EXPECT_EQ(sWalked, RegionCode() == 1
+  EXPECT_EQ(Tabs(6), RegionCode() == 1
                          ? "txtOutlay txtStartingPrice txtReservePrice txtEstimatedEndPrice "
                            "txtQuantity chkHomePageFeatured "
                          : "txtOutlay chkOutlayInclTax txtStartingPrice txtReservePrice "
                            "txtEstimatedEndPrice txtQuantity ");
-  for (int i = 0; i < 80; ++i) {
-    ASSERT_FALSE(QApplication::focusWidget()->objectName().contains("chkShow"));
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  EXPECT_EQ(Tabs(80).find("chkShow"), std::string::npos);
+}
+
+TEST_F(Calculator, TabFollowsASectionThatIsDragged) {
+  ShowView(true, DefaultAuction());
+  Drag(m_pView->Set().ctlPayPalSection, -5520, -240);
+  EXPECT_EQ(Tabs(1), "chkUsePayPal ");
+  m_pView->ResetControlPositions();
+  EXPECT_EQ(Tabs(1), "txtOutlay ");
+}
+
+TEST(TabOrder, GoesDownEachColumnFromTheLeft) {
+  const struct {
+    std::vector<SectionPlace> aoPlaces;
+    std::vector<std::size_t> anOrder;
+  } kRows[] = {
+      {{{240, 1560, 4670},
+        {120, 3600, 3750},
+        {9000, 1560, 3030},
+        {5760, 1560, 3150},
+        {4440, 5640, 4350}},
+       {0, 1, 3, 4, 2}},                        // as designed
+      {{{0, 100, 100}, {51, 0, 100}}, {0, 1}},  // less than half side by side
+      {{{0, 100, 100}, {50, 0, 100}}, {1, 0}},  // half of it on top
+      {{{0, 200, 1000}, {0, 0, 100}, {400, 100, 90}},
+       {1, 0, 2}},  // a wide one goes with the column that it begins in
+      {{{0, 0, 100}, {50, 100, 100}, {100, 50, 100}}, {0, 1, 2}},  // a stair is no column
+      {{{-500, 0, 100}, {-600, 0, 100}}, {1, 0}},                  // beyond the edge
+  };
+  for (const auto& [aoPlaces, anOrder] : kRows) {
+    EXPECT_EQ(ReadingOrder(aoPlaces), anOrder);
   }
 }
 

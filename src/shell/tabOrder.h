@@ -1,0 +1,26 @@
+// In what order the Tab key goes through sections that lie anywhere.
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+class QWidget;
+
+namespace quillet {
+
+class SectionPanel;
+
+struct SectionPlace {
+  int nLeft;
+  int nTop;
+  int nWidth;
+};
+
+/// The places by their index: column by column from the left, and downward in each. Two sections
+/// stand in one column if at least half of the narrower one lies above or below the other.
+[[nodiscard]] std::vector<std::size_t> ReadingOrder(const std::vector<SectionPlace>& aoPlaces);
+
+/// Lets Tab go from the view through all inputs of the sections, one section after the other.
+void ChainInputs(QWidget& oView, const std::vector<SectionPanel*>& aoSections);
+
+}  // namespace quillet
