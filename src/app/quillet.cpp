@@ -9,6 +9,7 @@
 #include "base/basMain.h"
 #include "base/clsRegistryAccess.h"
 #include "base/version.h"
+#include "platform/Descriptors.h"
 #include "platform/Internet.h"
 #include "platform/Sound.h"
 #include "platform/qt/QtHost.h"
@@ -19,6 +20,7 @@
 
 int main(int nArguments, char** asArguments) {
   using namespace quillet;
+  ReportFailedWrites();
   const std::string sAuction = AuctionFileToOpen(nArguments, asArguments);
   QApplication oQt(nArguments, asArguments);
   QApplication::setApplicationName("Quillet");

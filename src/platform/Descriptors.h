@@ -23,8 +23,8 @@ inline constexpr int kStandardError = 2;
 
 [[nodiscard]] bool IsTerminal(int nHandle);
 
-/// From now on writing to a pipe that nobody reads is an error (broken_pipe) and doesn't end the
-/// program.
-void ReportBrokenPipes();
+/// From now on writing to a pipe that nobody reads (broken_pipe), or beyond the size that a file
+/// may have (file_too_large), is an error and doesn't end the program.
+void ReportFailedWrites();
 
 }  // namespace quillet

@@ -4,16 +4,9 @@
 #include <limits>
 
 #include "platform/Files.h"
+#include "platform/Temporaries.h"
 
 namespace quillet {
-namespace {
-
-std::filesystem::path PathOf(const std::string& sUtf8) {
-  return {std::u8string(sUtf8.begin(), sUtf8.end())};
-}
-
-}  // namespace
-
 std::error_code MakeFolder(const std::string& sFolder) {
   std::error_code oError;
   std::filesystem::create_directories(PathOf(sFolder), oError);

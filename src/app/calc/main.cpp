@@ -12,7 +12,7 @@ namespace quillet {
 namespace {
 
 int Run(int nArguments, char** asArguments) {
-  ReportBrokenPipes();
+  ReportFailedWrites();
   CalcHost oHost;
   SetHost(oHost);
   int nStatus = kEveryAuctionCalculated;

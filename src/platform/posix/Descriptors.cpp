@@ -42,8 +42,9 @@ bool IsTerminal(int nHandle) {
   return ::isatty(nHandle) != 0;
 }
 
-void ReportBrokenPipes() {
+void ReportFailedWrites() {
   std::signal(SIGPIPE, SIG_IGN);
+  std::signal(SIGXFSZ, SIG_IGN);
 }
 
 }  // namespace quillet

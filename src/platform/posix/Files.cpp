@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
-#include <optional>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "platform/Descriptors.h"
+#include "platform/Temporaries.h"
 
 namespace quillet {
 namespace {
@@ -39,32 +39,88 @@ class Descriptor {
   int m_nHandle;
 };
 
-/// Without a mode the file gets what the user's mask leaves of "rw" for everybody.
-std::error_code WriteNewFile(const std::string& sPath, std::string_view sContent,
-                             std::optional<mode_t> nMode) {
-  Descriptor oFile(
-      ::open(sPath.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, nMode.value_or(0666U)));
-  if (!oFile.IsOpen() || (nMode && ::fchmod(oFile.Handle(), *nMode) != 0)) {
-    return LastError();
+/// Reads from where the file stands to its end.
+std::error_code ReadAll(int nHandle, std::size_t nLimit, std::string& sContent) {
+  std::string sRead;
+  std::array<char, 65536> acBlock;  // NOLINT: zeros would only take time
+  while (true) {
+    std::size_t nRead = 0;
+    if (std::error_code oError = ReadSome(nHandle, acBlock.data(), acBlock.size(), nRead)) {
+      return oError;
+    }
+    if (nRead == 0) {
+      break;
+    }
+    sRead.append(acBlock.data(), nRead);
+    if (sRead.size() > nLimit) {
+      return std::make_error_code(std::errc::file_too_large);
+    }
   }
-  if (std::error_code oError = WriteAll(oFile.Handle(), sContent)) {
-    return oError;
-  }
-  if (::fsync(oFile.Handle()) != 0) {
-    return LastError();
-  }
-  return oFile.Close();
+  sContent = std::move(sRead);
+  return {};
 }
 
-/// The file that a chain of symbolic links ends in, so that replacing a link keeps the link.
-std::string ResolveLinks(const std::string& sPath) {
-  char* const pResolved = ::realpath(sPath.c_str(), nullptr);
-  if (pResolved == nullptr) {
-    return sPath;
+/// Gives a file the owner, the group and the mode of another, each as far as the user may.
+std::error_code TakeAfter(int nHandle, const struct stat& oOld) {
+  [[maybe_unused]] const bool bKept = ::fchown(nHandle, oOld.st_uid, oOld.st_gid) == 0 ||
+                                      ::fchown(nHandle, static_cast<uid_t>(-1), oOld.st_gid) == 0;
+  return ::fchmod(nHandle, oOld.st_mode & 07777U) == 0 ? std::error_code{} : LastError();
+}
+
+/// The file is on the disk, and reads as it should, when this returns. One that replaces none gets
+/// what the user's mask leaves of "rw" for everybody.
+std::error_code WriteNewFile(const std::string& sPath, std::string_view sContent,
+                             const struct stat* pOld) {
+  Descriptor oFile(::open(sPath.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
+                          pOld != nullptr ? 0600 : 0666));
+  if (!oFile.IsOpen()) {
+    return LastError();
   }
-  std::string sResolved(pResolved);
-  ::free(pResolved);
-  return sResolved;
+  std::error_code oError = WriteAll(oFile.Handle(), sContent);
+  if (!oError && pOld != nullptr) {
+    oError = TakeAfter(oFile.Handle(), *pOld);
+  }
+  if (!oError && (::fsync(oFile.Handle()) != 0 || ::lseek(oFile.Handle(), 0, SEEK_SET) != 0)) {
+    oError = LastError();
+  }
+  std::string sWritten;
+  if (!oError) {
+    oError = ReadAll(oFile.Handle(), sContent.size(), sWritten);
+  }
+  if (!oError && sWritten != sContent) {
+    oError = std::make_error_code(std::errc::io_error);
+  }
+  return oError ? oError : oFile.Close();
+}
+
+/// Follows links to the file that they end in, so that replacing a link keeps the link. One that
+/// leads nowhere is an error.
+std::error_code ResolveLinks(std::string& sPath) {
+  char* const pResolved = ::realpath(sPath.c_str(), nullptr);
+  if (pResolved != nullptr) {
+    sPath = pResolved;
+    ::free(pResolved);
+    return {};
+  }
+  const std::error_code oError = LastError();
+  struct stat oStatus {};
+  const bool bLink = ::lstat(sPath.c_str(), &oStatus) == 0 && S_ISLNK(oStatus.st_mode);
+  return bLink ? oError : std::error_code{};
+}
+
+/// A name that has changed outlives the machine's fall only so.
+void SyncFolderOf(const std::string& sPath) {
+  const std::string sFolder = sPath.substr(0, sPath.rfind('/') + 1);
+  const Descriptor oFolder(
+      ::open(sFolder.empty() ? "." : sFolder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (oFolder.IsOpen()) {
+    ::fsync(oFolder.Handle());
+  }
+}
+
+std::error_code NotAFile(const struct stat& oStatus) {
+  return std::make_error_code(S_ISDIR(oStatus.st_mode) ? std::errc::is_a_directory
+                                                       : std::errc::operation_not_supported);
 }
 
 }  // namespace
@@ -76,6 +132,12 @@ std::string NativePath(std::string sPath) {
 
 bool FileExists(const std::string& sPath) {
   return ::access(sPath.c_str(), F_OK) == 0;
+}
+
+bool IsDevice(const std::string& sPath) {
+  struct stat oStatus {};
+  return ::stat(sPath.c_str(), &oStatus) == 0 && !S_ISREG(oStatus.st_mode) &&
+         !S_ISDIR(oStatus.st_mode);
 }
 
 std::uint64_t FileSize(const std::string& sPath) {
@@ -93,52 +155,34 @@ std::error_code ReadWholeFile(const std::string& sPath, std::size_t nLimit, std:
   if (!oFile.IsOpen()) {
     return LastError();
   }
-  std::string sRead;
-  std::array<char, 65536> acBlock;  // NOLINT: zeros would only take time
-  while (true) {
-    std::size_t nRead = 0;
-    if (std::error_code oError = ReadSome(oFile.Handle(), acBlock.data(), acBlock.size(), nRead)) {
-      return oError;
-    }
-    if (nRead == 0) {
-      break;
-    }
-    sRead.append(acBlock.data(), nRead);
-    if (sRead.size() > nLimit) {
-      return std::make_error_code(std::errc::file_too_large);
-    }
-  }
-  sContent = std::move(sRead);
-  return {};
+  return ReadAll(oFile.Handle(), nLimit, sContent);
 }
 
 std::error_code ReplaceFile(const std::string& sPath, std::string_view sContent) {
-  const std::string sTarget = ResolveLinks(sPath);
-  struct stat oStatus {};
-  const bool bExists = ::stat(sTarget.c_str(), &oStatus) == 0;
-  if (bExists && !S_ISREG(oStatus.st_mode)) {
-    // A device or pipe can't be replaced, only written to; opening a folder so fails as it should.
-    Descriptor oFile(::open(sTarget.c_str(), O_WRONLY | O_CLOEXEC));
-    if (!oFile.IsOpen()) {
-      return LastError();
-    }
-    const std::error_code oError = WriteAll(oFile.Handle(), sContent);
-    return oError ? oError : oFile.Close();
+  std::string sTarget = sPath;
+  if (std::error_code oError = ResolveLinks(sTarget)) {
+    return oError;
+  }
+  struct stat oOld {};
+  const bool bExists = ::stat(sTarget.c_str(), &oOld) == 0;
+  if (bExists && !S_ISREG(oOld.st_mode)) {
+    return NotAFile(oOld);
   }
   if (bExists && ::access(sTarget.c_str(), W_OK) != 0) {
     return LastError();
   }
-  const std::string sTemporary = sTarget + "." + std::to_string(::getpid()) + ".tmp";
-  const std::optional<mode_t> nMode =
-      bExists ? std::optional<mode_t>(oStatus.st_mode & 07777U) : std::nullopt;
-  std::error_code oError = WriteNewFile(sTemporary, sContent, nMode);
+  const std::string sTemporary = TemporaryBeside(sTarget);
+  std::error_code oError = WriteNewFile(sTemporary, sContent, bExists ? &oOld : nullptr);
   if (!oError && ::rename(sTemporary.c_str(), sTarget.c_str()) != 0) {
     oError = LastError();
   }
   if (oError) {
     ::unlink(sTemporary.c_str());
+    return oError;
   }
-  return oError;
+  SyncFolderOf(sTarget);
+  SweepTemporariesBeside(sTarget);
+  return {};
 }
 
 std::error_code AppendToFile(const std::string& sPath, std::string_view sContent,

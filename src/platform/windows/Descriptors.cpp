@@ -53,6 +53,6 @@ bool IsTerminal(int nHandle) {
   return ::GetConsoleMode(HandleOf(nHandle), &nMode) != FALSE;
 }
 
-void ReportBrokenPipes() {}  // no signal to silence here
+void ReportFailedWrites() {}  // no signal to silence here
 
 }  // namespace quillet

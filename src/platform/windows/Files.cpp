@@ -4,9 +4,10 @@
 #include <array>
 
 #include <windows.h>
-#undef ReplaceFile  // the system's name for something else
+#undef ReplaceFile  // the system's name for its own
 
 #include "platform/Descriptors.h"
+#include "platform/Temporaries.h"
 #include "platform/windows/wide.h"
 
 namespace quillet {
@@ -53,18 +54,55 @@ std::error_code Write(HANDLE hFile, std::string_view sContent) {
   return {};
 }
 
+std::error_code ReadAll(HANDLE hFile, std::size_t nLimit, std::string& sContent) {
+  std::string sRead;
+  std::array<char, 65536> acBlock;  // NOLINT: zeros would only take time
+  while (true) {
+    DWORD nRead = 0;
+    if (::ReadFile(hFile, acBlock.data(), acBlock.size(), &nRead, nullptr) == FALSE) {
+      return LastError();
+    }
+    if (nRead == 0) {
+      break;
+    }
+    sRead.append(acBlock.data(), nRead);
+    if (sRead.size() > nLimit) {
+      return std::make_error_code(std::errc::file_too_large);
+    }
+  }
+  sContent = std::move(sRead);
+  return {};
+}
+
+/// The file is on the disk, and reads as it should, when this returns.
 std::error_code WriteNewFile(const std::string& sPath, std::string_view sContent) {
-  OpenFile oFile(sPath, GENERIC_WRITE, 0, CREATE_ALWAYS);
+  OpenFile oFile(sPath, GENERIC_READ | GENERIC_WRITE, 0, CREATE_NEW);
   if (!oFile.IsOpen()) {
     return LastError();
   }
   if (std::error_code oError = Write(oFile.Handle(), sContent)) {
     return oError;
   }
-  if (::FlushFileBuffers(oFile.Handle()) == FALSE) {
+  if (::FlushFileBuffers(oFile.Handle()) == FALSE ||
+      ::SetFilePointerEx(oFile.Handle(), {}, nullptr, FILE_BEGIN) == FALSE) {
     return LastError();
   }
-  return oFile.Close();
+  std::string sWritten;
+  if (std::error_code oError = ReadAll(oFile.Handle(), sContent.size(), sWritten)) {
+    return oError;
+  }
+  return sWritten == sContent ? oFile.Close() : std::make_error_code(std::errc::io_error);
+}
+
+/// The first way keeps the old file's rights and dates. It needs an old file, and a disk that has
+/// such things.
+bool PutInPlace(const std::wstring& sTemporary, const std::wstring& sPath) {
+  constexpr DWORD kIgnoreRights = 4;  // REPLACEFILE_IGNORE_ACL_ERRORS, which not every header has
+  return ::ReplaceFileW(sPath.c_str(), sTemporary.c_str(), nullptr,
+                        REPLACEFILE_IGNORE_MERGE_ERRORS | kIgnoreRights, nullptr,
+                        nullptr) != FALSE ||
+         ::MoveFileExW(sTemporary.c_str(), sPath.c_str(),
+                       MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
 }
 
 }  // namespace
@@ -76,6 +114,11 @@ std::string NativePath(std::string sPath) {
 
 bool FileExists(const std::string& sPath) {
   return ::GetFileAttributesW(Wide(sPath).c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+bool IsDevice(const std::string& sPath) {
+  const OpenFile oFile(sPath, 0, kShareAll, OPEN_EXISTING);
+  return oFile.IsOpen() && ::GetFileType(oFile.Handle()) != FILE_TYPE_DISK;
 }
 
 std::uint64_t FileSize(const std::string& sPath) {
@@ -95,23 +138,7 @@ std::error_code ReadWholeFile(const std::string& sPath, std::size_t nLimit, std:
   if (!oFile.IsOpen()) {
     return LastError();
   }
-  std::string sRead;
-  std::array<char, 65536> acBlock;  // NOLINT: zeros would only take time
-  while (true) {
-    DWORD nRead = 0;
-    if (::ReadFile(oFile.Handle(), acBlock.data(), acBlock.size(), &nRead, nullptr) == FALSE) {
-      return LastError();
-    }
-    if (nRead == 0) {
-      break;
-    }
-    sRead.append(acBlock.data(), nRead);
-    if (sRead.size() > nLimit) {
-      return std::make_error_code(std::errc::file_too_large);
-    }
-  }
-  sContent = std::move(sRead);
-  return {};
+  return ReadAll(oFile.Handle(), nLimit, sContent);
 }
 
 std::error_code ReplaceFile(const std::string& sPath, std::string_view sContent) {
@@ -120,14 +147,15 @@ std::error_code ReplaceFile(const std::string& sPath, std::string_view sContent)
       (nAttributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0) {
     return {ERROR_ACCESS_DENIED, std::system_category()};
   }
-  const std::string sTemporary = sPath + "." + std::to_string(::GetCurrentProcessId()) + ".tmp";
+  const std::string sTemporary = TemporaryBeside(sPath);
   std::error_code oError = WriteNewFile(sTemporary, sContent);
-  if (!oError && ::MoveFileExW(Wide(sTemporary).c_str(), Wide(sPath).c_str(),
-                               MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) == FALSE) {
+  if (!oError && !PutInPlace(Wide(sTemporary), Wide(sPath))) {
     oError = LastError();
   }
-  if (oError) {
-    ::DeleteFileW(Wide(sTemporary).c_str());
+  if (!oError) {
+    SweepTemporariesBeside(sPath);
+  } else if (nAttributes == INVALID_FILE_ATTRIBUTES || FileExists(sPath)) {
+    ::DeleteFileW(Wide(sTemporary).c_str());  // unless it is all that is left
   }
   return oError;
 }

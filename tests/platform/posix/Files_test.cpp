@@ -1,12 +1,13 @@
 #include "platform/Files.h"
 
-#include <csignal>
+#include <chrono>
 #include <filesystem>
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 
+#include "platform/Descriptors.h"
 #include "support/Log.h"
 #include "support/TestHost.h"
 
@@ -38,17 +39,21 @@ TEST_F(Files, ReadsUpToTheLimitAndLeavesTheTextAloneOtherwise) {
   EXPECT_EQ(sContent, std::string("a\0b\r\n", 5));
 }
 
-TEST_F(Files, ReplacingKeepsTheLinkAndTheMode) {
+TEST_F(Files, ReplacingKeepsTheLinkTheOwnerAndTheMode) {
   const mode_t nMaskBefore = ::umask(022);
   const std::string sLink = m_oFolder / "link.qlt";
   WriteTestFile(m_sFile, "old and longer");
+  (void)!::chown(m_sFile.c_str(), 12, 34);  // if the tester may
   fs::create_symlink("a.qlt", sLink);
   for (const mode_t nMode : {0600U, 0666U, 0640U}) {  // one of them wider than the mask
     ASSERT_EQ(::chmod(m_sFile.c_str(), nMode), 0);
+    struct stat oBefore {};
+    struct stat oAfter {};
+    ASSERT_EQ(::stat(m_sFile.c_str(), &oBefore), 0);
     EXPECT_FALSE(ReplaceFile(sLink, "new"));
-    struct stat oStatus {};
-    ASSERT_EQ(::stat(m_sFile.c_str(), &oStatus), 0);
-    EXPECT_EQ(oStatus.st_mode & 07777U, nMode);
+    ASSERT_EQ(::stat(m_sFile.c_str(), &oAfter), 0);
+    EXPECT_EQ(std::tuple(oAfter.st_mode, oAfter.st_uid, oAfter.st_gid),
+              std::tuple(oBefore.st_mode, oBefore.st_uid, oBefore.st_gid));
   }
   EXPECT_TRUE(fs::is_symlink(sLink));
   EXPECT_EQ(ReadTestFile(m_sFile), "new");
@@ -58,32 +63,59 @@ TEST_F(Files, ReplacingKeepsTheLinkAndTheMode) {
   ::umask(nMaskBefore);
 }
 
+TEST_F(Files, TheLongestNamesCanBeSavedAndWhatAKilledSaveLeftGoesAfterADay) {
+  const std::string sLong = m_oFolder / std::string(255, 'x');
+  const std::pair<const char*, int> aoLeft[] = {{".quillet-0123456789abcdef.tmp", 25},
+                                                {".quillet-fedcba9876543210.tmp", 23},
+                                                {".quillet-0123456789abcdeg.tmp", 25},
+                                                {"other.tmp", 25}};
+  for (const auto& [sName, nHours] : aoLeft) {
+    WriteTestFile(m_oFolder / sName, "left");
+    fs::last_write_time(m_oFolder / sName,
+                        fs::file_time_type::clock::now() - std::chrono::hours(nHours));
+  }
+  EXPECT_FALSE(ReplaceFile(sLong, "new"));
+  EXPECT_FALSE(ReplaceFile(sLong, "newer"));
+  EXPECT_EQ(ReadTestFile(sLong), "newer");
+  EXPECT_FALSE(FileExists(m_oFolder / aoLeft[0].first));
+  EXPECT_EQ(FilesInFolder(), 4U);
+}
+
 TEST_F(Files, AFailedReplacementLeavesTheOldFileWhole) {
   WriteTestFile(m_sFile, "old");
+  ReportFailedWrites();
   rlimit oBefore{};
   ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &oBefore), 0);
-  const auto fnHandlerBefore = std::signal(SIGXFSZ, SIG_IGN);
   const rlimit oSmall{4096, oBefore.rlim_max};
   ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &oSmall), 0);
   const std::error_code oError = ReplaceFile(m_sFile, std::string(10000, 'x'));
   ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &oBefore), 0);
-  (void)std::signal(SIGXFSZ, fnHandlerBefore);
   EXPECT_EQ(oError, std::errc::file_too_large);
   EXPECT_EQ(ReadTestFile(m_sFile), "old");
   EXPECT_EQ(FilesInFolder(), 1U);
 }
 
 TEST_F(Files, PlacesThatCannotBeReplacedSayWhy) {
+  const std::string sPipe = m_oFolder / "pipe";
+  ASSERT_EQ(::mkfifo(sPipe.c_str(), 0600), 0);
+  fs::create_symlink("nowhere", m_oFolder / "dangling");
+  fs::create_symlink("loop", m_oFolder / "loop");
+  const std::pair<std::string, std::errc> aoRows[] = {
+      {m_sFile + "/below", std::errc::not_a_directory},
+      {m_oFolder / "none/a.qlt", std::errc::no_such_file_or_directory},
+      {m_oFolder / "dangling", std::errc::no_such_file_or_directory},
+      {m_oFolder / "loop", std::errc::too_many_symbolic_link_levels},
+      {m_oFolder.sPath, std::errc::is_a_directory},
+      {sPipe, std::errc::operation_not_supported},
+      {"/dev/full", std::errc::operation_not_supported}};
   WriteTestFile(m_sFile, "old");
-  EXPECT_EQ(ReplaceFile(m_sFile + "/below", "x"), std::errc::not_a_directory);
-  EXPECT_EQ(ReplaceFile(m_oFolder / "none/a.qlt", "x"), std::errc::no_such_file_or_directory);
-  EXPECT_EQ(ReplaceFile(m_oFolder.sPath, "x"), std::errc::is_a_directory);
-  EXPECT_EQ(ReplaceFile("/dev/full", "x"), std::errc::no_space_on_device);
+  for (const auto& [sPath, eError] : aoRows) {
+    EXPECT_EQ(ReplaceFile(sPath, "x"), eError) << sPath;
+    EXPECT_EQ(IsDevice(sPath), eError == std::errc::operation_not_supported) << sPath;
+  }
   EXPECT_EQ(AppendToFile("/dev/full", "x", ""), std::errc::no_space_on_device);
-  EXPECT_TRUE(FileExists("/dev/full"));
-  EXPECT_FALSE(FileExists(m_sFile + "/below"));
   EXPECT_EQ(ReadTestFile(m_sFile), "old");
-  EXPECT_EQ(FilesInFolder(), 1U);
+  EXPECT_EQ(FilesInFolder(), 4U);
 }
 
 }  // namespace

@@ -1,0 +1,59 @@
+#include "platform/Temporaries.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <cstddef>
+#include <random>
+#include <string_view>
+
+namespace quillet {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view kHead = ".quillet-";
+constexpr std::string_view kTail = ".tmp";
+constexpr std::string_view kDigits = "0123456789abcdef";
+constexpr std::size_t kLetters = 16;
+
+bool IsTemporary(const std::string& sName) {
+  return sName.size() == kHead.size() + kLetters + kTail.size() && sName.starts_with(kHead) &&
+         sName.ends_with(kTail) &&
+         sName.find_first_not_of(kDigits, kHead.size()) == kHead.size() + kLetters;
+}
+
+/// What stands before the file's own name, its separator included.
+std::string FolderOf(const std::string& sPath) {
+  const auto nSeparator = static_cast<char>(fs::path::preferred_separator);
+  return sPath.substr(0, sPath.find_last_of(std::string{'/', nSeparator}) + 1);
+}
+
+}  // namespace
+
+std::string TemporaryBeside(const std::string& sPath) {
+  std::random_device oRandom;
+  std::string sName(kHead);
+  for (std::size_t i = 0; i < kLetters; ++i) {
+    sName += kDigits[oRandom() % kDigits.size()];
+  }
+  return FolderOf(sPath) + sName.append(kTail);
+}
+
+void SweepTemporariesBeside(const std::string& sPath) {
+  const fs::file_time_type oOld = fs::file_time_type::clock::now() - std::chrono::hours(24);
+  const std::string sFolder = FolderOf(sPath);
+  std::error_code oError;
+  fs::directory_iterator oFiles(PathOf(sFolder.empty() ? "." : sFolder), oError);
+  for (; !oError && oFiles != fs::directory_iterator(); oFiles.increment(oError)) {
+    const std::u8string sName = oFiles->path().filename().u8string();
+    std::error_code oIgnored;
+    if (IsTemporary(std::string(sName.begin(), sName.end())) &&
+        fs::is_regular_file(oFiles->symlink_status(oIgnored)) &&
+        oFiles->last_write_time(oIgnored) < oOld && !oIgnored) {
+      fs::remove(oFiles->path(), oIgnored);
+    }
+  }
+}
+
+}  // namespace quillet
