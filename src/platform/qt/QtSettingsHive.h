@@ -6,19 +6,12 @@
 #include <memory>
 
 #include "platform/SettingsHive.h"
-
-class QString;
+#include "platform/qt/SettingsStore.h"
 
 namespace quillet {
 
-/// A file that can't be written (no leave, no folder, no room) costs the change and nothing else:
-/// Write answers false, the file stays whole, and reading gives what it holds.
-///
-/// Replacing a file takes longer than a drag may pause, so changes are gathered: they are in the
-/// file upon Flush, kGatherMilliseconds later if the event loop runs, and at the latest when the
-/// hive is destroyed. Write tries beforehand whether that will work; if the disk fills up in
-/// between, the gathered changes are lost. Reading sees them at once, and always what other
-/// programs have stored.
+/// Changes may be gathered by the place: they are in it upon Flush, kGatherMilliseconds later if
+/// the event loop runs, and at the latest when the hive is destroyed.
 ///
 /// Made after the application object, whose event loop it uses.
 class QtSettingsHive : public SettingsHive {
@@ -27,8 +20,8 @@ class QtSettingsHive : public SettingsHive {
 
   /// The platform's own places.
   QtSettingsHive();
-  /// Files velmor/quillet.ini below these folders, which needn't exist.
-  QtSettingsHive(const QString& sUserFolder, const QString& sMachineFolder);
+  /// Places of their own.
+  QtSettingsHive(std::unique_ptr<SettingsStore> oUser, std::unique_ptr<SettingsStore> oMachine);
   QtSettingsHive(const QtSettingsHive&) = delete;
   QtSettingsHive& operator=(const QtSettingsHive&) = delete;
   ~QtSettingsHive() override;
@@ -41,14 +34,11 @@ class QtSettingsHive : public SettingsHive {
   void Flush() override;
 
  private:
-  class Store;
+  [[nodiscard]] SettingsStore& StoreOf(HiveRoot eRoot) const;
+  bool Change(SettingsStore& oStore, const QString& sKey, const std::optional<QString>& sValue);
 
-  QtSettingsHive(std::unique_ptr<Store> oUser, std::unique_ptr<Store> oMachine);
-  [[nodiscard]] Store& StoreOf(HiveRoot eRoot) const;
-  bool Change(Store& oStore, const QString& sKey, const std::optional<QString>& sValue);
-
-  std::unique_ptr<Store> m_oUser;
-  std::unique_ptr<Store> m_oMachine;
+  std::unique_ptr<SettingsStore> m_oUser;
+  std::unique_ptr<SettingsStore> m_oMachine;
   QTimer m_oGathering;  ///< runs while changes are being gathered
 };
 

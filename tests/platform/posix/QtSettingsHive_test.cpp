@@ -4,16 +4,19 @@
 #include <QDeadlineTimer>
 #include <csignal>
 #include <filesystem>
-#include <fstream>
 #include <functional>
 #include <iterator>
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "support/TestHost.h"
+#include "platform/posix/IniStore.h"
+#include "support/Log.h"
 
 namespace quillet {
 namespace {
@@ -25,14 +28,13 @@ const std::string kPath = "Software\\Velmor\\Quillet US\\Config";
 class QtSettingsHiveTest : public ::testing::Test {
  protected:
   [[nodiscard]] std::unique_ptr<QtSettingsHive> Open() const {
-    return std::make_unique<QtSettingsHive>(QString::fromStdString(m_oFolder / "user"),
-                                            QString::fromStdString(m_oFolder / "machine"));
+    const auto fnStore = [this](const char* sName) {
+      return std::make_unique<IniStore>(QString::fromStdString(m_oFolder / sName));
+    };
+    return std::make_unique<QtSettingsHive>(fnStore("user"), fnStore("machine"));
   }
   [[nodiscard]] std::string UserFile() const { return m_oFolder / "user/velmor/quillet.ini"; }
-  [[nodiscard]] std::string Content() const {
-    std::ifstream oFile(UserFile(), std::ios::binary);
-    return {std::istreambuf_iterator<char>(oFile), {}};
-  }
+  [[nodiscard]] std::string Content() const { return ReadTestFile(UserFile()); }
   [[nodiscard]] std::ptrdiff_t FilesInUserFolder() const {
     return std::distance(std::filesystem::directory_iterator(m_oFolder / "user/velmor"), {});
   }
@@ -86,49 +88,33 @@ TEST_F(QtSettingsHiveTest, EveryTextComesBackExactlyInTheNextProgram) {
                                  "\ttab\t",
                                  "a,b",
                                  "@Invalid()",
-                                 "@ByteArray()",
                                  "%20 100%",
-                                 "two\nlines\r\n",
+                                 "two\nlines\r\nbegin with \x01 f",
                                  "\"quoted\" back\\slash\\",
                                  "a;b#c=d",
                                  "£ € 価格 \xF0\x9F\x98\x80 \xC2\x9F",
                                  std::string("nul\0nul", 7),
                                  "007",
                                  std::string(20000, 'x')};
+  const auto fnPath = [](std::size_t n) { return n % 2 == 0 ? kPath : "General\\£ € [" + kPath; };
   {
     const auto oHive = Open();
     for (std::size_t n = 0; n < std::size(asTexts); ++n) {
-      EXPECT_TRUE(oHive->Write(kUser, kPath, "Value" + std::to_string(n), asTexts[n]));
+      EXPECT_TRUE(oHive->Write(kUser, fnPath(n), "Value/" + std::to_string(n), asTexts[n]));
     }
   }
-  const bool bSame = InAnotherProcess([&] {
-    const auto oHive = Open();
-    for (std::size_t n = 0; n < std::size(asTexts); ++n) {
-      const auto sRead = oHive->Read(kUser, kPath, "Value" + std::to_string(n));
-      EXPECT_EQ(sRead, asTexts[n]);
-    }
-    return !::testing::Test::HasFailure();
-  });
-  EXPECT_TRUE(bSame);
-}
-
-TEST_F(QtSettingsHiveTest, RootsPathsAndNamesAreKeptApart) {
   const auto oHive = Open();
-  EXPECT_TRUE(oHive->Write(kUser, kPath, "Top", "1"));
-  EXPECT_TRUE(oHive->Write(kMachine, kPath, "Top", "2"));
-  EXPECT_TRUE(oHive->Write(kUser, kPath + "\\Deeper", "Top", "3"));
-  EXPECT_TRUE(oHive->Write(kUser, kPath, "Left", "4"));
-  oHive->Delete(kUser, kPath, "Top");
-  EXPECT_EQ(oHive->Read(kUser, kPath, "Top"), std::nullopt);
-  EXPECT_EQ(oHive->Read(kMachine, kPath, "Top"), "2");
-  EXPECT_EQ(oHive->Read(kUser, kPath + "\\Deeper", "Top"), "3");
-  EXPECT_EQ(oHive->Read(kUser, kPath, "Left"), "4");
+  for (std::size_t n = 0; n < std::size(asTexts); ++n) {
+    EXPECT_EQ(oHive->Read(kUser, fnPath(n), "Value/" + std::to_string(n)), asTexts[n]);
+    EXPECT_EQ(oHive->Read(kMachine, fnPath(n), "Value/" + std::to_string(n)), std::nullopt);
+  }
 }
 
-TEST_F(QtSettingsHiveTest, AListTypedIntoTheFileWithoutQuotesIsOneText) {
+TEST_F(QtSettingsHiveTest, AListTypedIntoTheFileWithoutQuotesIsOneTextAndKeptAsThat) {
   std::filesystem::create_directories(m_oFolder / "user/velmor");
-  std::ofstream(UserFile()) << "[Software]\nVelmor\\Visible=optA,optB\n";
-  EXPECT_EQ(Open()->Read(kUser, "Software\\Velmor", "Visible"), "optA,optB");
+  WriteTestFile(UserFile(), "[Software]\nVelmor\\Visible=optA,optB\n");
+  EXPECT_TRUE(Open()->Write(kUser, "Software\\Velmor", "Top", "1"));
+  EXPECT_EQ(Content(), "[Software]\nVelmor\\Top=1\nVelmor\\Visible=\"optA,optB\"\n");
 }
 
 TEST_F(QtSettingsHiveTest, TwoRunningProgramsSeeAndKeepEachOthersValues) {
@@ -175,17 +161,50 @@ TEST_F(QtSettingsHiveTest, AFullDiskCostsTheChangeAndNothingElse) {
   EXPECT_EQ(Open()->Read(kUser, kPath, "Other"), std::nullopt) << "a lost change stays lost";
 }
 
-TEST_F(QtSettingsHiveTest, GatheredChangesThatCantBeStoredAnyMoreAreForgotten) {
+TEST_F(QtSettingsHiveTest, AStoreThatCantBeReplacedAnyMoreStaysWhole) {
   ASSERT_TRUE(Open()->Write(kUser, kPath, "Kept", "old"));
   const std::string sBefore = Content();
-  const auto oHive = Open();
-  EXPECT_TRUE(oHive->Write(kUser, kPath, "Kept", "new"));
-  {
-    const FullDisk oFull(0);
-    EXPECT_TRUE(WaitUntil([&] { return oHive->Read(kUser, kPath, "Kept") == "old"; }));
+  const std::unique_ptr<QtSettingsHive> aoHives[] = {Open(), Open(), Open()};
+  const auto fnGather = [&](int n) {
+    EXPECT_TRUE(aoHives[n]->Write(kUser, kPath, "Kept", "new"));
+    return aoHives[n].get();
+  };
+  for (const rlim_t nRoom : {rlim_t{0}, sBefore.size() - 1}) {
+    QtSettingsHive* const pHive = fnGather(nRoom == 0 ? 0 : 1);
+    const FullDisk oFull(nRoom);
+    pHive->Flush();
+    EXPECT_EQ(pHive->Read(kUser, kPath, "Kept"), "old") << nRoom;
   }
+  QtSettingsHive* const pHive = fnGather(2);
+  const int nHolder = ::open((m_oFolder / "user/velmor").c_str(), O_RDONLY);
+  ASSERT_EQ(::flock(nHolder, LOCK_EX), 0);
+  const QDeadlineTimer oLimit(2 * IniStore::kLockMilliseconds);
+  pHive->Flush();
+  ::close(nHolder);
+  EXPECT_FALSE(oLimit.hasExpired()) << "another program never lets go";
   EXPECT_EQ(Content(), sBefore);
-  EXPECT_TRUE(oHive->Write(kUser, kPath, "Kept", "newer"));
+  EXPECT_EQ(FilesInUserFolder(), 1);
+}
+
+TEST_F(QtSettingsHiveTest, WhatKilledProgramsLeaveHoldsUpNoOther) {
+  std::filesystem::create_directories(UserFile() + ".lock");
+  const QDeadlineTimer oLimit(IniStore::kLockMilliseconds / 2);
+  EXPECT_TRUE(Open()->Write(kUser, kPath, "Top", "1"));
+  EXPECT_EQ(Open()->Read(kUser, kPath, "Top"), "1");
+  EXPECT_FALSE(oLimit.hasExpired());
+}
+
+TEST_F(QtSettingsHiveTest, AStoreThatCantBeReadIsNotTakenForAnEmptyOne) {
+  EXPECT_TRUE(InAnotherProcess([&] {
+    std::filesystem::permissions(m_oFolder.sPath, std::filesystem::perms::all);
+    (void)!::setuid(65534);
+    EXPECT_TRUE(Open()->Write(kUser, kPath, "Kept", "old"));
+    EXPECT_EQ(::chmod(UserFile().c_str(), 0200), 0);
+    EXPECT_FALSE(Open()->Write(kUser, kPath, "Other", "new"));
+    EXPECT_EQ(::chmod(UserFile().c_str(), 0600), 0);
+    EXPECT_EQ(Open()->Read(kUser, kPath, "Kept"), "old");
+    return !HasFailure();
+  }));
 }
 
 }  // namespace

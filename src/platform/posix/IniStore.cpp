@@ -1,0 +1,153 @@
+#include "platform/posix/IniStore.h"
+
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <QThread>
+#include <cerrno>
+#include <limits>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "platform/Files.h"
+#include "platform/Temporaries.h"
+
+namespace quillet {
+namespace {
+
+/// A folder that other programs of this kind keep out of. It is let go with the process that holds
+/// it, however that ends. A file system without locks counts as one that nobody else uses.
+class FolderLock {
+ public:
+  FolderLock(const QString& sFolder, int nMilliseconds)
+      : m_nHandle(::open(QFile::encodeName(sFolder).constData(), O_RDONLY | O_CLOEXEC)) {
+    const QDeadlineTimer oEnd(nMilliseconds);
+    while (::flock(m_nHandle, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
+      if (oEnd.hasExpired()) {
+        return;
+      }
+      QThread::msleep(10);
+    }
+    m_bHeld = m_nHandle >= 0;
+  }
+  FolderLock(const FolderLock&) = delete;
+  FolderLock& operator=(const FolderLock&) = delete;
+  ~FolderLock() { ::close(m_nHandle); }
+
+  [[nodiscard]] bool IsHeld() const { return m_bHeld; }
+
+ private:
+  int m_nHandle;
+  bool m_bHeld = false;
+};
+
+std::string StampOf(const QString& sFile) {
+  struct stat oStatus {};
+  if (::stat(QFile::encodeName(sFile).constData(), &oStatus) != 0) {
+    return "";
+  }
+  std::string sStamp;
+  for (const auto nPart :
+       {static_cast<std::int64_t>(oStatus.st_dev), static_cast<std::int64_t>(oStatus.st_ino),
+        std::int64_t{oStatus.st_size}, std::int64_t{oStatus.st_mtim.tv_sec},
+        std::int64_t{oStatus.st_mtim.tv_nsec}}) {
+    sStamp += std::to_string(nPart) + ' ';
+  }
+  return sStamp;
+}
+
+}  // namespace
+
+std::unique_ptr<SettingsStore> PlatformStore(HiveRoot eRoot) {
+  // The folders begin with the user's and end with the machine's.
+  const QStringList asFolders =
+      QStandardPaths::standardLocations(QStandardPaths::GenericConfigLocation);
+  return std::make_unique<IniStore>(eRoot == HiveRoot::Machine ? asFolders.constLast()
+                                                               : asFolders.constFirst());
+}
+
+IniStore::IniStore(const QString& sFolder)
+    : m_sFolder(sFolder + "/velmor"), m_sFile(m_sFolder + "/quillet.ini") {}
+
+std::optional<QString> IniStore::Read(const QString& sKey) {
+  if (const auto oGathered = m_asGathered.find(sKey); oGathered != m_asGathered.end()) {
+    return oGathered->second;
+  }
+  (void)Follow();
+  const auto oFound = m_asValues.find(sKey);
+  return oFound == m_asValues.end() ? std::nullopt : std::optional(oFound->second);
+}
+
+bool IniStore::Change(const QString& sKey, const std::optional<QString>& sValue) {
+  if (m_asGathered.empty() && !HasLeaveAndRoomFor(sKey, sValue.value_or(QString()))) {
+    return false;
+  }
+  m_asGathered[sKey] = sValue;
+  return true;
+}
+
+void IniStore::Flush() {
+  if (const Changes asChanges = std::exchange(m_asGathered, {}); !asChanges.empty()) {
+    Store(asChanges);
+  }
+}
+
+/// Reads the file if another stands in its place since. False if one is there that can't be read,
+/// which must not be taken for an empty one.
+bool IniStore::Follow() {
+  std::string sStamp = StampOf(m_sFile);
+  if (sStamp == m_sStamp) {
+    return true;
+  }
+  std::string sText;
+  const std::error_code oError =
+      ReadWholeFile(m_sFile.toStdString(), std::numeric_limits<std::size_t>::max(), sText);
+  const bool bRead = !oError || oError == std::errc::no_such_file_or_directory;
+  m_sStamp = bRead ? std::move(sStamp) : "";
+  m_asValues = ReadIniText(sText);
+  return bRead;
+}
+
+/// A trial shows whether the file can be written at its new size.
+bool IniStore::HasLeaveAndRoomFor(const QString& sKey, const QString& sValue) {
+  constexpr qsizetype kLongestEscape = 6;  // bytes that one character may take in the file
+  const QFileInfo oFile(m_sFile);
+  if (!QDir().mkpath(m_sFolder) || !Follow() || (oFile.exists() && !oFile.isWritable())) {
+    return false;
+  }
+  const qsizetype nSize = oFile.size() + kLongestEscape * (sKey.size() + sValue.size());
+  const QString sTrial = QString::fromStdString(TemporaryBeside(m_sFile.toStdString()));
+  QFile oTrial(sTrial);
+  const bool bRoom = oTrial.open(QIODevice::WriteOnly | QIODevice::NewOnly) &&
+                     oTrial.write(QByteArray(nSize, ' ')) == nSize && oTrial.flush();
+  QFile::remove(sTrial);
+  return bRoom;
+}
+
+/// What the file holds now, with the changes; or what it held, if anything is amiss.
+void IniStore::Store(const Changes& asChanges) {
+  const FolderLock oLock(m_sFolder, kLockMilliseconds);
+  if (!oLock.IsHeld() || !Follow()) {
+    return;
+  }
+  IniValues asValues = m_asValues;
+  for (const auto& [sKey, sValue] : asChanges) {
+    if (sValue) {
+      asValues[sKey] = *sValue;
+    } else {
+      asValues.erase(sKey);
+    }
+  }
+  if (!ReplaceFile(m_sFile.toStdString(), IniText(asValues))) {
+    m_asValues = std::move(asValues);
+    m_sStamp = StampOf(m_sFile);
+  }
+}
+
+}  // namespace quillet
