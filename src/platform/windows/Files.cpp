@@ -94,13 +94,25 @@ std::error_code WriteNewFile(const std::string& sPath, std::string_view sContent
   return sWritten == sContent ? oFile.Close() : std::make_error_code(std::errc::io_error);
 }
 
-/// The first way keeps the old file's rights and dates. It needs an old file, and a disk that has
-/// such things.
-bool PutInPlace(const std::wstring& sTemporary, const std::wstring& sPath) {
+/// Keeps the old file's rights and dates. Where that breaks off halfway, the old file is put back.
+bool PutInPlaceOfOld(const std::wstring& sTemporary, const std::wstring& sPath) {
   constexpr DWORD kIgnoreRights = 4;  // REPLACEFILE_IGNORE_ACL_ERRORS, which not every header has
-  return ::ReplaceFileW(sPath.c_str(), sTemporary.c_str(), nullptr,
-                        REPLACEFILE_IGNORE_MERGE_ERRORS | kIgnoreRights, nullptr,
-                        nullptr) != FALSE ||
+  const std::wstring sOld = sTemporary + L".old";
+  const bool bDone =
+      ::ReplaceFileW(sPath.c_str(), sTemporary.c_str(), sOld.c_str(),
+                     REPLACEFILE_IGNORE_MERGE_ERRORS | kIgnoreRights, nullptr, nullptr) != FALSE;
+  if (!bDone) {
+    ::MoveFileExW(sOld.c_str(), sPath.c_str(), 0);
+  }
+  if (::GetFileAttributesW(sPath.c_str()) != INVALID_FILE_ATTRIBUTES) {
+    ::DeleteFileW(sOld.c_str());
+  }
+  return bDone;
+}
+
+/// The first way needs an old file, and a disk that has rights.
+bool PutInPlace(const std::wstring& sTemporary, const std::wstring& sPath) {
+  return PutInPlaceOfOld(sTemporary, sPath) ||
          ::MoveFileExW(sTemporary.c_str(), sPath.c_str(),
                        MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE;
 }
@@ -152,10 +164,10 @@ std::error_code ReplaceFile(const std::string& sPath, std::string_view sContent)
   if (!oError && !PutInPlace(Wide(sTemporary), Wide(sPath))) {
     oError = LastError();
   }
-  if (!oError) {
+  if (oError) {
+    ::DeleteFileW(Wide(sTemporary).c_str());
+  } else {
     SweepTemporariesBeside(sPath);
-  } else if (nAttributes == INVALID_FILE_ATTRIBUTES || FileExists(sPath)) {
-    ::DeleteFileW(Wide(sTemporary).c_str());  // unless it is all that is left
   }
   return oError;
 }

@@ -84,16 +84,6 @@ TEST_F(Files, AFailedReplacementLeavesTheOldFileWholeAndSaysWhy) {
   EXPECT_EQ(FilesInFolder(), 1U) << "and no temporary file";
 }
 
-TEST_F(Files, AReplacedFileKeepsItsRightsAndLeavesNothingBeside) {
-  WriteTestFile(m_sFile, "old");
-  ::SetFileAttributesW(Wide(m_sFile).c_str(), FILE_ATTRIBUTE_HIDDEN);
-  EXPECT_FALSE(ReplaceFile(m_sFile, "new"));
-  EXPECT_EQ(::GetFileAttributesW(Wide(m_sFile).c_str()) & FILE_ATTRIBUTE_HIDDEN,
-            DWORD{FILE_ATTRIBUTE_HIDDEN});
-  EXPECT_EQ(ReadTestFile(m_sFile), "new");
-  EXPECT_EQ(FilesInFolder(), 1U);
-}
-
 TEST_F(Files, AppendsWhileAnotherProgramReads) {
   EXPECT_FALSE(AppendToFile(m_sFile, "1\n", "head\n"));
   const OpenElsewhere oOpen(m_sFile, FILE_SHARE_READ | FILE_SHARE_WRITE);
