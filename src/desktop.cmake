@@ -44,6 +44,7 @@ add_library(quillet_desktop STATIC
   sections/ctlSellingFeatures.cpp
   sections/ctlShopDurations.cpp
   sections/ctlSubControlExample.cpp
+  shell/KeptAuction.cpp
   shell/SectionSet.cpp
   shell/WizardSteps.cpp
   shell/DesktopApplication.cpp

@@ -70,6 +70,10 @@ void ctlAuctionType::ApplyAuctionType(clsAuctionType& oAuctionType) {
   The<ctlRealEstateOptions>("ctlRealEstateOption").ApplyAuctionType(oAuctionType);
   SetValueOf("chkShopInventory", oAuctionType.m_bShopInventory ? 1 : 0);
   The<ctlShopDurations>("ctlShopDuration").ApplyAuctionType(oAuctionType);
+  ShowTotal(oAuctionType);
+}
+
+void ctlAuctionType::ShowTotal(clsAuctionType& oAuctionType) {
   ShowSectionTotal(The<Label>("lblTotal"), oAuctionType.DoCalcAuto());
 }
 

@@ -17,6 +17,9 @@ class ctlAuctionType : public SectionPanel {
   /// and raises Changed.
   void ApplyAuctionType(clsAuctionType& oAuctionType);
 
+  /// Shows the fees of a listing, whatever the boxes show.
+  void ShowTotal(clsAuctionType& oAuctionType);
+
  protected:
   void UpdateModel() override;
   void InputClicked(Control& oInput) override;

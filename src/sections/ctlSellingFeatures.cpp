@@ -200,6 +200,22 @@ void ctlSellingFeatures::ShowWhatIsOpen(const clsSellingFeatures& oFeatures,
   }
 }
 
+void ctlSellingFeatures::UntickCarAd() {
+  const FlagGuard oApplying(m_bApplying);
+  SetValueOf("chkCarAd", 0);
+}
+
+bool ctlSellingFeatures::DropUnticked() {
+  const bool bAny = std::any_of(kRows.begin(), kRows.end(), [this](const FeatureRow& oRow) {
+    return m_oFeatures->HasFeature(oRow.eBit) && ValueOf(oRow.sBox) == 0 &&
+           (oRow.eBit != kFeatureCarAd || !Find(oRow.sFrame)->Enabled());
+  });
+  if (bAny) {
+    UpdateModel();
+  }
+  return bAny;
+}
+
 void ctlSellingFeatures::UpdateModel() {
   if (m_bApplying || m_oFeatures == nullptr) {
     return;

@@ -18,6 +18,13 @@ class ctlSellingFeatures : public SectionPanel {
   void ApplyFeatures(clsSellingFeatures& oFeatures, const clsAuctionType* oAuctionType,
                      const clsOutlay* oOutlay);
 
+  /// Unticks the car ad, whose box ApplyFeatures leaves alone.
+  void UntickCarAd();
+
+  /// Writes the boxes into the model if that holds a feature whose box is unticked, and tells
+  /// whether it did. A car ad whose box is open is no reason for it.
+  bool DropUnticked();
+
  protected:
   void InputClicked(Control& oInput) override;
   void AfterPlacing(const Control& oPlaced) override;

@@ -1,6 +1,9 @@
 #include "shell/SectionSet.h"
 
+#include <utility>
+
 #include "base/failure.h"
+#include "shell/KeptAuction.h"
 
 namespace quillet {
 namespace {
@@ -14,33 +17,80 @@ Section& Make(QWidget& oView, const char* sName) {
 
 }  // namespace
 
-SectionSet::SectionSet(QWidget& oView)
+SectionSet::SectionSet(QWidget& oView, std::function<void(bool)> fnChanged)
     : ctlSellingCostsSection(Make<ctlSellingCosts>(oView, "ctlSellingCostsSection")),
       ctlOutlaySection(Make<ctlOutlay>(oView, "ctlOutlaySection")),
       ctlSellingFeaturesSection(Make<ctlSellingFeatures>(oView, "ctlSellingFeaturesSection")),
       ctlAuctionTypeSection(Make<ctlAuctionType>(oView, "ctlAuctionTypeSection")),
       ctlPayPalSection(Make<ctlPayPal>(oView, "ctlPayPalSection")),
-      ctlPostageSection(Make<ctlPostage>(oView, "ctlPostageSection")) {}
+      ctlPostageSection(Make<ctlPostage>(oView, "ctlPostageSection")),
+      m_fnChanged(std::move(fnChanged)) {}
 
-void SectionSet::RefreshSums(clsCalculate& oDocument, bool bUpdateControlDisplays,
-                             const std::function<void(bool)>& fnChanged) {
+void SectionSet::RefreshSums(clsCalculate& oDocument, bool bUpdateControlDisplays) {
+  if (bUpdateControlDisplays && !oDocument.m_oAuctionType.m_bShopInventory) {
+    oDocument.m_oAuctionType.m_eShopDuration = kShopNone;  // as the section would have it
+  }
+  Refresh(oDocument, bUpdateControlDisplays ? &SectionSet::BringOnView : nullptr);
+}
+
+void SectionSet::FollowChange(clsCalculate& oDocument) {
+  Refresh(oDocument, &SectionSet::PushChange);
+}
+
+void SectionSet::Refresh(clsCalculate& oDocument, Push pPush) {
   if (m_bRefreshing) {
     return;
   }
   const FlagGuard oRefreshing(m_bRefreshing);
   IgnoreFailure([&] {
-    oDocument.DoCalc();
-    ctlSellingCostsSection.ApplySellingCosts(oDocument);
-    fnChanged(oDocument.IsDirty());
-    if (!bUpdateControlDisplays) {
+    ShowSums(oDocument);
+    m_fnChanged(oDocument.IsDirty());
+    if (pPush == nullptr) {
       return;
     }
     const bool bDirty = oDocument.IsDirty();
-    PushModels(oDocument);
+    (this->*pPush)(oDocument);
     if (oDocument.IsDirty() && !bDirty) {
       oDocument.SetDirty(false);
     }
   });
+}
+
+void SectionSet::ShowSums(clsCalculate& oDocument) {
+  oDocument.DoCalc();
+  ctlSellingCostsSection.ApplySellingCosts(oDocument);
+}
+
+/// Sections write into an auction what they still show of another one. So both are put back, and
+/// pushed again, until the boxes show what comes; codes that no option has are kept all the same.
+void SectionSet::BringOnView(clsCalculate& oDocument) {
+  constexpr int kMostPushes = 5;
+  KeptAuction oKept(oDocument);
+  KeptAuction oBefore(m_oOnView != nullptr ? *m_oOnView : oDocument);
+  m_oOnView = &oDocument;
+  if (!oDocument.m_oSellingFeatures.HasFeature(kFeatureCarAd)) {
+    ctlSellingFeaturesSection.UntickCarAd();
+  }
+  bool bUnchanged = false;
+  for (int i = 0; i < kMostPushes && !bUnchanged; ++i) {
+    IgnoreFailure([&] {
+      ShowKeptInsurance(oDocument);
+      PushModels(oDocument);
+    });
+    bUnchanged = oKept.IsUnchanged() && oBefore.IsUnchanged();
+    oKept.PutBack();
+    oBefore.PutBack();
+  }
+  ctlAuctionTypeSection.ShowTotal(oDocument.m_oAuctionType);
+  ShowSums(oDocument);
+}
+
+/// A feature whose box went grey, or was struck out, is charged no longer.
+void SectionSet::PushChange(clsCalculate& oDocument) {
+  PushModels(oDocument);
+  if (ctlSellingFeaturesSection.DropUnticked()) {
+    ShowSums(oDocument);
+  }
 }
 
 std::array<SectionPanel*, 5> SectionSet::Sections() const {
@@ -56,6 +106,17 @@ void SectionSet::PushModels(clsCalculate& oDocument) {
   ctlAuctionTypeSection.ApplyAuctionType(oDocument.m_oAuctionType);
   ctlPayPalSection.ApplyFeatures(oDocument.m_oPayPal, pOutlay);
   ctlPostageSection.ApplyFeatures(oDocument.m_oPostage, pOutlay);
+}
+
+/// A parcel's band is kept with a class that can't have it, but the list of bands doesn't take it
+/// over from there: it has to be on show before.
+void SectionSet::ShowKeptInsurance(clsCalculate& oDocument) {
+  clsPostage& oPostage = oDocument.m_oPostage;
+  if (!oPostage.CanHaveInsurance(oPostage.m_eInsuranceBand)) {
+    const std::int32_t eClass = std::exchange(oPostage.m_ePostageClass, kPostageParcel);
+    ctlPostageSection.ApplyFeatures(oPostage, &oDocument.m_oOutlay);
+    oPostage.m_ePostageClass = eClass;
+  }
 }
 
 }  // namespace quillet

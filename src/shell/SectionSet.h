@@ -17,13 +17,20 @@ namespace quillet {
 class SectionSet {
  public:
   /// Makes the controls as children of the view, which owns them and must outlive the set.
-  explicit SectionSet(QWidget& oView);
+  /// `fnChanged` is told at each calculation whether the auction is dirty.
+  SectionSet(QWidget& oView, std::function<void(bool bDirty)> fnChanged);
 
-  /// Calculates an auction and shows it in the summary, tells `fnChanged` whether it is dirty, and
-  /// with `bUpdateControlDisplays` pushes its models into the sections; that alone never makes the
-  /// auction dirty. A call from within does nothing; a Failure ends the routine silently.
-  void RefreshSums(clsCalculate& oDocument, bool bUpdateControlDisplays,
-                   const std::function<void(bool)>& fnChanged);
+  // Both calculate an auction and show it in the summary. A call from within does nothing; a
+  // Failure ends the routine silently.
+
+  /// An auction comes on view: with `bUpdateControlDisplays` its models are pushed into the
+  /// sections, which changes neither it nor the auction that was on view before, nor their flags.
+  /// Both must outlive the set.
+  void RefreshSums(clsCalculate& oDocument, bool bUpdateControlDisplays);
+
+  /// The user has changed the auction on view: its models are pushed into the sections once, so
+  /// that they react, and what can't be had any more is taken out of it.
+  void FollowChange(clsCalculate& oDocument);
 
   [[nodiscard]] bool IsRefreshing() const { return m_bRefreshing; }
 
@@ -38,9 +45,18 @@ class SectionSet {
   ctlPostage& ctlPostageSection;
 
  private:
-  void PushModels(clsCalculate& oDocument);
+  using Push = void (SectionSet::*)(clsCalculate& oDocument);
 
+  void Refresh(clsCalculate& oDocument, Push pPush);
+  void ShowSums(clsCalculate& oDocument);
+  void BringOnView(clsCalculate& oDocument);
+  void PushChange(clsCalculate& oDocument);
+  void PushModels(clsCalculate& oDocument);
+  void ShowKeptInsurance(clsCalculate& oDocument);
+
+  std::function<void(bool)> m_fnChanged;
   bool m_bRefreshing = false;
+  clsCalculate* m_oOnView = nullptr;  ///< what the sections were given last
 };
 
 }  // namespace quillet

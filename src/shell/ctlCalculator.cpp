@@ -55,7 +55,9 @@ bool Holds(const SectionPanel& oSection, const QWidget* pWidget) {
 }  // namespace
 
 ctlCalculator::ctlCalculator(QWidget* pParent)
-    : QWidget(pParent), Control(static_cast<QWidget&>(*this)), m_oSet(*this) {
+    : QWidget(pParent),
+      Control(static_cast<QWidget&>(*this)),
+      m_oSet(*this, [this](bool bDocDirty) { emit Changed(bDocDirty); }) {
   const std::array aoPlaces = std::to_array<quillet::Place>({
       {&m_oSet.ctlSellingCostsSection, 120, 120, 10755, 960},
       {&m_oSet.ctlOutlaySection, 240, 1560, 5550, 1935},
@@ -75,7 +77,7 @@ ctlCalculator::ctlCalculator(QWidget* pParent)
   setFocusPolicy(Qt::ClickFocus);  // a click beside the sections leaves the box that was typed into
   m_oSet.ctlSellingCostsSection.SetMode(0);
   for (SectionPanel* const pSection : m_oSet.Sections()) {
-    connect(pSection, &SectionPanel::Changed, this, [this] { RefreshSums(true); });
+    connect(pSection, &SectionPanel::Changed, this, [this] { m_oSet.FollowChange(Document()); });
     connect(pSection, &SectionPanel::Moved, this, [this, pSection](float fX, float fY) {
       IgnoreFailure([&] { MoveSection(*pSection, fX, fY); });
     });
@@ -108,9 +110,11 @@ void ctlCalculator::RefreshSums(bool bUpdateControlDisplays, clsCalculate* pDocu
     return;
   }
   m_oDocument = pDocument != nullptr ? pDocument : m_oDocument;
-  clsCalculate& oDocument = m_oDocument != nullptr ? *m_oDocument : WorkingAuction();
-  m_oSet.RefreshSums(oDocument, bUpdateControlDisplays,
-                     [this](bool bDocDirty) { emit Changed(bDocDirty); });
+  m_oSet.RefreshSums(Document(), bUpdateControlDisplays);
+}
+
+clsCalculate& ctlCalculator::Document() const {
+  return m_oDocument != nullptr ? *m_oDocument : WorkingAuction();
 }
 
 void ctlCalculator::CalcMinSize(int& nWidth, int& nHeight) const {

@@ -28,8 +28,8 @@ class ctlCalculator : public QWidget, public Control {
   /// Puts the sections back where the design has them, and stores that.
   void ResetControlPositions();
 
-  /// Calculates and shows a document, which is kept; without one, the one kept before, or else the
-  /// working auction.
+  /// Calculates a document that comes on view, and shows it; it is kept. Without one, the one kept
+  /// before, or else the working auction.
   void RefreshSums(bool bUpdateControlDisplays, clsCalculate* pDocument = nullptr);
 
   /// The size, in twips, that holds the summary and all sections but the auction type's, which
@@ -50,6 +50,7 @@ class ctlCalculator : public QWidget, public Control {
   void Placed() override { PlaceCards(); }
 
  private:
+  [[nodiscard]] clsCalculate& Document() const;
   void UserControl_Show();
   void FollowPlaces();
   void PlaceCards();

@@ -80,7 +80,7 @@ QRectF CardOf(const Control& oFrame, const SectionPanel& oSection) {
 ctlWizard::ctlWizard(QWidget* pParent)
     : QWidget(pParent),
       Control(static_cast<QWidget&>(*this)),
-      m_oSet(*this),
+      m_oSet(*this, [this](bool bDocDirty) { emit Changed(bDocDirty); }),
       m_aPages(MakePages()),
       m_pInfo(Make<Label>("lblInfo", this)),
       m_pSteps(Make<WizardSteps>("Steps", this)),
@@ -151,7 +151,8 @@ void ctlWizard::MakeFrames() {
     oSection.setParent(m_apPages.at(i));
     oSection.SetVisible(true);
     oSection.Place(nLeft, kSectionTop, nSectionWidth, nSectionHeight);
-    connect(&oSection, &SectionPanel::Changed, this, [this] { RefreshSums(true); });
+    connect(&oSection, &SectionPanel::Changed, this,
+            [this] { m_oSet.FollowChange(WorkingAuction()); });
   }
   m_pVert->raise();
   const std::array aoSections = m_oSet.Sections();
@@ -202,8 +203,7 @@ void ctlWizard::MakeKeys() {
 }
 
 void ctlWizard::RefreshSums(bool bUpdateControlDisplays) {
-  m_oSet.RefreshSums(WorkingAuction(), bUpdateControlDisplays,
-                     [this](bool bDocDirty) { emit Changed(bDocDirty); });
+  m_oSet.RefreshSums(WorkingAuction(), bUpdateControlDisplays);
 }
 
 void ctlWizard::showEvent(QShowEvent* pEvent) {

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <deque>
 #include <filesystem>
+#include <fstream>
 #include <iostream>
 #include <numeric>
 #include <random>
@@ -201,7 +202,10 @@ class Walk {
   }
 
   void ShowConfiguration() {
-    m_oStep = {.sWhat = "configuration", .bLaysOut = true};
+    m_oStep = {.sWhat = "configuration",
+               .bLaysOut = true,
+               .bCleans = true,
+               .sDefault = Registry().Get(settings::kDefaultAuction)};
     m_oWindow.ClickButton(kButtonConfig);
   }
 
@@ -223,12 +227,17 @@ class Walk {
     const bool bGoesAhead = !WorkingAuction().IsDirty() || m_oHost.aeAnswers.front() == Answer::No;
     m_oStep.bLaysOut = bGoesAhead;
     m_oWindow.ClickButton(kButtonNew);
+    m_oStep.sWorking = bGoesAhead ? TextOf(DefaultAuction()) : "";
   }
 
   void Load() {
     const std::string& sSample = Pick(m_asSamples);
     m_oStep.sWhat = "load " + std::filesystem::path(sSample).filename().string();
-    m_oStep.bCleans = !m_oWindow.Calculator().ConfigMode();  // where it loads nothing
+    if (!m_oWindow.Calculator().ConfigMode()) {  // where it loads nothing
+      m_oStep.bCleans = true;
+      std::ifstream oFile(sSample);
+      std::getline(oFile, m_oStep.sWorking);
+    }
     m_oHost.asChoices = {sSample};
     m_oWindow.ClickButton(kButtonLoad);
   }
@@ -248,6 +257,11 @@ class Walk {
     m_oStep.bShowsAgain = !WorkingAuction().IsDirty() || m_oHost.aeAnswers.front() == Answer::No;
     m_oWindow.ClickButton(kButtonWizard);
     m_oWindow.ClickButton(kButtonCalculator);
+    if (m_oStep.bShowsAgain) {
+      clsCalculate oEmpty;
+      oEmpty.m_oOutlay.m_lQuantity = 1;
+      m_oStep.sWorking = TextOf(oEmpty);
+    }
   }
 
   frmMain& m_oWindow;

@@ -58,8 +58,8 @@ inline std::string PlacesOf(const std::array<SectionPanel*, 5>& aoSections) {
 
 /// The places out of config mode of sections that were just made, with the lists that are stored.
 inline std::string PlacesAfterRestart() {
-  QWidget oWindow;
-  const SectionSet oSet(oWindow);
+  QWidget oWindow(nullptr, Qt::ToolTip);  // takes the focus from no other
+  const SectionSet oSet(oWindow, [](bool /*bDirty*/) {});
   oWindow.show();
   for (SectionPanel* const pSection : oSet.Sections()) {
     pSection->SetShowConfig(false);

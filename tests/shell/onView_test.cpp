@@ -1,0 +1,146 @@
+// An auction that comes on view stays what it is, and so does the one that was on view before.
+#include <filesystem>
+#include <fstream>
+
+#include <gtest/gtest.h>
+
+#include "base/clsRegistryAccess.h"
+#include "base/region.h"
+#include "shell/frmMain.h"
+#include "support/ByRegion.h"
+#include "support/Screen.h"
+#include "support/TestHost.h"
+
+namespace quillet {
+namespace {
+
+/// The region's samples; an insurance that only a parcel can have; and codes that no option has.
+std::vector<std::string> Auctions() {
+  std::vector<std::string> asAuctions = {
+      "[TYPE]000|True|False|3|0|0|0|True[TYPE][OUTLAY]40|1|0|9|2|False[OUTLAY]"
+      "[FEATURES]0|0[FEATURES][PAYPAL]True|1|4|True[PAYPAL]"
+      "[POSTAGE]True|0.2|0|3|2|True|True|True|1|True[POSTAGE]",
+      "[TYPE]009|False|False|3|8|7|6|False[TYPE][OUTLAY]40|1|0|9|1|False[OUTLAY]"
+      "[FEATURES]0|0[FEATURES][PAYPAL]True|7|0|False[PAYPAL]"
+      "[POSTAGE]True|0.2|7|3|0|False|False|True|1|False[POSTAGE]"};
+  const std::string sFolder = std::string(QUILLET_SOURCE_DIR) + "/data/samples";
+  for (const auto& oEntry : std::filesystem::directory_iterator(sFolder)) {
+    if (oEntry.path().filename().string().starts_with("uk-") == (RegionCode() == 0)) {
+      std::ifstream oFile(oEntry.path());
+      std::getline(oFile, asAuctions.emplace_back());
+    }
+  }
+  return asAuctions;
+}
+
+class OnView : public ::testing::Test {
+ protected:
+  OnView() {
+    ClearAuctions();
+    Registry().Set(settings::kStartMode, "1");
+    Registry().Set(settings::kZoom, "100");
+    m_oWindow.Show();
+  }
+
+  void Load(std::string sAuction) {
+    WorkingAuction().Serialize(sAuction, false);
+    m_oWindow.Calculator().RefreshSums(true);
+  }
+
+  /// The texts of both documents, which are clean; and one of them is on the screen of a view.
+  static void ExpectShown(clsCalculate& oOnView, const SectionSet& oSet,
+                          const std::string& sWorking, const std::string& sDefault) {
+    EXPECT_EQ(TextOf(WorkingAuction()), sWorking);
+    EXPECT_EQ(TextOf(DefaultAuction()), sDefault);
+    EXPECT_FALSE(WorkingAuction().IsDirty());
+    EXPECT_FALSE(DefaultAuction().IsDirty());
+    EXPECT_EQ(WrongOnScreen(oSet, oOnView), "");
+  }
+
+  ScopedHost m_oHost;
+  frmMain m_oWindow;
+};
+
+TEST_F(OnView, WhatAFreshProgramLoadsIsWhatItSaves) {
+  const std::string sSample = ByRegion("uk-van.qlt", "desert-land.qlt");
+  const std::string sLoaded = std::string(QUILLET_SOURCE_DIR) + "/data/samples/" + sSample;
+  const TemporaryFolder oFolder;
+  const auto fnRead = [](const std::string& sPath) {
+    std::ifstream oFile(sPath);
+    return std::string(std::istreambuf_iterator<char>(oFile), {});
+  };
+  m_oHost.asChoices = {sLoaded, oFolder / sSample};
+  m_oWindow.ClickButton(kButtonLoad);
+  m_oWindow.ClickButton(kButtonSave);
+  EXPECT_EQ(fnRead(oFolder / sSample), fnRead(sLoaded));
+  EXPECT_EQ(WrongOnScreen(m_oWindow.Calculator().Set(), WorkingAuction()), "");
+}
+
+TEST_F(OnView, EveryAuctionIsWholeWhateverWasOnViewBeforeIt) {
+  const std::vector<std::string> asAuctions = Auctions();
+  const SectionSet& oCalculator = m_oWindow.Calculator().Set();
+  clsCalculate oEmpty;  // what the wizard begins with
+  oEmpty.m_oAuctionType.m_eShopDuration = kShopNone;
+  oEmpty.m_oOutlay.m_lQuantity = 1;
+  const std::string sEmpty = TextOf(oEmpty);
+  for (const std::string& sOther : asAuctions) {
+    Registry().Set(settings::kDefaultAuction, sOther);
+    Load(sOther);
+    for (const std::string& sAuction : asAuctions) {
+      SCOPED_TRACE("after " + sOther + "\n" + sAuction);
+      Load(sAuction);
+      ExpectShown(WorkingAuction(), oCalculator, sAuction, TextOf(DefaultAuction()));
+      m_oWindow.ClickButton(kButtonConfig);
+      ExpectShown(DefaultAuction(), oCalculator, sAuction, sOther);
+      m_oWindow.ClickButton(kButtonCalculator);
+      ExpectShown(WorkingAuction(), oCalculator, sAuction, sOther);
+      m_oWindow.ClickButton(kButtonWizard);
+      ExpectShown(WorkingAuction(), m_oWindow.Wizard().Set(), sEmpty, sOther);
+      m_oWindow.ClickButton(kButtonConfig);
+      ExpectShown(DefaultAuction(), oCalculator, sEmpty, sOther);
+      m_oWindow.ClickButton(kButtonNew);
+      ExpectShown(WorkingAuction(), oCalculator, sOther, sOther);
+      if (HasFailure()) {
+        return;
+      }
+    }
+  }
+}
+
+// Nor does it come back when the listing can have it again.
+TEST_F(OnView, AFeatureThatGoesGreyIsChargedNoLonger) {
+  struct Row {
+    const char* sClicks;
+    const char* sUndone;
+    const char* sLeft;
+  };
+  const std::vector<Row> aoEverywhere = {
+      {"chkHomePageFeatured chkFeaturePlus chkItemSubtitle chkShopInventory optShop90Days",
+       "chkShopInventory", ""},
+      {"chkFeaturePlus chkBold chkScheduledListing chkListIn2Categories chkShopInventory",
+       "chkShopInventory", "chkBold"}};
+  const std::vector<Row> aoUnitedStates = {
+      {"optMotorAuction chkCarAd chkListingItem optStandardAution", "optMotorAuction", ""}};
+  SectionSet& oSet = m_oWindow.Calculator().Set();
+  const auto fnClick = [&](const std::string& sNames) {
+    std::istringstream oNames(sNames);
+    for (std::string sName; oNames >> sName;) {
+      const SectionPanel& oSection = oSet.ctlSellingFeaturesSection;
+      ClickOn(oSection.Find(sName) != nullptr ? oSection : oSet.ctlAuctionTypeSection, sName);
+    }
+  };
+  for (const auto& aoRows : {aoEverywhere, ByRegion({}, aoUnitedStates)}) {
+    for (const auto& [sClicks, sUndone, sLeft] : aoRows) {
+      SCOPED_TRACE(sClicks);
+      Load(TextOf(DefaultAuction()));
+      for (const char* const sNames : {sClicks, sUndone}) {
+        fnClick(sNames);
+        EXPECT_EQ(ChosenIn(oSet.ctlSellingFeaturesSection), sLeft) << sNames;
+        EXPECT_EQ(WrongOnScreen(oSet, WorkingAuction()), "") << sNames;
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace quillet
