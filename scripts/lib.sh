@@ -35,6 +35,11 @@ need_packages() {
     <(dpkg-query -W -f '${Package} ${db:Status-Status}\n' 2>/dev/null |
       sed -n 's/ installed$//p' | sort -u))
   [ -z "$missing" ] && return
+  if [ "$(id -u)" != 0 ] && ! command -v sudo >/dev/null; then
+    say "Some packages are missing, and without sudo only root can install them. As root:" >&2
+    say "  apt-get install" $missing >&2
+    exit 1
+  fi
   say "Installing:" $missing
   # shellcheck disable=SC2086
   step "installing packages" apt_install $missing

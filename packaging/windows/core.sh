@@ -3,8 +3,8 @@
 
 # The same figures as here, to the last character.
 same_figures_on_windows() {
-  diff <(wine build/windows-core/bin/quillet-calc.exe data/samples/[!u]*.qlt | tr -d '\r') \
-    <(build/release/bin/quillet-calc data/samples/[!u]*.qlt)
+  diff <(wine build/windows-core/bin/quillet-calc.exe data/samples/{[!u],u[!k]}*.qlt | tr -d '\r') \
+    <(build/release/bin/quillet-calc data/samples/{[!u],u[!k]}*.qlt)
 }
 
 say "Core for Windows, under Wine"
