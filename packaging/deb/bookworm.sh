@@ -1,6 +1,5 @@
-# Sourced by test.sh: a clean Debian 12 in a folder, from the package sources of this machine. It is
-# fetched once and kept in the cache; mounts are made in a name space of their own, where the script
-# must have been put.
+# Sourced by tests: a clean Debian 12 in a folder, from the package sources of this machine. It is
+# fetched once and kept in the cache; mounts are made in a name space of their own.
 
 bookworm_cache=${XDG_CACHE_HOME:-$HOME/.cache}/quillet
 bookworm_base=$bookworm_cache/bookworm-$(dpkg --print-architecture).tar
@@ -27,6 +26,13 @@ fetch_bookworm() {
   return $status
 }
 
+# with_own_mounts FORM: runs "./test FORM" again as root, with QUILLET_OWN_MOUNTS set, in a name space
+# of its own, and ends as that does. What is mounted goes away with the last process there.
+with_own_mounts() {
+  as_root env QUILLET_OWN_MOUNTS=yes HOME="$HOME" unshare --mount "$0" "$1"
+  exit
+}
+
 # make_bookworm FOLDER: a fresh one, with a user "seller" and the sockets of this machine's screens.
 make_bookworm() {
   [ -f "$bookworm_base" ] || fetch_bookworm || return
@@ -41,6 +47,11 @@ make_bookworm() {
     mount --bind "$bookworm_cache/archives" "$1/var/cache/apt/archives" &&
     inside "$1" useradd -m seller &&
     inside "$1" apt-get update
+}
+
+remove_bookworm() {
+  umount -l "$1"/{proc,tmp/.X11-unix,var/cache/apt/archives}
+  rm -rf --one-file-system "$1"
 }
 
 # inside FOLDER COMMAND...: runs a command there as its administrator.

@@ -6,16 +6,14 @@ if [ -z "${QUILLET_OWN_MOUNTS:-}" ]; then
   need_packages run deb deb-test
   say "Package"
   ./package deb || exit 1
-  # What is mounted goes away with the last process of this name space.
-  as_root env QUILLET_OWN_MOUNTS=yes HOME="$HOME" unshare --mount "$0" deb
-  exit
+  with_own_mounts deb
 fi
 
 version=$(project_version)
 package=dist/quillet_${version}_$(dpkg --print-architecture).deb
 examples=/usr/share/doc/quillet/examples
 system=$(mktemp -d)
-trap 'umount -l "$system"/{proc,tmp/.X11-unix,var/cache/apt/archives}; rm -rf --one-file-system "$system"' EXIT
+trap 'remove_bookworm "$system"' EXIT
 
 install_inside() { inside "$system" apt-get install -y --no-install-recommends "$@"; }
 
@@ -115,7 +113,4 @@ check "type of an auction file" auction_type
 check "manual pages" pages_render
 check "purged" purge_leaves_nothing
 
-for name in "${failures[@]}"; do say "failed: $name"; done
-say "$passed passed, $failed failed"
-[ "$failed" = 0 ]
-exit
+finish
