@@ -9,3 +9,11 @@ target_compile_options(quillet_flags INTERFACE
   $<$<BOOL:${QUILLET_WERROR}>:-Werror>
   # The order and the rounding of every sum are behaviour: no contraction, no fast-math.
   -ffp-contract=off -fno-fast-math)
+
+# Programs for use are hardened as Debian's own are; that they are position-independent is the
+# compiler's default there. scripts/check-hardening.sh looks whether it all came about.
+if(NOT WIN32)
+  target_compile_options(quillet_flags INTERFACE
+    "$<$<CONFIG:Release>:-fstack-protector-strong;-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
+  target_link_options(quillet_flags INTERFACE "$<$<CONFIG:Release>:LINKER:-z,relro,-z,now>")
+endif()

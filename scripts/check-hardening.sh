@@ -1,0 +1,25 @@
+#!/usr/bin/env bash
+# check-hardening.sh PROGRAM...: has each what Debian hardens its programs with? Names what is missing.
+set -uo pipefail
+missing=0
+
+# has PROGRAM WHAT PATTERN TEXT
+has() {
+  grep -qE "$3" <<<"$4" && return
+  echo "$1: no $2"
+  missing=$((missing + 1))
+}
+
+for program in "$@"; do
+  dynamic=$(readelf -dW "$program")
+  segments=$(readelf -lW "$program")
+  symbols=$(nm -D "$program")
+  has "$program" "address of its own choice (PIE)" 'FLAGS_1.* PIE' "$dynamic"
+  has "$program" "binding at the start (now)" 'FLAGS_1.* NOW' "$dynamic"
+  has "$program" "read-only relocations (RELRO)" 'GNU_RELRO' "$segments"
+  has "$program" "stack without code" 'GNU_STACK .* RW ' "$segments"
+  has "$program" "stack protector" ' U __stack_chk_fail@' "$symbols"
+  has "$program" "checked call of the C library (FORTIFY)" ' U __[a-z]*_chk@' "$symbols"
+done
+echo "$# programs, $missing things missing"
+[ $# -gt 0 ] && [ "$missing" = 0 ]
