@@ -6,12 +6,13 @@
 #include <cmath>
 #include <limits>
 
-#include "base/plainNumber.h"
 #include "base/text.h"
 #include "platform/Host.h"
 
 namespace quillet {
 namespace {
+
+constexpr std::string_view kPoint = ".";
 
 bool TakeSign(std::string_view& sText) {
   if (sText.empty() || (sText.front() != '+' && sText.front() != '-')) {
@@ -22,106 +23,72 @@ bool TakeSign(std::string_view& sText) {
   return bNegative;
 }
 
-/// The parts of a number's text, and its value as long as it fits: digits * 10 ^ exponent.
-struct Scanned {
-  bool bNegative = false;
-  bool bWhole = true;          ///< every digit went into uDigits
-  std::uint64_t uDigits = 0;   ///< the significant digits, up to nineteen of them
-  std::int64_t nExponent = 0;  ///< the power of ten that uDigits stands for
-  std::string_view sUnsigned;  ///< the text behind the sign
-  std::size_t nSeparator = std::string_view::npos;  ///< its place in sUnsigned
-};
-
-constexpr std::int64_t kLargestExponent = 1'000'000;  // beyond every format's range
-
-void TakeDigits(std::string_view& sText, Scanned& oNumber, bool bFraction, bool& bAny) {
-  constexpr std::uint64_t kRoomForOneMore = 999'999'999'999'999'999;
-  while (!sText.empty() && IsDigit(sText.front())) {
-    bAny = true;
-    const bool bFits = oNumber.uDigits <= kRoomForOneMore;
-    if (bFits) {
-      oNumber.uDigits = oNumber.uDigits * 10 + static_cast<std::uint64_t>(sText.front() - '0');
-    }
-    oNumber.bWhole = oNumber.bWhole && bFits;
-    oNumber.nExponent += (bFits ? 0 : 1) - (bFraction ? 1 : 0);
-    sText.remove_prefix(1);
+/// Whether a number that is out of a format's range is so because it is too small. Its digits have
+/// a point, if any separator.
+bool IsTiny(std::string_view sUnsigned) {
+  const std::size_t nExponent = std::min(sUnsigned.find_first_of("eE"), sUnsigned.size());
+  const std::string_view sDigits = sUnsigned.substr(0, nExponent);
+  const std::size_t nPoint = std::min(sDigits.find(kPoint), sDigits.size());
+  const std::size_t nFirst = std::min(sDigits.find_first_of("123456789"), sDigits.size());
+  std::string_view sExponent = sUnsigned.substr(std::min(nExponent + 1, sUnsigned.size()));
+  const bool bNegative = TakeSign(sExponent);
+  double fExponent = 0;  // takes any number of digits
+  for (const char c : sExponent) {
+    fExponent = fExponent * 10 + (c - '0');
   }
+  return static_cast<double>(nPoint) + (bNegative ? -fExponent : fExponent) <=
+         static_cast<double>(nFirst);
 }
 
-bool TakeExponent(std::string_view& sText, Scanned& oNumber) {
-  if (sText.empty() || LowerCase(sText.front()) != 'e') {
-    return true;
-  }
-  sText.remove_prefix(1);
-  const bool bNegative = TakeSign(sText);
-  if (sText.empty()) {
-    return false;
-  }
-  std::int64_t nExponent = 0;
-  while (!sText.empty() && IsDigit(sText.front())) {
-    nExponent = std::min(nExponent * 10 + (sText.front() - '0'), kLargestExponent);
-    sText.remove_prefix(1);
-  }
-  oNumber.nExponent += bNegative ? -nExponent : nExponent;
-  return true;
-}
-
-/// Takes a number apart; nothing if the text isn't one.
-std::optional<Scanned> Scan(std::string_view sText, std::string_view sSeparator) {
-  sText = Trim(sText);
-  Scanned oNumber;
-  oNumber.bNegative = TakeSign(sText);
-  oNumber.sUnsigned = sText;
-  bool bAny = false;
-  TakeDigits(sText, oNumber, false, bAny);
-  if (sText.starts_with(sSeparator)) {
-    oNumber.nSeparator = oNumber.sUnsigned.size() - sText.size();
-    sText.remove_prefix(sSeparator.size());
-    TakeDigits(sText, oNumber, true, bAny);
-  }
-  if (!bAny || !TakeExponent(sText, oNumber) || !sText.empty()) {
-    return std::nullopt;
-  }
-  return oNumber;
-}
-
-/// The number by the library's exact conversion: nothing on overflow, 0 on underflow.
+/// Of a number with a point: nothing on overflow, 0 on underflow.
 template <typename Float>
-std::optional<Float> ConvertExactly(const Scanned& oNumber, std::string_view sSeparator) {
-  std::string sText(oNumber.sUnsigned);
-  if (oNumber.nSeparator != std::string_view::npos) {
-    sText.replace(oNumber.nSeparator, sSeparator.size(), ".");
+std::optional<Float> ConvertWithPoint(std::string_view sText) {
+  const bool bNegative = TakeSign(sText);
+  if (sText.empty() || (!IsDigit(sText.front()) && sText.front() != kPoint.front())) {
+    return std::nullopt;  // a second sign, or one of the library's words for what isn't finite
   }
   Float fValue = 0;
-  const auto oResult = std::from_chars(sText.data(), sText.data() + sText.size(), fValue);
-  if (oResult.ec == std::errc::result_out_of_range) {
-    const bool bTiny = oNumber.uDigits == 0 || oNumber.nExponent < 0;
-    return bTiny ? std::optional<Float>(Float{0}) : std::nullopt;
-  }
-  return oResult.ec == std::errc{} ? std::optional<Float>(fValue) : std::nullopt;
-}
-
-/// The way of every other number.
-template <typename Float>
-std::optional<Float> ConvertAny(std::string_view sText, std::string_view sSeparator) {
-  const std::optional<Scanned> oNumber = Scan(sText, sSeparator);
-  if (!oNumber) {
+  const char* const pEnd = sText.data() + sText.size();
+  const auto oResult = std::from_chars(sText.data(), pEnd, fValue);
+  if (oResult.ptr != pEnd || oResult.ec == std::errc::invalid_argument) {
     return std::nullopt;
   }
-  std::optional<Float> fValue;
-  const auto nPower = static_cast<std::size_t>(std::abs(oNumber->nExponent));
-  if (oNumber->bWhole && oNumber->uDigits <= Exact<Float>::kInteger &&
-      nPower <= Exact<Float>::kPower) {
-    const Float fPower = Exact<Float>::kPowers.at(nPower);
-    const auto fDigits = static_cast<Float>(oNumber->uDigits);
-    fValue = oNumber->nExponent < 0 ? fDigits / fPower : fDigits * fPower;
-  } else {
-    fValue = ConvertExactly<Float>(*oNumber, sSeparator);
+  if (oResult.ec == std::errc::result_out_of_range) {
+    if (!IsTiny(sText)) {
+      return std::nullopt;
+    }
+    fValue = 0;
   }
-  if (fValue && oNumber->bNegative) {
-    fValue = -*fValue;
+  return bNegative ? -fValue : fValue;
+}
+
+/// The nearest number.
+template <typename Float>
+std::optional<Float> ConvertNumber(std::string_view sText, std::string_view sSeparator) {
+  sText = Trim(sText);
+  if (sSeparator == kPoint) {
+    return ConvertWithPoint<Float>(sText);
   }
-  return fValue;
+  if (sText.find(kPoint) != std::string_view::npos) {
+    return std::nullopt;
+  }
+  std::string sWithPoint(sText);
+  if (const std::size_t nAt = sText.find(sSeparator); nAt != std::string_view::npos) {
+    sWithPoint.replace(nAt, sSeparator.size(), kPoint);
+  }
+  return ConvertWithPoint<Float>(sWithPoint);
+}
+
+/// Of a file: with a point, or else with the user's separator.
+template <typename Float>
+std::optional<Float> ConvertOfFile(std::string_view sText) {
+  const std::optional<Float> fValue = ConvertNumber<Float>(sText, kPoint);
+  const std::string& sSeparator = TheHost().DecimalSeparator();
+  return fValue || sSeparator == kPoint ? fValue : ConvertNumber<Float>(sText, sSeparator);
+}
+
+std::optional<Single> AsSingle(const std::optional<float>& fValue) {
+  return fValue ? std::optional(Single::OfFinite(*fValue)) : std::nullopt;
 }
 
 template <typename Integer>
@@ -177,17 +144,6 @@ bool WritePlain(Single fValue, std::string& sText) {
   sText.append(nWhole == 0 ? "0" : sDigits.substr(0, nWhole)).append(TheHost().DecimalSeparator());
   sText.append(nDecimals - (sDigits.size() - nWhole), '0').append(sDigits.substr(nWhole));
   return true;
-}
-
-/// Kept out of line, so that plain prices pay nothing for it.
-template <typename Float>
-[[gnu::noinline]] std::optional<Float> ConvertOfFile(std::string_view sText) {
-  const std::optional<Float> fValue = ConvertAny<Float>(sText, kPoint);
-  return fValue ? fValue : ConvertAny<Float>(sText, TheHost().DecimalSeparator());
-}
-
-std::optional<Single> AsSingle(const std::optional<float>& fValue) {
-  return fValue ? std::optional(Single::OfFinite(*fValue)) : std::nullopt;
 }
 
 /// What a pattern of FormatNumber asks for.
@@ -246,10 +202,7 @@ void InsertGroups(std::string& sWhole, std::string_view sGroup) {
 }  // namespace
 
 std::optional<double> ToDouble(std::string_view sText) {
-  const std::string& sSeparator = TheHost().DecimalSeparator();
-  double fValue = 0;
-  return ReadPlainNumber(sText, sSeparator, fValue) ? fValue
-                                                    : ConvertAny<double>(sText, sSeparator);
+  return ConvertNumber<double>(sText, TheHost().DecimalSeparator());
 }
 
 bool IsNumeric(std::string_view sText) {
@@ -257,7 +210,7 @@ bool IsNumeric(std::string_view sText) {
 }
 
 std::optional<Single> ToSingle(std::string_view sText) {
-  return AsSingle(ConvertAny<float>(sText, TheHost().DecimalSeparator()));
+  return AsSingle(ConvertNumber<float>(sText, TheHost().DecimalSeparator()));
 }
 
 std::optional<double> ToFileDouble(std::string_view sText) {
@@ -265,19 +218,7 @@ std::optional<double> ToFileDouble(std::string_view sText) {
 }
 
 std::optional<Single> ToFileSingle(std::string_view sText) {
-  Single fValue;
-  return ReadFileSingle(sText, fValue) ? std::optional(fValue) : std::nullopt;
-}
-
-bool ReadFileSingle(std::string_view sText, Single& fValue) {
-  float fPlain = 0;
-  if (ReadPlainNumber(sText, kPoint, fPlain)) {
-    fValue = Single::OfFinite(fPlain);
-    return true;
-  }
-  const std::optional<Single> fFound = AsSingle(ConvertOfFile<float>(sText));
-  fValue = fFound.value_or(fValue);
-  return fFound.has_value();
+  return AsSingle(ConvertOfFile<float>(sText));
 }
 
 std::optional<std::int32_t> ToLong(std::string_view sText) {

@@ -28,9 +28,6 @@ namespace quillet {
 [[nodiscard]] std::optional<double> ToFileDouble(std::string_view sText);
 [[nodiscard]] std::optional<Single> ToFileSingle(std::string_view sText);
 
-/// The same for the many look-ups of prices: false, and `fValue` left alone, if it doesn't convert.
-[[nodiscard]] bool ReadFileSingle(std::string_view sText, Single& fValue);
-
 [[nodiscard]] std::optional<std::int32_t> ToLong(std::string_view sText);     ///< 32 bits, signed
 [[nodiscard]] std::optional<std::int16_t> ToInteger(std::string_view sText);  ///< 16 bits, signed
 [[nodiscard]] std::optional<std::uint8_t> ToByte(std::string_view sText);     ///< 0 to 255

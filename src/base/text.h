@@ -32,6 +32,10 @@ inline constexpr std::size_t kLongestText = 32766;
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
 }
 
+[[nodiscard]] constexpr bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+
 [[nodiscard]] bool EqualIgnoringCase(std::string_view sLeft, std::string_view sRight);
 
 /// The text with its control characters shown as "\x1b" and the like.

@@ -91,8 +91,7 @@ Single clsPayPal::DoCalcAuto() {
   return DoCalc(m_fLastPrice, m_oLastOutlay);
 }
 
-std::string clsPayPal::GetBusinessRateBandAttribute(std::int32_t nAttribute,
-                                                    std::int32_t& nBand) const {
+PriceKey clsPayPal::BandKey(std::int32_t nAttribute, std::int32_t& nBand) const {
   if (nBand == 0) {
     nBand = m_nBusinessBand;
   }
@@ -101,24 +100,27 @@ std::string clsPayPal::GetBusinessRateBandAttribute(std::int32_t nAttribute,
     throw Failure(FailureNumber::Overflow, "There is no such merchant rate band.");
   }
   PriceKey oKey = KeyText("BusinessRateBand");
-  oKey.Append(nBand).Append(nAttribute == 0 ? KeyText("Name") : KeyText("Value"));
+  return oKey.Append(nBand).Append(nAttribute == 0 ? KeyText("Name") : KeyText("Value"));
+}
+
+std::string clsPayPal::GetBusinessRateBandAttribute(std::int32_t nAttribute,
+                                                    std::int32_t& nBand) const {
   std::string_view sData;
-  Prices().GetData(oKey, sData);
+  Prices().GetData(BandKey(nAttribute, nBand), sData);
   return std::string(sData);
 }
 
 /// The rate of the chosen band. It is the band's own value that selects the tier, not the amount.
 Single clsPayPal::BandRate(const KeyText& oKey) const {
   std::int32_t nBand = 0;
-  const std::string sValue = GetBusinessRateBandAttribute(1, nBand);
-  const auto fValue = ToFileSingle(sValue);
-  if (!fValue) {
+  Single fValue;
+  if (!Prices().GetPrice(BandKey(1, nBand), fValue, kShopNone)) {
     throw Failure(FailureNumber::TypeMismatch,
                   "The fee schedule has no value for PayPal's merchant rate band " +
                       std::to_string(nBand) + ".");
   }
   clsPriceRange oTier;
-  return Prices().HitTestRanges(oKey, *fValue, oTier, kShopNone) ? oTier.m_fValue : Single(0);
+  return Prices().HitTestRanges(oKey, fValue, oTier, kShopNone) ? oTier.m_fValue : Single(0);
 }
 
 Single clsPayPal::ApplyIndividually(Single fAmount) const {

@@ -50,6 +50,7 @@ class clsPayPal {
   const clsOutlay* m_oLastOutlay = nullptr;  ///< of the latest DoCalc; not owned
 
  private:
+  [[nodiscard]] PriceKey BandKey(std::int32_t nAttribute, std::int32_t& nBand) const;
   [[nodiscard]] Single BandRate(const KeyText& oKey) const;
   [[nodiscard]] Single ApplyIndividually(Single fAmount) const;
 

@@ -3,12 +3,13 @@
 #include <algorithm>
 #include <cstring>
 
+#include "base/conversions.h"
 #include "base/text.h"
 
 namespace quillet {
 namespace {
 
-constexpr std::size_t kFirstSlots = 1024;
+constexpr std::size_t kFirstSlots = 4096;
 
 std::uint32_t SlotHash(const KeyText& oKey) {
   constexpr std::uint64_t kMultiplier = 0xD6E8FEB86659FD93;  // spreads the last characters
@@ -50,13 +51,19 @@ inline const PriceTable::Entry* PriceTable::EntryOf(const KeyText& oKey) const {
   return nSlot == 0 ? nullptr : &m_aoEntries[nSlot - 1];
 }
 
-inline std::string_view PriceTable::ValueOf(const Entry& oEntry) const {
+std::string_view PriceTable::ValueOf(const Entry& oEntry) const {
   return {m_sTexts.data() + oEntry.nKeyAt + oEntry.nKeyLength, oEntry.nValueLength};
+}
+
+void PriceTable::Reserve(std::size_t nBytes) {
+  constexpr std::size_t kBytesOfAnEntry = 32;  // or more, mostly
+  m_sTexts.reserve(nBytes);
+  m_aoEntries.reserve(nBytes / kBytesOfAnEntry);
 }
 
 bool PriceTable::Add(const KeyText& oKey, std::string_view sValue) {
   if (m_anSlots.size() < (m_aoEntries.size() + 1) * 2) {
-    Grow();
+    Rehash(std::max(m_anSlots.size() * 2, kFirstSlots));
   }
   const std::string_view sKey = oKey.Text();
   const std::uint32_t nHash = SlotHash(oKey);
@@ -64,10 +71,9 @@ bool PriceTable::Add(const KeyText& oKey, std::string_view sValue) {
   if (nSlot != 0) {
     return false;
   }
-  m_aoEntries.push_back({static_cast<std::uint32_t>(m_sTexts.size()),
-                         static_cast<std::uint32_t>(sKey.size()),
-                         static_cast<std::uint32_t>(sValue.size()), nHash, 0, 0});
-  m_bLinked = false;
+  m_aoEntries.push_back(
+      {static_cast<std::uint32_t>(m_sTexts.size()), static_cast<std::uint32_t>(sKey.size()),
+       static_cast<std::uint32_t>(sValue.size()), nHash, kNoTable, ToFileSingle(sValue)});
   m_sTexts.append(sKey).append(sValue);
   nSlot = static_cast<std::uint32_t>(m_aoEntries.size());
   return true;
@@ -78,60 +84,64 @@ std::optional<std::string_view> PriceTable::Find(const KeyText& oKey) const {
   return pEntry != nullptr ? std::optional(ValueOf(*pEntry)) : std::nullopt;
 }
 
-void PriceTable::LinkTiers() {
-  m_aoLinks.clear();
-  for (Entry& oEntry : m_aoEntries) {
-    const std::string_view sKey(m_sTexts.data() + oEntry.nKeyAt, oEntry.nKeyLength);
-    const std::size_t nTable = sKey.size() - std::min(sKey.size(), kCountWord.Text().size());
-    oEntry.nFirstLink = static_cast<std::uint32_t>(m_aoLinks.size());
-    if (EqualIgnoringCase(sKey.substr(nTable), kCountWord.Text())) {
-      LinkTable(sKey.substr(0, nTable));
-    }
-    oEntry.nLinks = static_cast<std::uint32_t>(m_aoLinks.size()) - oEntry.nFirstLink;
-  }
-  m_bLinked = true;
+std::optional<Single> PriceTable::FindNumber(const KeyText& oKey) const {
+  const Entry* const pEntry = EntryOf(oKey);
+  return pEntry != nullptr ? pEntry->fNumber : std::nullopt;
 }
 
-std::optional<PriceTable::Tiers> PriceTable::FindTiers(const KeyText& oCountKey) const {
-  const Entry* const pEntry = EntryOf(oCountKey);
-  if (pEntry == nullptr) {
-    return std::nullopt;
+void PriceTable::LinkTiers() {
+  m_aoTables.clear();
+  m_aoTiers.clear();
+  for (std::size_t nEntry = 0; nEntry < m_aoEntries.size(); ++nEntry) {
+    const std::string_view sKey = KeyAt(nEntry);
+    const std::size_t nName = sKey.size() - std::min(sKey.size(), kCountWord.Text().size());
+    m_aoEntries[nEntry].nTable = kNoTable;
+    if (EqualIgnoringCase(sKey.substr(nName), kCountWord.Text())) {
+      m_aoEntries[nEntry].nTable = static_cast<std::uint32_t>(m_aoTables.size());
+      LinkTable(m_aoEntries[nEntry], sKey.substr(0, nName));
+    }
   }
-  return Tiers{ValueOf(*pEntry), pEntry->nFirstLink, m_bLinked ? pEntry->nLinks : 0};
+}
+
+const PriceTable::Tiers* PriceTable::FindTiers(const KeyText& oCountKey) const {
+  const Entry* const pEntry = EntryOf(oCountKey);
+  return pEntry != nullptr && pEntry->nTable != kNoTable ? &m_aoTables[pEntry->nTable] : nullptr;
 }
 
 void PriceTable::Clear() {
   m_sTexts.clear();
   m_aoEntries.clear();
   m_anSlots.assign(m_anSlots.size(), 0);
-  m_bLinked = false;
+  LinkTiers();
 }
 
-/// However large its count is, the links end at the first tier that isn't there.
-void PriceTable::LinkTable(std::string_view sTable) {
-  PriceKey oTable{KeyText(sTable)};
-  std::int32_t nTier = 1;
-  for (Link oLink = LinkOf(oTable, nTier); oLink != Link{}; oLink = LinkOf(oTable, nTier)) {
-    m_aoLinks.push_back(oLink);
-    ++nTier;
+/// However large its count is, what is noted ends before the first tier that lacks a number.
+void PriceTable::LinkTable(const Entry& oCount, std::string_view sName) {
+  const PriceKey oName{KeyText(sName)};
+  Tiers oTiers{ToInteger(ValueOf(oCount)), static_cast<std::uint32_t>(m_aoTiers.size()), 0};
+  for (Tier oTier = FindTier(oName, 1); oTier.bComplete;) {
+    m_aoTiers.push_back(oTier);
+    ++oTiers.nLinked;
+    oTier = FindTier(oName, static_cast<std::int32_t>(oTiers.nLinked) + 1);
   }
+  m_aoTables.push_back(oTiers);
 }
 
-PriceTable::Link PriceTable::LinkOf(PriceKey& oTable, std::int32_t nTier) const {
-  Link oLink;
-  for (std::size_t i = 0; i < oLink.size(); ++i) {
-    const KeyBranch oBranch(oTable);
-    const Entry* const pEntry = EntryOf(oTable.Append(kTierWords[i]).Append(nTier));
-    if (pEntry != nullptr) {
-      oLink[i] = {pEntry->nKeyAt + pEntry->nKeyLength, pEntry->nValueLength};
-    }
+Tier PriceTable::FindTier(PriceKey oName, std::int32_t nTier) const {
+  Tier oTier;
+  oTier.bComplete = true;
+  for (std::size_t i = 0; i < kTierWords.size(); ++i) {
+    const KeyBranch oBranch(oName);
+    const auto fNumber = FindNumber(oName.Append(kTierWords[i]).Append(nTier));
+    oTier.afNumbers[i] = fNumber.value_or(0);
+    oTier.bComplete = oTier.bComplete && fNumber;
   }
-  return oLink;
+  return oTier;
 }
 
-void PriceTable::Grow() {
-  m_anSlots.assign(m_anSlots.empty() ? kFirstSlots : m_anSlots.size() * 2, 0);
-  const std::size_t nMask = m_anSlots.size() - 1;
+void PriceTable::Rehash(std::size_t nSlots) {
+  m_anSlots.assign(nSlots, 0);
+  const std::size_t nMask = nSlots - 1;
   for (std::size_t nEntry = 0; nEntry < m_aoEntries.size(); ++nEntry) {
     std::size_t nSlot = m_aoEntries[nEntry].nHash & nMask;
     while (m_anSlots[nSlot] != 0) {

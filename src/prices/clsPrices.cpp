@@ -6,7 +6,6 @@
 #include "base/basMain.h"
 #include "base/conversions.h"
 #include "base/failure.h"
-#include "base/plainNumber.h"
 #include "base/text.h"
 #include "platform/Files.h"
 #include "platform/UserData.h"
@@ -42,60 +41,49 @@ std::string ReadUpdateFile(const std::string& sPath, int nAttempts) {
   RaiseFileFailure(sPath, oError.message());
 }
 
-/// One tier table of the schedule.
+/// A tier table of the schedule, or the lack of it.
 class TierReader {
  public:
   TierReader(const PriceTable& oTable, const KeyText& oName, std::int32_t nShop)
-      : m_oTable(oTable), m_oKey(oName) {
-    m_oKey.Append(ShopSuffix(nShop));
-    const KeyBranch oBranch(m_oKey);
-    m_oTiers = m_oTable.FindTiers(m_oKey.Append(kCountWord));
+      : m_oTable(oTable), m_oName(oName) {
+    m_oName.Append(ShopSuffix(nShop));
+    const KeyBranch oBranch(m_oName);
+    m_pTiers = m_oTable.FindTiers(m_oName.Append(kCountWord));
   }
 
-  [[nodiscard]] bool IsThere() const { return m_oTiers.has_value(); }
+  [[nodiscard]] bool IsThere() const { return m_pTiers != nullptr; }
 
   /// A Failure if the text isn't a 16-bit integer, or isn't there.
   [[nodiscard]] std::int16_t Count() const {
-    const auto nCount = m_oTiers ? ToInteger(m_oTiers->sCount) : std::nullopt;
-    if (!nCount) {
+    if (m_pTiers == nullptr || !m_pTiers->nCount) {
       RaiseNoCount();
     }
-    return *nCount;
+    return *m_pTiers->nCount;
   }
 
-  /// False, and 0, if the number is missing.
-  bool Read(TierPart ePart, std::int32_t nTier, Single& fValue) {
-    fValue = 0;
-    if (nTier >= 1 && static_cast<std::uint32_t>(nTier) <= m_oTiers->nLinked) {
-      return ReadText(m_oTable.TierText(*m_oTiers, static_cast<std::uint32_t>(nTier), ePart),
-                      fValue);
-    }
-    const KeyBranch oBranch(m_oKey);
-    m_oKey.Append(kTierWords[static_cast<std::size_t>(ePart)]).Append(nTier);
-    return ReadText(m_oTable.Find(m_oKey).value_or(std::string_view{}), fValue);
+  /// Fills in tier `nTier`, from 1, of a table that is there; false if it lacks a number.
+  bool Read(std::int32_t nTier, clsPriceRange& oRange) const {
+    const Tier oTier = m_oTable.TierOf(m_oName, *m_pTiers, nTier);
+    oRange.m_fStart = oTier[TierPart::Start];
+    oRange.m_fEnd = oTier[TierPart::End];
+    oRange.m_fValue = oTier[TierPart::Value];
+    return oTier.bComplete;
   }
 
  private:
-  bool ReadText(std::string_view sText, Single& fValue) const {
-    float fPlain = 0;
-    if (ReadPlainNumber(sText, kPoint, fPlain)) {
-      fValue = Single::OfFinite(fPlain);
-      return true;
-    }
-    return ReadFileSingle(sText, fValue);
-  }
-
   [[noreturn]] void RaiseNoCount() const {
-    const std::string sKey = "\"" + std::string(m_oKey.Text()) + "Ranges\"";
-    throw Failure(FailureNumber::TypeMismatch, m_oTiers ? "The fee schedule's " + sKey +
-                                                              " isn't a number of tiers: \"" +
-                                                              std::string(m_oTiers->sCount) + "\"."
-                                                        : "The fee schedule has no " + sKey + ".");
+    const PriceKey oKey = PriceKey(m_oName).Append(kCountWord);
+    const std::string sKey = "\"" + std::string(oKey.Text()) + "\"";
+    const auto sCount = m_oTable.Find(oKey);
+    throw Failure(FailureNumber::TypeMismatch, sCount ? "The fee schedule's " + sKey +
+                                                            " isn't a number of tiers: \"" +
+                                                            std::string(*sCount) + "\"."
+                                                      : "The fee schedule has no " + sKey + ".");
   }
 
   const PriceTable& m_oTable;
-  PriceKey m_oKey;
-  std::optional<PriceTable::Tiers> m_oTiers;
+  PriceKey m_oName;
+  const PriceTable::Tiers* m_pTiers = nullptr;
 };
 
 }  // namespace
@@ -149,6 +137,17 @@ void clsPrices::LoadFile(const std::string& sPath, int nAttempts) {
 }
 
 void clsPrices::LoadText(std::string_view sText) {
+  try {
+    AddEntries(sText);
+  } catch (const Failure&) {
+    m_oTable.LinkTiers();  // what came before it can be used
+    throw;
+  }
+  m_oTable.LinkTiers();
+}
+
+void clsPrices::AddEntries(std::string_view sText) {
+  m_oTable.Reserve(sText.size());
   clsTokeniser oFields;
   std::string_view sLine;
   while (TakeLine(sText, sLine)) {
@@ -158,7 +157,6 @@ void clsPrices::LoadText(std::string_view sText) {
                     "The key \"" + oFields.Element(0) + "\" stands in it twice.");
     }
   }
-  m_oTable.LinkTiers();
 }
 
 bool clsPrices::GetData(const KeyText& oName, std::string_view& sData) const {
@@ -168,49 +166,38 @@ bool clsPrices::GetData(const KeyText& oName, std::string_view& sData) const {
 }
 
 bool clsPrices::GetPrice(const KeyText& oName, Single& fValue, std::int32_t nShop) const {
-  return nShop == kShopNone ? ReadNumber(oName, fValue)
-                            : ReadNumber(PriceKey(oName).Append(ShopSuffix(nShop)), fValue);
+  const auto fFound = nShop == kShopNone
+                          ? m_oTable.FindNumber(oName)
+                          : m_oTable.FindNumber(PriceKey(oName).Append(ShopSuffix(nShop)));
+  fValue = fFound.value_or(fValue);
+  return fFound.has_value();
 }
 
 bool clsPrices::GetRange(const KeyText& oName, std::int16_t nRangeNumber, clsPriceRange& oRange,
                          std::int32_t nShop) const {
-  TierReader oTiers(m_oTable, oName, nShop);
+  const TierReader oTiers(m_oTable, oName, nShop);
   if (!oTiers.IsThere()) {
     return false;
   }
   oRange.m_nCount = oTiers.Count();
   oRange.m_nIndex = nRangeNumber;
-  const bool bStart = oTiers.Read(TierPart::Start, nRangeNumber, oRange.m_fStart);
-  const bool bEnd = oTiers.Read(TierPart::End, nRangeNumber, oRange.m_fEnd);
-  const bool bValue = oTiers.Read(TierPart::Value, nRangeNumber, oRange.m_fValue);
-  return bStart && bEnd && bValue;
+  return oTiers.Read(nRangeNumber, oRange);
 }
 
 bool clsPrices::HitTestRanges(const KeyText& oName, Single fHitTestValue, clsPriceRange& oRange,
                               std::int32_t nShop) const {
-  TierReader oTiers(m_oTable, oName, nShop);
+  const TierReader oTiers(m_oTable, oName, nShop);
   oRange.m_nCount = oTiers.Count();
-  bool bHit = false;
-  std::int32_t nTier = 0;
-  // Of a tier that the value lies beyond nothing else is read, as nothing else is ever seen.
-  while (nTier < oRange.m_nCount && !bHit) {
-    ++nTier;
-    oTiers.Read(TierPart::End, nTier, oRange.m_fEnd);
-    const bool bBeyond =
-        fHitTestValue > oRange.m_fEnd && oRange.m_fEnd != clsPriceRange::kNoUpperLimit;
-    if (!bBeyond || nTier == oRange.m_nCount) {
-      oTiers.Read(TierPart::Start, nTier, oRange.m_fStart);
-      oTiers.Read(TierPart::Value, nTier, oRange.m_fValue);
-      bHit = !bBeyond && fHitTestValue >= oRange.m_fStart;
+  for (std::int32_t nTier = 1; nTier <= oRange.m_nCount; ++nTier) {
+    oTiers.Read(nTier, oRange);
+    if (fHitTestValue >= oRange.m_fStart &&
+        (fHitTestValue <= oRange.m_fEnd || oRange.m_fEnd == clsPriceRange::kNoUpperLimit)) {
+      oRange.m_nIndex = static_cast<std::int16_t>(nTier);
+      return true;
     }
   }
-  oRange.m_nIndex = static_cast<std::int16_t>(bHit ? nTier : 0);
-  return bHit;
-}
-
-bool clsPrices::ReadNumber(const KeyText& oKey, Single& fValue) const {
-  const auto sFound = m_oTable.Find(oKey);
-  return sFound && ReadFileSingle(*sFound, fValue);
+  oRange.m_nIndex = 0;
+  return false;
 }
 
 clsPrices& Prices() {

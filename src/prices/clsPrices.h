@@ -15,8 +15,8 @@
 namespace quillet {
 
 /// Keys are compared without regard to case. Where a code `eShop` is passed, its suffix is joined
-/// onto the key. Values are text, converted anew at each look-up, with the user's decimal
-/// separator or a point.
+/// onto the key. Values are text; those that are numbers, with a point or the user's decimal
+/// separator, are read as such when they are loaded.
 class clsPrices {
  public:
   /// Bytes; no sane fee schedule is larger, and none that is gets loaded.
@@ -58,7 +58,7 @@ class clsPrices {
  private:
   void LoadFile(const std::string& sPath, int nAttempts);
   void LoadUsersCopy(const std::string& sPath);
-  bool ReadNumber(const KeyText& oKey, Single& fValue) const;
+  void AddEntries(std::string_view sText);
 
   PriceTable m_oTable;
 };
