@@ -5,10 +5,8 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <initializer_list>
 #include <sstream>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "prices/money.h"
@@ -17,6 +15,130 @@
 #include "support/PanelScript.h"
 
 namespace quillet {
+
+/// Inputs of a section, separated by blanks; bit n of the mask is whether the nth of them is
+/// chosen.
+struct ChoiceRow {
+  std::string sSection;
+  const char* sInputs;
+  std::int32_t lChosen;
+};
+
+struct NumberRow {
+  std::string sSection;
+  const char* sBox;
+  double fValue;
+};
+
+inline std::vector<ChoiceRow> ChoicesFor(const clsCalculate& o) {
+  const auto fnOne = [](std::int32_t nCode) { return nCode >= 0 && nCode < 31 ? 1 << nCode : 0; };
+  const clsAuctionType& oType = o.m_oAuctionType;
+  const clsPostage& oPost = o.m_oPostage;
+  const bool bSeveral = o.m_oOutlay.m_lQuantity >= 2;
+  std::int32_t lFeatures = 0;
+  for (std::int32_t lBit = 1; lBit <= kFeatureCarAd; lBit *= 2) {
+    lFeatures |= o.m_oSellingFeatures.HasFeature(lBit) ? lBit : 0;
+  }
+  return {
+      {"AuctionType", "optStandardAution optMotorAuction optRealEstateAuction optBusinessAuction",
+       fnOne(oType.m_eAuctionType)},
+      {"AuctionType",
+       "optShop30Days optShop90Days optShopGoodTillCancelled - optShop60Days optShop120Days",
+       fnOne(oType.m_eShopDuration)},
+      {"AuctionType",
+       "optPassenger optMotorcycle optPowersports optPocketBikes optOtherVehicle optParts",
+       fnOne(oType.m_eMotorType)},
+      {"AuctionType", "optRealEstateTimeShare optRealEstateOther", fnOne(oType.m_eRealEstateType)},
+      {"AuctionType",
+       "optRealEstate10DayAuction optRealEstate30DayAuction optRealEstate30DayAd "
+       "optRealEstate90DayAd",
+       fnOne(oType.m_eRealEstateSaleFormat)},
+      {"AuctionType", "chkBuyItNow", oType.m_bBuyItNowOnly},
+      {"AuctionType", "chkShopInventory", oType.m_bShopInventory},
+      {"AuctionType", "chkRealEstateBinding",
+       oType.m_bRealEstateBinding && oType.m_eAuctionType == kAuctionRealEstate},
+      {"SellingFeatures",
+       "chkHomePageFeatured chkFeaturePlus chkHighlight chkItemSubtitle chkBold chkGallery "
+       "chkFeaturedGallery chkBuyItNow chkScheduledListing chkListIn2Categories chkSlideShow "
+       "chkSuperSizedPicures chkPicturePack chkListingDesigner chkFeaturedInSearch "
+       "chk10DayDuration chkGiftServices chkPreviewPicture chkBorder chkListingItem chkCarAd",
+       lFeatures},
+      {"PayPal", "optPersonalAccount optPremierAccount optBusinessAccount",
+       fnOne(o.m_oPayPal.m_eAccountType)},
+      {"PayPal", "- optBand1 optBand2 optBand3 optBand4 optBand5",
+       fnOne(o.m_oPayPal.m_nBusinessBand)},
+      {"PayPal", "chkUsePayPal", o.m_oPayPal.m_bEnabled},
+      {"PayPal", "chkPayInduvidually", o.m_oPayPal.m_bPayIndividually && bSeveral},
+      {"Postage", "optFirstClass optSecondClass optParcelService optManual",
+       fnOne(oPost.m_ePostageClass)},
+      {"Postage", "optBand1 optBand2 optBand3 optBand4", fnOne(oPost.m_eInsuranceBand)},
+      {"Postage", "chkUsePostage", oPost.m_bEnabled},
+      {"Postage", "chkSendInduvidually", oPost.m_bSendIndividually && bSeveral},
+      {"Postage", "chkRecordedDelivery",
+       oPost.m_bRecordedDelivery && oPost.CanHaveRecordedDelivery()},
+      {"Postage", "chkProofOfDelivery", oPost.m_bProofOfDelivery && oPost.CanHaveProofOfDelivery()},
+      {"Postage", "chkProfit", oPost.m_bMakeProfit},
+  };
+}
+
+inline std::vector<NumberRow> NumbersFor(const clsCalculate& o) {
+  return {{"Outlay", "txtOutlay", o.m_oOutlay.m_fOutlay},
+          {"Outlay", "txtStartingPrice", o.m_oOutlay.m_fStartingPrice},
+          {"Outlay", "txtReservePrice", o.m_oOutlay.m_fReservePrice},
+          {"Outlay", "txtEstimatedEndPrice", o.m_oOutlay.m_fEstimatedEndPrice},
+          {"Outlay", "txtQuantity", double(o.m_oOutlay.m_lQuantity)},
+          {"SellingFeatures", "txtExtraPictures", double(o.m_oSellingFeatures.m_lExtraImageCount)},
+          {"Postage", "txtWeight", o.m_oPostage.m_fWeight},
+          {"Postage", "txtManual", o.m_oPostage.m_fManualPostage},
+          {"Postage", "txtProfit", o.m_oPostage.m_fProfit}};
+}
+
+/// A box shows a number within its bounds, to the cent or to seven digits; what is being typed
+/// counts when the box is left.
+inline bool ShowsNumber(const ctlNumericText& oBox, double fNumber) {
+  const bool bBounds = oBox.Min() < oBox.Max();
+  const double fWanted =
+      bBounds ? std::clamp<double>(fNumber, oBox.Min(), oBox.Max()) : double{fNumber};
+  return oBox.TextBox()->hasFocus() ||
+         std::abs(oBox.Value() - fWanted) < 0.006 + std::abs(fNumber) * 1e-6;
+}
+
+/// What of a section isn't as a calculated auction has it: inputs, and the section's total. A car
+/// ad that was loaded may stand beside a box that is open and not ticked.
+inline std::string WrongIn(const SectionPanel& oSection, clsCalculate& oAuction) {
+  std::string sWrong;
+  const std::string sKey = oSection.SectionKey();
+  for (const auto& [sSection, sInputs, lChosen] : ChoicesFor(oAuction)) {
+    std::istringstream oInputs(sSection == sKey ? sInputs : "");
+    std::string sInput;
+    for (std::int32_t n = 0; oInputs >> sInput; ++n) {
+      if (sInput != "-") {
+        const auto& oInput = dynamic_cast<const Choice&>(ControlOf(oSection, sInput));
+        const bool bMayBeOff = sInput == "chkCarAd" && oInput.Container()->Enabled();
+        const bool bChosen = (lChosen >> n & 1) != 0 && !(bMayBeOff && oInput.Value() == 0);
+        sWrong += (oInput.Value() != 0) == bChosen ? "" : sInput + " ";
+      }
+    }
+  }
+  for (const auto& [sSection, sBox, fNumber] : NumbersFor(oAuction)) {
+    if (sSection == sKey &&
+        !ShowsNumber(dynamic_cast<ctlNumericText&>(ControlOf(oSection, sBox)), fNumber)) {
+      sWrong += std::string(sBox) + " ";
+    }
+  }
+  const std::vector<std::pair<std::string, Single>> aoTotals = {
+      {"AuctionType", oAuction.m_oAuctionType.DoCalcAuto()},
+      {"SellingFeatures", oAuction.m_oSellingFeatures.LastFee()},
+      {"PayPal", oAuction.m_fPayPayCost},
+      {"Postage", oAuction.m_fPostageCost}};
+  for (const auto& [sSection, fTotal] : aoTotals) {
+    if (sSection == sKey && ControlOf(oSection, "lblTotal").Caption().toStdString() !=
+                                "Section Total " + FormatMoney(fTotal)) {
+      sWrong += "lblTotal of " + sSection + " ";
+    }
+  }
+  return sWrong;
+}
 
 /// The figures of a summary, one after the other.
 inline std::string FiguresOf(const ctlSellingCosts& oSummary) {
@@ -30,133 +152,8 @@ inline std::string FiguresOf(const ctlSellingCosts& oSummary) {
   return sFigures;
 }
 
-/// Inputs of a section, separated by blanks; bit n of the mask is whether the nth of them is
-/// chosen.
-struct ChoiceRow {
-  const SectionPanel& oSection;
-  const char* sInputs;
-  std::int32_t lChosen;
-};
-
-inline std::int32_t OneOf(std::int32_t nCode) {
-  return nCode >= 0 && nCode < 31 ? 1 << nCode : 0;
-}
-
-inline std::int32_t Those(std::initializer_list<bool> abChosen) {
-  std::int32_t lMask = 0;
-  std::int32_t lBit = 1;
-  for (const bool bChosen : abChosen) {
-    lMask |= bChosen ? lBit : 0;
-    lBit *= 2;
-  }
-  return lMask;
-}
-
-inline std::vector<ChoiceRow> ChoicesFor(const SectionSet& oSet, const clsCalculate& o) {
-  const clsAuctionType& oType = o.m_oAuctionType;
-  const clsPostage& oPost = o.m_oPostage;
-  const SectionPanel& oKind = oSet.ctlAuctionTypeSection;
-  const SectionPanel& oPayPal = oSet.ctlPayPalSection;
-  const SectionPanel& oPostage = oSet.ctlPostageSection;
-  const bool bSeveral = o.m_oOutlay.m_lQuantity >= 2;
-  std::int32_t lFeatures = 0;
-  for (std::int32_t lBit = 1; lBit <= kFeatureCarAd; lBit *= 2) {
-    lFeatures |= o.m_oSellingFeatures.HasFeature(lBit) ? lBit : 0;
-  }
-  return {
-      {oKind, "optStandardAution optMotorAuction optRealEstateAuction optBusinessAuction",
-       OneOf(oType.m_eAuctionType)},
-      {oKind, "optShop30Days optShop90Days optShopGoodTillCancelled - optShop60Days optShop120Days",
-       OneOf(oType.m_eShopDuration)},
-      {oKind, "optPassenger optMotorcycle optPowersports optPocketBikes optOtherVehicle optParts",
-       OneOf(oType.m_eMotorType)},
-      {oKind, "optRealEstateTimeShare optRealEstateOther", OneOf(oType.m_eRealEstateType)},
-      {oKind,
-       "optRealEstate10DayAuction optRealEstate30DayAuction optRealEstate30DayAd "
-       "optRealEstate90DayAd",
-       OneOf(oType.m_eRealEstateSaleFormat)},
-      {oKind, "chkBuyItNow chkShopInventory chkRealEstateBinding",
-       Those({oType.m_bBuyItNowOnly, oType.m_bShopInventory,
-              oType.m_bRealEstateBinding && oType.m_eAuctionType == kAuctionRealEstate})},
-      {oPayPal, "optPersonalAccount optPremierAccount optBusinessAccount",
-       OneOf(o.m_oPayPal.m_eAccountType)},
-      {oPayPal, "- optBand1 optBand2 optBand3 optBand4 optBand5",
-       OneOf(o.m_oPayPal.m_nBusinessBand)},
-      {oPayPal, "chkUsePayPal chkPayInduvidually",
-       Those({o.m_oPayPal.m_bEnabled, o.m_oPayPal.m_bPayIndividually && bSeveral})},
-      {oPostage, "optFirstClass optSecondClass optParcelService optManual",
-       OneOf(oPost.m_ePostageClass)},
-      {oPostage, "optBand1 optBand2 optBand3 optBand4", OneOf(oPost.m_eInsuranceBand)},
-      {oPostage,
-       "chkUsePostage chkSendInduvidually chkRecordedDelivery chkProofOfDelivery chkProfit",
-       Those({oPost.m_bEnabled, oPost.m_bSendIndividually && bSeveral,
-              oPost.m_bRecordedDelivery && oPost.CanHaveRecordedDelivery(),
-              oPost.m_bProofOfDelivery && oPost.CanHaveProofOfDelivery(), oPost.m_bMakeProfit})},
-      {oSet.ctlSellingFeaturesSection,
-       "chkHomePageFeatured chkFeaturePlus chkHighlight chkItemSubtitle chkBold chkGallery "
-       "chkFeaturedGallery chkBuyItNow chkScheduledListing chkListIn2Categories chkSlideShow "
-       "chkSuperSizedPicures chkPicturePack chkListingDesigner chkFeaturedInSearch "
-       "chk10DayDuration chkGiftServices chkPreviewPicture chkBorder chkListingItem chkCarAd",
-       lFeatures},
-  };
-}
-
-/// The inputs that are chosen and mustn't be, or must and aren't. A car ad's box that is open may
-/// stand beside a car ad that was loaded.
-inline std::string WrongChoices(const SectionSet& oSet, const clsCalculate& oAuction) {
-  std::string sWrong;
-  for (const auto& [oSection, sInputs, lChosen] : ChoicesFor(oSet, oAuction)) {
-    std::istringstream oInputs(sInputs);
-    std::string sInput;
-    for (std::int32_t n = 0; oInputs >> sInput; ++n) {
-      if (sInput == "-") {
-        continue;
-      }
-      const auto& oInput = dynamic_cast<const Choice&>(ControlOf(oSection, sInput));
-      const bool bCarAd = sInput == "chkCarAd" && oInput.Container()->Enabled();
-      if ((oInput.Value() != 0) != ((lChosen >> n & 1) != 0) && !(bCarAd && oInput.Value() == 0)) {
-        sWrong += sInput + " ";
-      }
-    }
-  }
-  return sWrong;
-}
-
-/// The boxes that show another number within their bounds, but for one that is being typed into.
-inline std::string WrongNumbers(const SectionSet& oSet, const clsCalculate& oAuction) {
-  const clsOutlay& oOutlay = oAuction.m_oOutlay;
-  const clsPostage& oPostage = oAuction.m_oPostage;
-  const struct {
-    const SectionPanel& oSection;
-    const char* sBox;
-    double fValue;
-  } kNumbers[] = {
-      {oSet.ctlOutlaySection, "txtOutlay", oOutlay.m_fOutlay},
-      {oSet.ctlOutlaySection, "txtStartingPrice", oOutlay.m_fStartingPrice},
-      {oSet.ctlOutlaySection, "txtReservePrice", oOutlay.m_fReservePrice},
-      {oSet.ctlOutlaySection, "txtEstimatedEndPrice", oOutlay.m_fEstimatedEndPrice},
-      {oSet.ctlOutlaySection, "txtQuantity", double(oOutlay.m_lQuantity)},
-      {oSet.ctlSellingFeaturesSection, "txtExtraPictures",
-       double(oAuction.m_oSellingFeatures.m_lExtraImageCount)},
-      {oSet.ctlPostageSection, "txtWeight", oPostage.m_fWeight},
-      {oSet.ctlPostageSection, "txtManual", oPostage.m_fManualPostage},
-      {oSet.ctlPostageSection, "txtProfit", oPostage.m_fProfit},
-  };
-  std::string sWrong;
-  for (const auto& [oSection, sBox, fValue] : kNumbers) {
-    const auto& oBox = dynamic_cast<const ctlNumericText&>(ControlOf(oSection, sBox));
-    const bool bBounds = oBox.Min() < oBox.Max();
-    const double fWanted = bBounds ? std::clamp<double>(fValue, oBox.Min(), oBox.Max()) : fValue;
-    const double fOff = 0.006 + std::abs(fValue) * 1e-6;  // cents, or seven digits
-    if (!oBox.TextBox()->hasFocus() && !(std::abs(oBox.Value() - fWanted) < fOff)) {
-      sWrong += std::string(sBox) + "=" + oBox.Text() + " ";
-    }
-  }
-  return sWrong;
-}
-
-/// What of the screen isn't as an auction has it: inputs, section totals, summary. The figures are
-/// those of another auction with the same inputs, which has never been on view.
+/// What of a view isn't as an auction has it. The figures are those of another auction with the
+/// same inputs, which has never been on view.
 inline std::string WrongOnScreen(const SectionSet& oSet, clsCalculate& oAuction) {
   clsCalculate oFresh;
   std::string sText = TextOf(oAuction);
@@ -164,24 +161,14 @@ inline std::string WrongOnScreen(const SectionSet& oSet, clsCalculate& oAuction)
   oFresh.m_oOutlay = oAuction.m_oOutlay;  // amounts have but seven digits in the text
   oFresh.m_oPostage = oAuction.m_oPostage;
   oFresh.DoCalc();
+  std::string sWrong;
+  for (const SectionPanel* const pSection : oSet.Sections()) {
+    sWrong += WrongIn(*pSection, oFresh);
+  }
   ctlSellingCosts oSummary(nullptr);
   oSummary.ApplySellingCosts(oFresh);
-  const std::string sShown = FiguresOf(oSet.ctlSellingCostsSection);
-  std::string sWrong = WrongChoices(oSet, oFresh) + WrongNumbers(oSet, oFresh);
-  if (sShown != FiguresOf(oSummary)) {
-    sWrong += "summary " + sShown + "for " + FiguresOf(oSummary);
-  }
-  const std::pair<const SectionPanel&, Single> kTotals[] = {
-      {oSet.ctlAuctionTypeSection, oFresh.m_oAuctionType.DoCalcAuto()},
-      {oSet.ctlSellingFeaturesSection, oFresh.m_oSellingFeatures.LastFee()},
-      {oSet.ctlPayPalSection, oFresh.m_fPayPayCost},
-      {oSet.ctlPostageSection, oFresh.m_fPostageCost},
-  };
-  for (const auto& [oSection, fTotal] : kTotals) {
-    const std::string sTotal = ControlOf(oSection, "lblTotal").Caption().toStdString();
-    if (sTotal != "Section Total " + FormatMoney(fTotal)) {
-      sWrong += sTotal + " for " + FormatMoney(fTotal) + " ";
-    }
+  if (FiguresOf(oSet.ctlSellingCostsSection) != FiguresOf(oSummary)) {
+    sWrong += FiguresOf(oSet.ctlSellingCostsSection) + "for " + FiguresOf(oSummary);
   }
   return sWrong.empty() ? "" : sWrong + "with " + sText;
 }
