@@ -2,28 +2,68 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
-#include <QDir>
-#include <QFileInfo>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <vector>
 
 #include "base/basCommon.h"
 #include "base/version.h"
+#include "documents/lifecycle.h"
+#include "platform/Files.h"
+#include "platform/paths.h"
 
 namespace quillet {
 namespace {
 
-/// The switch of the log may stand anywhere, in any spelling that the log itself accepts.
-bool IsLogSwitch(const QString& sArgument) {
-  return sArgument.contains("DEBUG=TRUE", Qt::CaseInsensitive) && !QFileInfo::exists(sArgument);
+/// A word of the command line, and its bytes where they aren't text that the toolkit can hold.
+struct Word {
+  QString sText;
+  std::string sBytes;
+};
+
+std::vector<Word> WordsOf(int nArguments, char** asArguments) {
+  std::vector<Word> aoWords;
+  for (const QString& sText : QCoreApplication::arguments()) {
+    const auto nWord = static_cast<int>(aoWords.size());
+    const bool bText = !sText.contains(QChar::ReplacementCharacter) || nWord >= nArguments;
+    aoWords.push_back({sText, bText ? sText.toStdString() : std::string(asArguments[nWord])});
+  }
+  return aoWords;
 }
 
-}  // namespace
+/// The switch of the log may stand anywhere, in any spelling that the log itself accepts. Other
+/// switches in the manner of "/x" are of no use here; a missing auction is one that is told of.
+bool IsPassedOver(const Word& oWord) {
+  const bool bLog = oWord.sText.contains("DEBUG=TRUE", Qt::CaseInsensitive);
+  const bool bSwitch =
+      oWord.sText.startsWith('/') && !oWord.sText.endsWith(kAuctionExtension, Qt::CaseInsensitive);
+  return (bLog || bSwitch) && !FileExists(oWord.sBytes);
+}
 
-std::string AuctionFileToOpen(int& nArguments, char** asArguments) {
-  const QCoreApplication oForTheParser(nArguments, asArguments);
-  QCoreApplication::setApplicationName(QString::fromStdString(EditionName()));
-  QCoreApplication::setApplicationVersion(kVersion);
+/// What the toolkit takes for itself later, with one dash or two.
+void AddOptionsOfToolkit(QCommandLineParser& oParser) {
+  constexpr const char* kWithValue[] = {
+      "platform", "platformpluginpath", "platformtheme", "plugin",  "qwindowgeometry", "geometry",
+      "title",    "qwindowtitle",       "icon",          "session", "qwindowicon",     "style",
+      "display",  "stylesheet",         "name"};
+  constexpr const char* kAlone[] = {"reverse", "widgetcount", "nograb", "dograb"};
+  const auto fnAdd = [&](const char* sName, const QString& sValue) {
+    QCommandLineOption oOption(sName, {}, sValue);
+    oOption.setFlags(QCommandLineOption::HiddenFromHelp);
+    oParser.addOption(oOption);
+  };
+  for (const char* const sName : kWithValue) {
+    fnAdd(sName, "value");
+  }
+  for (const char* const sName : kAlone) {
+    fnAdd(sName, {});
+  }
+  oParser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+}
+
+/// Answers what needs no window, and ends the process then.
+QStringList FilesAmong(const std::vector<Word>& aoWords) {
   QCommandLineParser oParser;
   oParser.setApplicationDescription(
       "Tells what selling through auctions on eBay costs and brings.");
@@ -32,18 +72,34 @@ std::string AuctionFileToOpen(int& nArguments, char** asArguments) {
   oParser.addPositionalArgument("auction", "An auction file (.qlt) to open.", "[auction]");
   oParser.addPositionalArgument("DEBUG=TRUE", "Writes the diagnostic log QlDebug.log.",
                                 "[DEBUG=TRUE]");
-  QStringList asWords = QCoreApplication::arguments();
-  asWords.removeIf(IsLogSwitch);
+  AddOptionsOfToolkit(oParser);
+  QStringList asWords;
+  for (const Word& oWord : aoWords) {
+    asWords += oWord.sText;
+  }
   oParser.process(asWords);
+  return oParser.positionalArguments();
+}
 
-  const QStringList asFiles = oParser.positionalArguments();
+}  // namespace
+
+std::string AuctionFileToOpen(int& nArguments, char** asArguments) {
+  const QCoreApplication oForTheParser(nArguments, asArguments);
+  QCoreApplication::setApplicationName(QString::fromStdString(EditionName()));
+  QCoreApplication::setApplicationVersion(kVersion);
+  std::vector<Word> aoWords = WordsOf(nArguments, asArguments);
+  aoWords.erase(std::remove_if(aoWords.begin() + 1, aoWords.end(), IsPassedOver), aoWords.end());
+  const QStringList asFiles = FilesAmong(aoWords);
+  if (asFiles.isEmpty()) {
+    return {};
+  }
   if (asFiles.size() > 1) {
     std::fputs("One auction can be opened at a time.\n", stderr);
     std::exit(EXIT_FAILURE);  // NOLINT(concurrency-mt-unsafe): one thread
   }
-  return asFiles.isEmpty() ? std::string()
-                           : QDir::toNativeSeparators(QFileInfo(asFiles.front()).absoluteFilePath())
-                                 .toStdString();
+  const auto oFile = std::find_if(aoWords.begin(), aoWords.end(),
+                                  [&](const Word& o) { return o.sText == asFiles.front(); });
+  return NativePath(TextOfPath(std::filesystem::absolute(PathOf(oFile->sBytes))));
 }
 
 }  // namespace quillet

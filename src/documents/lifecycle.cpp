@@ -70,6 +70,9 @@ void DocumentLifecycle::UseFile(const std::string& sPath, bool bSave) {
   m_sFileName = TitleOf(sPath);
   SetLastFolder(sPath.substr(0, sPath.size() - m_sFileName.size()));
   try {
+    if (IsDevice(sPath)) {
+      throw Failure(FailureNumber::FileAccess, "This is a pipe or a device, not a file.");
+    }
     if (bSave) {
       SaveAuction(sPath);
     } else if (!LoadAuction(sPath)) {

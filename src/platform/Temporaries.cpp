@@ -7,6 +7,8 @@
 #include <random>
 #include <string_view>
 
+#include "platform/paths.h"
+
 namespace quillet {
 namespace {
 
@@ -46,9 +48,8 @@ void SweepTemporariesBeside(const std::string& sPath) {
   std::error_code oError;
   fs::directory_iterator oFiles(PathOf(sFolder.empty() ? "." : sFolder), oError);
   for (; !oError && oFiles != fs::directory_iterator(); oFiles.increment(oError)) {
-    const std::u8string sName = oFiles->path().filename().u8string();
     std::error_code oIgnored;
-    if (IsTemporary(std::string(sName.begin(), sName.end())) &&
+    if (IsTemporary(TextOfPath(oFiles->path().filename())) &&
         fs::is_regular_file(oFiles->symlink_status(oIgnored)) &&
         oFiles->last_write_time(oIgnored) < oOld && !oIgnored) {
       fs::remove(oFiles->path(), oIgnored);

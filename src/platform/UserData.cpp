@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "platform/Files.h"
-#include "platform/Temporaries.h"
+#include "platform/paths.h"
 
 namespace quillet {
 std::error_code MakeFolder(const std::string& sFolder) {

@@ -113,6 +113,7 @@ TEST_F(Lifecycle, SavesAndLoadsWhatWasEntered) {
 TEST_F(Lifecycle, AFailureIsShownInThePlatformsWordsAndKeepsTheOldFile) {
   ChangeWorking();
   const std::string sBlocked = m_oFolder / "file/x.qlt";
+  const std::string sDevice = FileExists("/dev/zero") ? "/dev/zero" : "NUL";
   WriteTestFile(m_oFolder / "file", "old");
   const struct {
     bool bSave;
@@ -123,6 +124,7 @@ TEST_F(Lifecycle, AFailureIsShownInThePlatformsWordsAndKeepsTheOldFile) {
       {true, m_oFolder.sPath, FolderWords(true)},
       {false, m_oFolder / "missing.qlt", MissingWords()},
       {false, m_oFolder.sPath, FolderWords(false)},
+      {false, sDevice, "This is a pipe or a device, not a file."},
   };
   for (const auto& [bSave, sPath, sMessage] : kRows) {
     SCOPED_TRACE(sPath);

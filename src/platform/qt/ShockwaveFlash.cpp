@@ -14,11 +14,15 @@ void ShockwaveFlash::SetMovie(const QString& sPath) {
     m_oMovie->Widget().hide();
     m_oMovie->Widget().deleteLater();  // since its own command may have led here
   }
-  const QString sFile = sPath.section('?', 0, 0);
-  m_oMovie = MakeMovie(sFile.section(QRegularExpression("[\\\\/]"), -1), sPath.section('?', 1),
-                       *this, [this](const QString& sCommand, const QString& sArguments) {
-                         emit FSCommand(sCommand, sArguments);
-                       });
+  // A folder may have a "?" in its name, too.
+  const auto oEnd =
+      QRegularExpression("\\.swf(\\?|$)", QRegularExpression::CaseInsensitiveOption).match(sPath);
+  const QString sFile = sPath.left(oEnd.capturedStart(1));
+  m_oMovie =
+      MakeMovie(sFile.section(QRegularExpression("[\\\\/]"), -1), sPath.mid(oEnd.capturedEnd(1)),
+                *this, [this](const QString& sCommand, const QString& sArguments) {
+                  emit FSCommand(sCommand, sArguments);
+                });
   if (m_oMovie != nullptr) {
     QWidget& oWidget = m_oMovie->Widget();
     oWidget.setToolTip(toolTip());

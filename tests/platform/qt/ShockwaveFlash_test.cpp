@@ -21,7 +21,7 @@ constexpr std::pair<const char*, const char*> kButtons[] = {
     {"Load", "Load"}, {"Config", "Configure"}, {"About", "About"}};
 
 QString MovieOf(const char* sName) {
-  return QString("C:\\Quillet\\Graphics\\Buttons\\%1_button.swf").arg(sName);
+  return QString("C:\\Quillet?\\Graphics\\Buttons\\%1_button.swf").arg(sName);
 }
 
 class ShockwaveFlashTest : public ::testing::Test {
