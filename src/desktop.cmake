@@ -74,11 +74,13 @@ qt_add_resources(quillet_desktop quillet_tunes PREFIX /
 # Settings lie in the registry on Windows, elsewhere in a file. Sound is the system's own on Windows,
 # elsewhere a library that is only made where there is something to make it from.
 if(WIN32)
-  target_sources(quillet_desktop PRIVATE platform/windows/PlatformSound.cpp
+  target_sources(quillet_desktop PRIVATE platform/windows/EndSignals.cpp
+                                         platform/windows/PlatformSound.cpp
                                          platform/windows/RegistryStore.cpp)
   target_link_libraries(quillet_desktop PUBLIC winmm)
 else()
-  target_sources(quillet_desktop PRIVATE platform/posix/IniStore.cpp platform/posix/IniText.cpp
+  target_sources(quillet_desktop PRIVATE platform/posix/EndSignals.cpp platform/posix/IniStore.cpp
+                                         platform/posix/IniText.cpp
                                          platform/qt/PlatformSound.cpp)
   find_package(Qt6 QUIET OPTIONAL_COMPONENTS Multimedia)
   if(TARGET Qt6::Multimedia)

@@ -10,6 +10,7 @@
 #include "base/clsRegistryAccess.h"
 #include "base/version.h"
 #include "platform/Descriptors.h"
+#include "platform/EndSignals.h"
 #include "platform/Internet.h"
 #include "platform/Sound.h"
 #include "platform/qt/QtHost.h"
@@ -39,6 +40,10 @@ int main(int nArguments, char** asArguments) {
   SetSound(oSound.get());
   DesktopApplication oApplication(*oInternet);
   SetApplication(oApplication);
+  OnEndSignal(oQt, [&] { oApplication.EndAtOnce(); });
+  QObject::connect(
+      &oQt, &QGuiApplication::commitDataRequest, &oQt,
+      [&](QSessionManager& oSession) { oApplication.EndSession(oSession); }, Qt::DirectConnection);
   Main();
   if (!sAuction.empty()) {
     oApplication.OpenAuction(sAuction);

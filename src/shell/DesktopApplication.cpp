@@ -1,6 +1,10 @@
 #include "shell/DesktopApplication.h"
 
+#include <QSessionManager>
+#include <cstdlib>
+
 #include "base/basMain.h"
+#include "base/clsRegistryAccess.h"
 #include "shell/frmMain.h"
 #include "shell/frmSplash.h"
 
@@ -47,6 +51,26 @@ void DesktopApplication::OpenAuction(const std::string& sPath) {
   if (g_frmMain != nullptr && m_pMain != nullptr) {
     m_pMain->OpenAuction(sPath);
   }
+}
+
+void DesktopApplication::EndSession(QSessionManager& oSession) {
+  if (m_pMain == nullptr) {
+    return;
+  }
+  if (m_pMain->EndSession(oSession.allowsInteraction())) {
+    oSession.release();
+  } else {
+    oSession.cancel();
+  }
+}
+
+/// The splash, a download or a question may be on the way: no stack is unwound through them.
+void DesktopApplication::EndAtOnce() {
+  if (m_pMain != nullptr) {
+    m_pMain->EndUnasked();
+  }
+  Registry().Flush();
+  std::_Exit(EXIT_SUCCESS);
 }
 
 }  // namespace quillet

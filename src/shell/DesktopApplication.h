@@ -7,6 +7,8 @@
 #include "base/Application.h"
 #include "online/downloads.h"
 
+class QSessionManager;
+
 namespace quillet {
 
 class frmMain;
@@ -26,6 +28,13 @@ class DesktopApplication : public Application {
 
   /// Opens an auction file in the main window; nothing happens if that doesn't stand.
   void OpenAuction(const std::string& sPath);
+
+  /// The session of the desktop is ending: asks the usual question where that is allowed; Cancel
+  /// keeps the session.
+  void EndSession(QSessionManager& oSession);
+
+  /// The system ends the program: settings are stored, nothing is asked or waited for.
+  [[noreturn]] void EndAtOnce();
 
  private:
   QPointer<frmMain> m_pMain;

@@ -107,6 +107,7 @@ frmMain::frmMain()
   MakeButtons();
   MakeShortcuts();
   connect(m_pCalculator, &ctlCalculator::Changed, this, [this](bool bDocDirty) {
+    m_bEndAgreed = false;
     SetWindowTitle(m_pCalculator->ConfigMode() ? kDefaultAuctionTitle : m_oDocuments.FileName(),
                    bDocDirty);
   });
@@ -135,7 +136,10 @@ void frmMain::MakeShortcuts() {
           [this, i] { ClickButton(i); });
   }
   fnAdd(QKeySequence(kAboutButton.sShortcut), [this] { ShowAboutBox(); });
-  fnAdd(QKeySequence("Ctrl+Q"), [this] { close(); });
+  fnAdd(QKeySequence("Ctrl+Q"), [this] {
+    m_bEndAgreed = false;
+    close();
+  });
   const auto fnStep = [this](bool bLarger) {
     SetZoomPercent(NextZoomStep(static_cast<int>(std::lround(Zoom() * 100)), bLarger));
   };
@@ -378,10 +382,28 @@ void frmMain::LeaveBox() {
   }
 }
 
+bool frmMain::EndSession(bool bMayAsk) {
+  CommitTyping();
+  SaveFormPosition(*this);
+  m_bEndAgreed = !bMayAsk || m_oDocuments.PromptBeforeExit();
+  Registry().Flush();
+  return m_bEndAgreed;
+}
+
+void frmMain::EndUnasked() {
+  if (isVisible()) {
+    SaveFormPosition(*this);
+  }
+  WriteLog("End app");
+}
+
 void frmMain::closeEvent(QCloseEvent* pEvent) {
   CommitTyping();
   SaveFormPosition(*this);
-  if (!m_oDocuments.PromptBeforeExit()) {
+  // A session that has ended closes the window itself; one that went on after all leaves that to
+  // the user.
+  const bool bAsked = m_bEndAgreed && !pEvent->spontaneous();
+  if (!bAsked && !m_oDocuments.PromptBeforeExit()) {
     pEvent->ignore();
     return;
   }

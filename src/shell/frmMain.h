@@ -45,6 +45,13 @@ class frmMain : public QWidget, private DocumentView {
   /// it in the calculator.
   void OpenAuction(const std::string& sPath);
 
+  /// The session of the desktop is ending: stores the window's place, and asks about what is
+  /// unsaved if it may. False if the user cancelled; else the close that follows asks nothing.
+  [[nodiscard]] bool EndSession(bool bMayAsk);
+
+  /// The program is ending at once: stores the window's place, and what is unsaved is lost.
+  void EndUnasked();
+
   /// Draws everything at another size, in percent, and remembers it.
   void SetZoomPercent(int nPercent);
 
@@ -93,6 +100,7 @@ class frmMain : public QWidget, private DocumentView {
   int m_lCalcMinHeight = 0;                 ///< likewise
   int m_lAboutBottomGap = 0;  ///< twips from the top of the about button to the window's bottom
   bool m_bFirstActivate = true;
+  bool m_bEndAgreed = false;   ///< nothing has changed since EndSession has asked
   bool m_bFirstStart = false;  ///< no zoom was ever stored
 };
 

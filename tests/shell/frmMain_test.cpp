@@ -172,8 +172,14 @@ TEST_F(Window, CloseAsksAndCanBeCancelled) {
   m_oHost.aeAnswers = {Answer::Yes};
   m_oHost.asChoices = {std::nullopt};
   EXPECT_FALSE(m_oWindow->close()) << "the save dialog was cancelled";
+  m_oHost.aeAnswers = {Answer::Cancel};
+  EXPECT_FALSE(m_oWindow->EndSession(true));
+  EXPECT_FALSE(m_oWindow->close()) << "asked again";
   m_oHost.aeAnswers = {Answer::No};
-  EXPECT_TRUE(m_oWindow->close());
+  EXPECT_TRUE(m_oWindow->EndSession(true));
+  m_oHost.aoShown.clear();
+  EXPECT_TRUE(m_oWindow->close()) << "by the session";
+  EXPECT_TRUE(m_oHost.aoShown.empty());
 }
 
 TEST_F(Window, AMovieClicksInAnyCaseAndSaysNothingElse) {

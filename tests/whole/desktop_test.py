@@ -2,9 +2,11 @@
 """The whole desktop program on a screen with a window manager, under real keys and mouse events."""
 
 import functools
+import os
 import pathlib
 import re
 import shutil
+import signal
 import subprocess
 import unittest
 
@@ -107,10 +109,14 @@ class WholeProgram(unittest.TestCase):
     @on_a_screen
     def test_a_file_on_the_command_line_opens_in_the_calculator(self):
         screen = self.screen
-        screen.start("quillet", SAMPLES / "carburetor.qlt", "Debug=True")
-        screen.window("Quillet US - carburetor")
-        screen.keys("ctrl+q")
+        file = os.fsencode(screen.home) + b"/caf\xe9.qlt"
+        shutil.copy(SAMPLES / "carburetor.qlt", file)
+        screen.start("quillet", "--style", "fusion", "/x", file, "Debug=True")
+        screen.window("Quillet US - caf\ufffd")
+        self.assertNotIn("Main", screen.settings())
+        screen.program.send_signal(signal.SIGTERM)
         self.assertEqual(screen.gone(), 0)
+        self.assertIn("Forms\\Main\\Left", screen.settings())
 
     @on_a_screen
     def test_a_schedule_that_is_missing_or_useless_is_said_and_ends_the_program(self):
