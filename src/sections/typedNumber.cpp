@@ -96,9 +96,10 @@ std::optional<std::string> Ungrouped(std::u16string_view sWhole) {
   std::size_t nSize = oStyle.nLastGroup;
   std::size_t nRun = 0;
   bool bGrouped = false;
-  for (auto pAt = sWhole.rbegin(); pAt != sWhole.rend(); ++pAt) {
-    if (IsDigit(*pAt)) {
-      sDigits += static_cast<char>(*pAt);
+  for (std::size_t nAt = sWhole.size(); nAt > 0;) {
+    const char16_t c = sWhole[--nAt];
+    if (IsDigit(c)) {
+      sDigits += static_cast<char>(c);
       ++nRun;
     } else if (nRun == nSize) {
       nSize = oStyle.nGroup;
@@ -125,10 +126,8 @@ std::optional<Single> ToTypedSingle(std::u16string_view sText, std::u16string_vi
   } while ((!oAround.bSign && TakeSign(sText, oAround)) ||
            (!oAround.bSymbol && TakeSymbol(sText, oAround)));
 
-  const std::u16string sMarks = GroupMarks(sDecimal);
-  const auto pEnd = std::find_if_not(sText.begin(), sText.end(),
-                                     [&](char16_t c) { return IsDigit(c) || Holds(sMarks, c); });
-  const auto nWhole = static_cast<std::size_t>(pEnd - sText.begin());
+  const std::u16string sOfWhole = u"0123456789" + GroupMarks(sDecimal);
+  const std::size_t nWhole = std::min(sText.find_first_not_of(sOfWhole), sText.size());
   const std::optional<std::string> sWhole = Ungrouped(sText.substr(0, nWhole));
   if (!sWhole) {
     return std::nullopt;

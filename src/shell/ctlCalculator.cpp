@@ -187,6 +187,7 @@ void ctlCalculator::FollowPlaces() {
 void ctlCalculator::OrderTabs() {
   const std::array aoSections = m_oSet.Sections();
   std::vector<SectionPlace> aoPlaces;
+  aoPlaces.reserve(aoSections.size());
   for (const SectionPanel* const pSection : aoSections) {
     aoPlaces.push_back({pSection->Left(), pSection->Top(), pSection->Width()});
   }
