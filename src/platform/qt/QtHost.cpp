@@ -5,8 +5,13 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFontMetrics>
+#include <QLabel>
+#include <QLayout>
 #include <QLocale>
 #include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QScreen>
 #include <QStandardPaths>
 #include <QThread>
 #include <QUrl>
@@ -18,6 +23,7 @@ namespace quillet {
 namespace {
 
 constexpr QSize kTwipsOfFileDialog(10800, 7200);
+constexpr QSize kTwipsOfLongText(7200, 4200);
 
 QMessageBox::Icon IconOf(int nButtons) {
   switch (nButtons) {
@@ -108,6 +114,30 @@ NumberStyle StyleOf(const QLocale& oLocale) {
   return oStyle;
 }
 
+/// Whether a message with that text would be hard to read, or larger than the screen.
+bool NeedsScrolling(const QString& sText, const QSize& oScreen) {
+  constexpr int kMostLetters = 2000;
+  constexpr int kMostLines = 20;
+  const QRect oNeeded =
+      QFontMetrics(ThemeFont(kTextPoints))
+          .boundingRect(QRect({}, oScreen / 2), Qt::AlignLeft | Qt::TextWordWrap, sText);
+  return sText.size() > kMostLetters || sText.count('\n') >= kMostLines ||
+         oNeeded.width() > oScreen.width() / 2 || oNeeded.height() > oScreen.height() / 2;
+}
+
+/// Puts the text of a message into a field that scrolls, so that the buttons stay on the screen.
+void LetScroll(QMessageBox& oBox, const QSize& oScreen) {
+  auto* const pText = new QPlainTextEdit(oBox.text(), &oBox);
+  pText->setReadOnly(true);
+  pText->setTabChangesFocus(true);
+  pText->setFont(oBox.font());
+  pText->setFixedSize(QSize(Pixels(kTwipsOfLongText.width()), Pixels(kTwipsOfLongText.height()))
+                          .boundedTo(oScreen / 2));
+  auto* const pLabel = oBox.findChild<QLabel*>("qt_msgbox_label");
+  delete oBox.layout()->replaceWidget(pLabel, pText);
+  pLabel->hide();
+}
+
 }  // namespace
 
 QtHost::QtHost()
@@ -125,6 +155,10 @@ Answer QtHost::ShowMessage(const std::string& sPrompt, int nButtons, const std::
     oBox.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
     oBox.setDefaultButton(QMessageBox::Yes);
     oBox.setEscapeButton(QMessageBox::Cancel);
+  }
+  const QSize oScreen = oBox.screen()->availableSize();
+  if (NeedsScrolling(oBox.text(), oScreen)) {
+    LetScroll(oBox, oScreen);
   }
   return AnswerOf(oBox.exec());
 }

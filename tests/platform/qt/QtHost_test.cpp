@@ -4,8 +4,10 @@
 #include <QDeadlineTimer>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 #include <QSettings>
 #include <QTest>
 #include <QTimer>
@@ -107,6 +109,23 @@ TEST_F(QtHostTest, AMessageHasTheIconOfItsNumberAndShowsItsTextAsItIs) {
       oDialog.reject();
     }});
     m_oHost.ShowMessage("<b>5 & 6</b> &c", nButtons, "Quillet US");
+  }
+}
+
+TEST_F(QtHostTest, TheButtonOfALongMessageStaysOnTheScreen) {
+  const QRect oScreen = QGuiApplication::primaryScreen()->availableGeometry();
+  for (const auto& [sWhat, sText] :
+       {std::pair("letters", QString(1000, 'n').replace("nn", "no way ")),
+        {"lines", QString(400, '\n')},
+        {"one word", QString(1900, 'W')},
+        {"short", QString("short")}}) {
+    const User oUser({[&, sText = sText, sWhat = sWhat](QDialog& oDialog) {
+      EXPECT_TRUE(oScreen.contains(oDialog.geometry())) << sWhat;
+      const auto* const pLong = oDialog.findChild<QPlainTextEdit*>();
+      EXPECT_EQ(pLong == nullptr ? "short" : pLong->toPlainText(), sText) << sWhat;
+      QTest::keyClick(&oDialog, Qt::Key_Return);
+    }});
+    EXPECT_EQ(m_oHost.ShowMessage(sText.toStdString(), kMessageWarning, ""), Answer::Ok) << sWhat;
   }
 }
 
