@@ -48,6 +48,7 @@ add_library(quillet_desktop STATIC
   shell/SectionSet.cpp
   shell/WizardSteps.cpp
   shell/DesktopApplication.cpp
+  shell/ScrollFrame.cpp
   shell/card.cpp
   shell/ctlCalculator.cpp
   shell/ctlWizard.cpp

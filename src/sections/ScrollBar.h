@@ -1,4 +1,4 @@
-// A vertical scroll bar, drawn in the theme.
+// A vertical scroll bar.
 #pragma once
 
 #include <QScrollBar>
@@ -12,9 +12,6 @@ class ScrollBar : public QScrollBar, public Control {
  public:
   explicit ScrollBar(QWidget* pParent);
   [[nodiscard]] const char* TypeName() const override { return "VScrollBar"; }
-
- protected:
-  void paintEvent(QPaintEvent* pEvent) override;
 };
 
 }  // namespace quillet

@@ -349,10 +349,13 @@ void SectionPanel::PlaceControls() {
   SetHeight(nHeight);
 }
 
+/// Out of config mode the boxes stand beyond the panel's edge: so that a screen reader passes over
+/// them too, their widgets are hidden, whatever their own flags say.
 void SectionPanel::EnableShowChecks() {
   for (Control* const pControl : m_aoControls) {
     if (IsShowCheck(*pControl)) {
       pControl->SetEnabled(m_bShowConfig);
+      pControl->Widget().setVisible(m_bShowConfig && pControl->Visible());
     }
   }
   AlignShowChecks();

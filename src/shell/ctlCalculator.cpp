@@ -127,11 +127,12 @@ void ctlCalculator::CalcMinSize(int& nWidth, int& nHeight) const {
   }
 }
 
-void ctlCalculator::WholeSize(int& nWidth, int& nHeight) const {
+void ctlCalculator::WholeSize(bool bInConfigMode, int& nWidth, int& nHeight) const {
   CalcMinSize(nWidth, nHeight);
   GrowToHold(nWidth, nHeight, m_oSet.ctlAuctionTypeSection);
   for (const SectionPanel* const pSection : m_oSet.Sections()) {
-    nWidth = std::max(nWidth, pSection->Left() + pSection->ConfigWidth());
+    const int nOfSection = bInConfigMode ? pSection->ConfigWidth() : pSection->Width();
+    nWidth = std::max(nWidth, pSection->Left() + nOfSection);
   }
 }
 

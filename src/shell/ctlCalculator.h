@@ -36,8 +36,8 @@ class ctlCalculator : public QWidget, public Control {
   /// doesn't count for the window's smallest size.
   void CalcMinSize(int& nWidth, int& nHeight) const;
 
-  /// The size, in twips, that holds everything, in config mode too.
-  void WholeSize(int& nWidth, int& nHeight) const;
+  /// The size, in twips, that holds everything as it stands, or as it is in config mode.
+  void WholeSize(bool bInConfigMode, int& nWidth, int& nHeight) const;
 
   [[nodiscard]] SectionSet& Set() { return m_oSet; }
 

@@ -16,6 +16,7 @@
 #include "platform/Files.h"
 #include "platform/qt/ShockwaveFlash.h"
 #include "platform/qt/Theme.h"
+#include "shell/ScrollFrame.h"
 #include "shell/formPosition.h"
 #include "shell/frmAbout.h"
 #include "shell/zoomSteps.h"
@@ -32,7 +33,7 @@ constexpr int kButtonLeft = 240;
 constexpr int kButtonSize = 1080;
 constexpr int kFirstButtonTop = 240;
 constexpr int kAboutTop = 6720;
-constexpr int kFrameHeight = 11055;
+constexpr int kMargin = 240;  // beside the sections, where the window is made to hold them
 
 struct ButtonDesign {
   const char* sMovie;
@@ -90,10 +91,10 @@ void PlaceInTwips(QWidget& oWidget, int nLeft, int nTop, int nWidth, int nHeight
 frmMain::frmMain()
     : m_sCaption(EditionName()),
       m_oDocuments(*this, m_sCaption),
-      m_pLhs(new Frame(this)),
-      m_pRhs(new Frame(this)),
-      m_pCalculator(new ctlCalculator(m_pRhs)),
-      m_pWizard(new ctlWizard(m_pRhs)) {
+      m_pLhs(new ScrollFrame(this)),
+      m_pRhs(new ScrollFrame(this)),
+      m_pCalculator(new ctlCalculator(&m_pRhs->Content())),
+      m_pWizard(new ctlWizard(&m_pRhs->Content())) {
   setObjectName("frmMain");
   m_pLhs->SetName("fraLHS");
   m_pRhs->SetName("fraRHS");
@@ -106,6 +107,8 @@ frmMain::frmMain()
   m_pWizard->SetVisible(false);
   MakeButtons();
   MakeShortcuts();
+  connect(m_pLhs, &ScrollFrame::ContentResized, this, &frmMain::PlaceAbout);
+  connect(m_pRhs, &ScrollFrame::ContentResized, this, &frmMain::PlaceViews);
   connect(m_pCalculator, &ctlCalculator::Changed, this, [this](bool bDocDirty) {
     m_bEndAgreed = false;
     SetWindowTitle(m_pCalculator->ConfigMode() ? kDefaultAuctionTitle : m_oDocuments.FileName(),
@@ -120,10 +123,10 @@ frmMain::~frmMain() = default;
 void frmMain::MakeButtons() {
   for (int i = 0; i < static_cast<int>(m_apMenuButtons.size()); ++i) {
     const auto nIndex = static_cast<std::size_t>(i);
-    m_apMenuButtons.at(nIndex) = MakeButton(kButtons.at(nIndex), "swfVerticalMenuButtons", m_pLhs,
-                                            [this, i] { ClickButton(i); });
+    m_apMenuButtons.at(nIndex) = MakeButton(kButtons.at(nIndex), "swfVerticalMenuButtons",
+                                            &m_pLhs->Content(), [this, i] { ClickButton(i); });
   }
-  m_pAbout = MakeButton(kAboutButton, "swfAbout", m_pLhs, [this] { ShowAboutBox(); });
+  m_pAbout = MakeButton(kAboutButton, "swfAbout", &m_pLhs->Content(), [this] { ShowAboutBox(); });
 }
 
 void frmMain::MakeShortcuts() {
@@ -193,11 +196,10 @@ void frmMain::Form_Activate() {
 /// The first start of all: the largest zoom at which the whole calculator fits the screen, and a
 /// window that holds it.
 void frmMain::FitFirstStart() {
-  constexpr int kMargin = 240;
   constexpr double kTwipsPerPixel = 15.0;
   int nWidth = 0;
   int nHeight = 0;
-  m_pCalculator->WholeSize(nWidth, nHeight);
+  m_pCalculator->WholeSize(true, nWidth, nHeight);
   nWidth += kRhsLeft + kMargin;
   nHeight += kMargin;
   // The window manager hasn't framed the window yet: an ordinary frame is allowed for.
@@ -277,6 +279,7 @@ void frmMain::PushDocument(bool bConfigMode, clsCalculate& oDocument, const std:
   m_pCalculator->CalcMinSize(m_lCalcMinWidth, m_lCalcMinHeight);
   SetWindowTitle(sTitle, false);
   Form_Resize();
+  m_pRhs->ShowBeginning();
 }
 
 void frmMain::RefreshCalculator() {
@@ -290,14 +293,19 @@ void frmMain::ShowWizard() {
   m_pWizard->SetVisible(true);
   MarkCurrent(kButtonWizard);
   Form_Resize();
+  m_pRhs->ShowBeginning();
 }
 
 /// Returns when the window about the product is closed.
 void frmMain::ShowAboutBox() {
   if (m_frmAboutBox == nullptr) {
     m_frmAboutBox = std::make_unique<frmAbout>(this);
-    connect(m_frmAboutBox.get(), &frmAbout::ResetControlPositions, this,
-            [this] { IgnoreFailure([this] { m_pCalculator->ResetControlPositions(); }); });
+    connect(m_frmAboutBox.get(), &frmAbout::ResetControlPositions, this, [this] {
+      IgnoreFailure([this] {
+        m_pCalculator->ResetControlPositions();
+        Form_Resize();
+      });
+    });
   }
   m_frmAboutBox->exec();
   m_frmAboutBox.reset();
@@ -320,10 +328,35 @@ void frmMain::SetWindowTitle(const std::string& sName, bool bDirty) {
 }
 
 void frmMain::SetZoomPercent(int nPercent) {
+  if (size() != m_oZoomedSize) {
+    m_oChosenSize = {Twips(width()), Twips(height())};
+  }
   SetZoom(nPercent / 100.0);
   Registry().Set(settings::kZoom, std::to_string(nPercent));
   Rescale();
   Form_Resize();
+  ResizeWithZoom();
+}
+
+/// The window goes with what is in it, as far as the screen has room, and comes back with it.
+void frmMain::ResizeWithZoom() {
+  if (!isMaximized()) {
+    const QSize oWanted(Pixels(m_oChosenSize.width()), Pixels(m_oChosenSize.height()));
+    resize(oWanted.boundedTo(RoomOnScreen()));
+    KeepOnScreen();
+  }
+  m_oZoomedSize = size();
+}
+
+void frmMain::KeepOnScreen() {
+  const QRect oScreen = screen()->availableGeometry();
+  const QRect oWindow = frameGeometry();
+  const QPoint oFarthest = oScreen.bottomRight() - QPoint(oWindow.width(), oWindow.height());
+  const QPoint oAt(std::max(oScreen.left(), std::min(oWindow.left(), oFarthest.x() + 1)),
+                   std::max(oScreen.top(), std::min(oWindow.top(), oFarthest.y() + 1)));
+  if (oAt != oWindow.topLeft()) {
+    move(oAt);
+  }
 }
 
 void frmMain::Rescale() {
@@ -336,6 +369,7 @@ void frmMain::Rescale() {
 }
 
 /// Below the size that its view needs the window can't be made, unless the screen is smaller still.
+/// What the whole view needs, and the screen can't give, the frame scrolls.
 void frmMain::Form_Resize() {
   if (isMinimized()) {
     return;
@@ -343,22 +377,50 @@ void frmMain::Form_Resize() {
   const bool bCalculator = m_pCalculator->Visible();
   const QSize oNeeded(Pixels(bCalculator ? kRhsLeft + m_lCalcMinWidth : m_lMinWidth),
                       Pixels(bCalculator ? m_lCalcMinHeight : m_lMinHeight));
-  const QSize oFrame = frameGeometry().size() - size();
-  setMinimumSize(oNeeded.boundedTo(screen()->availableSize() - oFrame));
+  const QSize oRoom = RoomOnScreen();
+  setMinimumSize(oNeeded.boundedTo(oRoom));
 
-  const int nWidth = Twips(width());
   const int nHeight = Twips(height());
-  m_pLhs->Place(0, 0, kLhsWidth, std::max(nHeight, kFrameHeight));
-  m_pRhs->Place(kRhsLeft, 0, nWidth - kRhsLeft, nHeight);
-  PlaceInTwips(*m_pAbout, kButtonLeft, nHeight - m_lAboutBottomGap, kButtonSize, kButtonSize);
-  if (bCalculator) {
-    m_pCalculator->SetWidth(m_pRhs->Width());
-    m_pCalculator->SetHeight(m_pRhs->Height());
+  m_pLhs->Place(0, 0, kLhsWidth, nHeight);
+  m_pLhs->Content().setMinimumHeight(Pixels(kAboutTop + kButtonSize));
+  m_pRhs->Place(kRhsLeft, 0, Twips(width()) - kRhsLeft, nHeight);
+  const QSize oView = WholeView();
+  m_pRhs->Content().setMinimumSize(
+      Pixels(kRhsLeft) + oView.width() > oRoom.width() ? oView.width() : 0,
+      oView.height() > oRoom.height() ? oView.height() : 0);
+  PlaceAbout();
+  PlaceViews();
+}
+
+/// The largest that the window can be made on its screen, without the edges around it.
+QSize frmMain::RoomOnScreen() const {
+  return screen()->availableSize() - (frameGeometry().size() - size());
+}
+
+/// What the view takes, in pixels, with nothing cut off.
+QSize frmMain::WholeView() const {
+  if (!m_pCalculator->Visible()) {
+    return {Pixels(m_lMinWidth - kRhsLeft), Pixels(m_lMinHeight)};
   }
-  if (m_pWizard->Visible()) {
-    m_pWizard->SetWidth(m_pRhs->Width());
-    m_pWizard->SetHeight(m_pRhs->Height());
-    m_pWizard->SetHeight(m_pRhs->Height());
+  int nWidth = 0;
+  int nHeight = 0;
+  m_pCalculator->WholeSize(m_pCalculator->ConfigMode(), nWidth, nHeight);
+  return {Pixels(nWidth + kMargin), Pixels(nHeight + kMargin)};
+}
+
+/// At its distance from the bottom, but never over the other buttons.
+void frmMain::PlaceAbout() {
+  const int nBottom = Twips(m_pLhs->Content().height());
+  PlaceInTwips(*m_pAbout, kButtonLeft, std::max(nBottom - m_lAboutBottomGap, kAboutTop),
+               kButtonSize, kButtonSize);
+}
+
+void frmMain::PlaceViews() {
+  const QSize oRoom = m_pRhs->Content().size();
+  for (Control* const pView : std::initializer_list<Control*>{m_pCalculator, m_pWizard}) {
+    if (pView->Visible()) {
+      pView->Place(pView->Left(), pView->Top(), Twips(oRoom.width()), Twips(oRoom.height()));
+    }
   }
 }
 

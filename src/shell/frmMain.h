@@ -13,6 +13,7 @@
 
 namespace quillet {
 
+class ScrollFrame;
 class ShockwaveFlash;
 class frmAbout;
 
@@ -83,12 +84,18 @@ class frmMain : public QWidget, private DocumentView {
   void CommitTyping();
   void LeaveBox();
   void FitFirstStart();
+  void ResizeWithZoom();
+  void KeepOnScreen();
+  void PlaceAbout();
+  void PlaceViews();
+  [[nodiscard]] QSize RoomOnScreen() const;
+  [[nodiscard]] QSize WholeView() const;
   void Rescale();
 
   std::string m_sCaption;
   DocumentLifecycle m_oDocuments;
-  Frame* m_pLhs;
-  Frame* m_pRhs;
+  ScrollFrame* m_pLhs;
+  ScrollFrame* m_pRhs;
   ctlCalculator* m_pCalculator;
   ctlWizard* m_pWizard;
   std::array<ShockwaveFlash*, 6> m_apMenuButtons{};
@@ -98,6 +105,8 @@ class frmMain : public QWidget, private DocumentView {
   int m_lMinHeight = 0;                     ///< likewise
   int m_lCalcMinWidth = 0;                  ///< twips; what CalcMinSize told last
   int m_lCalcMinHeight = 0;                 ///< likewise
+  QSize m_oChosenSize;        ///< twips; that of the window when it was last sized but by a zoom
+  QSize m_oZoomedSize;        ///< pixels; that of the window when it was last sized by a zoom
   int m_lAboutBottomGap = 0;  ///< twips from the top of the about button to the window's bottom
   bool m_bFirstActivate = true;
   bool m_bEndAgreed = false;   ///< nothing has changed since EndSession has asked

@@ -219,7 +219,11 @@ TEST(TabOrder, GoesDownEachColumnFromTheLeft) {
 }
 
 TEST_F(Calculator, AScreenReaderIsToldOfRowsOptionsAndFigures) {
-  ShowView(false, WorkingAuction());
+  for (const bool bConfig : {true, false}) {
+    ShowView(bConfig, WorkingAuction());
+    Control& oBox = ControlOf(m_pView->Set().ctlPayPalSection, "chkShowUsePayPal");
+    EXPECT_NE(QAccessible::queryAccessibleInterface(&oBox.Widget())->state().invisible, bConfig);
+  }
   const SectionSet& oSet = m_pView->Set();
   const auto fnTold = [](const SectionPanel& oSection, const char* sName) {
     return QAccessible::queryAccessibleInterface(&ControlOf(oSection, sName).Widget());

@@ -1,6 +1,7 @@
 #include "shell/frmMain.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <QTest>
 #include <QWindow>
 #include <memory>
@@ -203,6 +204,27 @@ TEST_F(Window, ZoomIsRememberedAndKeepsThePlacesInTwips) {
   EXPECT_GT(m_oWindow->Calculator().Set().ctlOutlaySection.width(), oBefore.width());
   QTest::keyClick(m_oWindow.get(), Qt::Key_0, Qt::ControlModifier);
   EXPECT_EQ(m_oWindow->Calculator().Set().ctlOutlaySection.size(), oBefore);
+}
+
+TEST_F(Window, AZoomBeyondTheScreenLetsTheFrameScrollAndComesBackToTheSize) {
+  Start();
+  const QRect oScreen = m_oWindow->screen()->availableGeometry();
+  const QSize oBefore = m_oWindow->size();
+  for (int i = 0; i < 5; ++i) {
+    QTest::keyClick(m_oWindow.get(), Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_TRUE(oScreen.contains(m_oWindow->frameGeometry())) << Zoom();
+    const auto aoButtons = m_oWindow->findChildren<ShockwaveFlash*>("swfVerticalMenuButtons");
+    EXPECT_FALSE(m_oWindow->findChild<ShockwaveFlash*>("swfAbout")
+                     ->geometry()
+                     .intersects(aoButtons.at(kButtonConfig)->geometry()));
+  }
+  QWidget& oLast = ControlOf(m_oWindow->Calculator().Set().ctlPostageSection, "txtManual").Widget();
+  oLast.setFocus();
+  QApplication::processEvents();
+  EXPECT_TRUE(m_oWindow->rect().contains({oLast.mapTo(m_oWindow.get(), QPoint()), oLast.size()}))
+      << "the focus is followed";
+  QTest::keyClick(m_oWindow.get(), Qt::Key_0, Qt::ControlModifier);
+  EXPECT_EQ(m_oWindow->size(), oBefore);
 }
 
 TEST_F(Window, AnyStartModeButZeroStartsInTheCalculator) {

@@ -4,7 +4,9 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QStyleOptionButton>
+#include <QStyleOptionSlider>
 #include <QWidget>
+#include <algorithm>
 #include <cmath>
 #include <optional>
 
@@ -19,6 +21,8 @@ constexpr double kTwipsOfButtonHeight = 420.0;
 constexpr double kTwipsOfMessageIcon = 540.0;
 constexpr double kTwipsOfMargin = 240.0;
 constexpr double kTwipsOfSpacing = 120.0;
+constexpr double kTwipsOfScrollBar = 165.0;
+constexpr double kTwipsOfLeastThumb = 360.0;
 constexpr double kIconStroke = 1.8;
 
 struct MessageIcon {
@@ -84,6 +88,51 @@ void DrawButton(QPainter& oPainter, const QStyleOption& oOption) {
   oPainter.restore();
 }
 
+/// The places of a scroll bar's parts: its thumb, and the ways on both sides of it.
+QRect PartOfScrollBar(const QStyleOptionSlider& oBar, QStyle::SubControl ePart) {
+  const bool bAcross = oBar.orientation == Qt::Horizontal;
+  const int nWay = bAcross ? oBar.rect.width() : oBar.rect.height();
+  const double fSteps = oBar.maximum - oBar.minimum + std::max(1, oBar.pageStep);
+  const int nShare = static_cast<int>(nWay * oBar.pageStep / fSteps);
+  const int nThumb = std::min(nWay, std::max(nShare, Pixels(kTwipsOfLeastThumb)));
+  const int nAt = QStyle::sliderPositionFromValue(oBar.minimum, oBar.maximum, oBar.sliderPosition,
+                                                  nWay - nThumb, oBar.upsideDown);
+  const auto fnPart = [&](int nFrom, int nLength) {
+    return bAcross ? QRect(nFrom, 0, nLength, oBar.rect.height())
+                   : QRect(0, nFrom, oBar.rect.width(), nLength);
+  };
+  switch (ePart) {
+    case QStyle::SC_ScrollBarSlider:
+      return fnPart(nAt, nThumb);
+    case QStyle::SC_ScrollBarSubPage:
+      return fnPart(0, nAt);
+    case QStyle::SC_ScrollBarAddPage:
+      return fnPart(nAt + nThumb, nWay - nAt - nThumb);
+    case QStyle::SC_ScrollBarGroove:
+      return oBar.rect;
+    default:
+      return {};
+  }
+}
+
+void DrawScrollBar(QPainter& oPainter, const QStyleOptionSlider& oBar) {
+  oPainter.fillRect(oBar.rect, oBar.palette.window());
+  if (oBar.maximum <= oBar.minimum) {
+    return;
+  }
+  const bool bHot = (oBar.state & (QStyle::State_Sunken | QStyle::State_MouseOver)) != 0;
+  const QRectF oThumb = PartOfScrollBar(oBar, QStyle::SC_ScrollBarSlider);
+  const double fInset = std::min(oThumb.width(), oThumb.height()) * 0.25;
+  const QRectF oInk = oThumb.adjusted(fInset, fInset, -fInset, -fInset);
+  const double fRadius = std::min(oInk.width(), oInk.height()) / 2;
+  oPainter.save();
+  oPainter.setRenderHint(QPainter::Antialiasing);
+  oPainter.setPen(Qt::NoPen);
+  oPainter.setBrush(InkColour(bHot ? Ink::FaintText : Ink::FieldEdge));
+  oPainter.drawRoundedRect(oInk, fRadius, fRadius);
+  oPainter.restore();
+}
+
 }  // namespace
 
 ThemeStyle::ThemeStyle() : QProxyStyle("Fusion") {}
@@ -108,6 +157,24 @@ void ThemeStyle::drawControl(ControlElement eElement, const QStyleOption* pOptio
   }
 }
 
+void ThemeStyle::drawComplexControl(ComplexControl eControl, const QStyleOptionComplex* pOption,
+                                    QPainter* pPainter, const QWidget* pWidget) const {
+  if (const auto* const pBar = qstyleoption_cast<const QStyleOptionSlider*>(pOption);
+      pBar != nullptr && eControl == CC_ScrollBar) {
+    DrawScrollBar(*pPainter, *pBar);
+  } else {
+    QProxyStyle::drawComplexControl(eControl, pOption, pPainter, pWidget);
+  }
+}
+
+QRect ThemeStyle::subControlRect(ComplexControl eControl, const QStyleOptionComplex* pOption,
+                                 SubControl ePart, const QWidget* pWidget) const {
+  const auto* const pBar = qstyleoption_cast<const QStyleOptionSlider*>(pOption);
+  return pBar != nullptr && eControl == CC_ScrollBar
+             ? PartOfScrollBar(*pBar, ePart)
+             : QProxyStyle::subControlRect(eControl, pOption, ePart, pWidget);
+}
+
 QSize ThemeStyle::sizeFromContents(ContentsType eType, const QStyleOption* pOption,
                                    const QSize& oSize, const QWidget* pWidget) const {
   const QSize oFitting = QProxyStyle::sizeFromContents(eType, pOption, oSize, pWidget);
@@ -121,6 +188,8 @@ int ThemeStyle::pixelMetric(PixelMetric eMetric, const QStyleOption* pOption,
   switch (eMetric) {
     case PM_MessageBoxIconSize:
       return Pixels(kTwipsOfMessageIcon);
+    case PM_ScrollBarExtent:
+      return Pixels(kTwipsOfScrollBar);
     case PM_LayoutLeftMargin:
     case PM_LayoutTopMargin:
     case PM_LayoutRightMargin:

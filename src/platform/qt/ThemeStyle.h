@@ -1,4 +1,5 @@
-// How the toolkit's own dialogs are drawn: flat buttons, and icons of the program's family.
+// How the toolkit's own dialogs are drawn: flat buttons, icons of the program's family, and thin
+// scroll bars without arrows, which are those of the program's windows too.
 #pragma once
 
 #include <QProxyStyle>
@@ -13,6 +14,10 @@ class ThemeStyle : public QProxyStyle {
                      const QWidget* pWidget) const override;
   void drawControl(ControlElement eElement, const QStyleOption* pOption, QPainter* pPainter,
                    const QWidget* pWidget) const override;
+  void drawComplexControl(ComplexControl eControl, const QStyleOptionComplex* pOption,
+                          QPainter* pPainter, const QWidget* pWidget) const override;
+  [[nodiscard]] QRect subControlRect(ComplexControl eControl, const QStyleOptionComplex* pOption,
+                                     SubControl ePart, const QWidget* pWidget) const override;
   [[nodiscard]] QSize sizeFromContents(ContentsType eType, const QStyleOption* pOption,
                                        const QSize& oSize, const QWidget* pWidget) const override;
   [[nodiscard]] int pixelMetric(PixelMetric eMetric, const QStyleOption* pOption,

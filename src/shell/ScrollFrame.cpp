@@ -1,0 +1,64 @@
+#include "shell/ScrollFrame.h"
+
+#include <QApplication>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include "platform/qt/Theme.h"
+
+namespace quillet {
+
+ScrollFrame::ScrollFrame(QWidget* pParent)
+    : QScrollArea(pParent), Control(static_cast<QWidget&>(*this)) {
+  setFrameShape(QFrame::NoFrame);
+  setFocusPolicy(Qt::NoFocus);
+  setWidgetResizable(true);
+  setWidget(new QWidget);
+  // Later, when what stands in the content has scrolled to the input itself.
+  connect(qApp, &QApplication::focusChanged, this, &ScrollFrame::FollowFocus, Qt::QueuedConnection);
+}
+
+void ScrollFrame::ShowBeginning() {
+  horizontalScrollBar()->setValue(0);
+  verticalScrollBar()->setValue(0);
+}
+
+bool ScrollFrame::eventFilter(QObject* pWatched, QEvent* pEvent) {
+  const bool bHandled = QScrollArea::eventFilter(pWatched, pEvent);
+  if (pWatched == widget() && pEvent->type() == QEvent::Resize) {
+    emit ContentResized();
+  }
+  return bHandled;
+}
+
+/// With Ctrl held the wheel belongs to the window's zoom.
+void ScrollFrame::wheelEvent(QWheelEvent* pEvent) {
+  if ((pEvent->modifiers() & Qt::ControlModifier) != 0) {
+    pEvent->ignore();
+  } else {
+    QScrollArea::wheelEvent(pEvent);
+  }
+}
+
+/// The toolkit would scroll at once, to where the focus stops for a moment while a view is hidden.
+bool ScrollFrame::focusNextPrevChild(bool bNext) {
+  return QWidget::focusNextPrevChild(bNext);
+}
+
+/// What takes the focus by a click alone, a section or a view, stays where the user has it.
+void ScrollFrame::FollowFocus() {
+  constexpr int kMargin = 360;
+  const QWidget* pNow = QApplication::focusWidget();
+  if (pNow == nullptr || (pNow->focusPolicy() & Qt::TabFocus) == 0 ||
+      !widget()->isAncestorOf(pNow)) {
+    return;
+  }
+  if (pNow->parentWidget()->focusProxy() == pNow) {
+    pNow = pNow->parentWidget();  // a box takes the focus by its text
+  }
+  const QRect oInput(pNow->mapTo(widget(), QPoint()), pNow->size());
+  ensureVisible(oInput.center().x(), oInput.center().y(), oInput.width() / 2 + Pixels(kMargin),
+                oInput.height() / 2 + Pixels(kMargin));
+}
+
+}  // namespace quillet

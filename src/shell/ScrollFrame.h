@@ -1,0 +1,37 @@
+// A frame whose content may be larger than it is.
+#pragma once
+
+#include <QScrollArea>
+
+#include "sections/Control.h"
+
+namespace quillet {
+
+/// Scrolls by its thin bars and by the wheel, and to an input that gets the focus.
+class ScrollFrame : public QScrollArea, public Control {
+  Q_OBJECT
+
+ public:
+  explicit ScrollFrame(QWidget* pParent);
+  [[nodiscard]] const char* TypeName() const override { return "Frame"; }
+
+  /// The parent of what stands in it: as large as the frame, or as its smallest size, which is set
+  /// as that of any widget.
+  [[nodiscard]] QWidget& Content() const { return *widget(); }
+
+  /// Scrolls back to the beginning.
+  void ShowBeginning();
+
+ signals:
+  void ContentResized();
+
+ protected:
+  bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
+  void wheelEvent(QWheelEvent* pEvent) override;
+  bool focusNextPrevChild(bool bNext) override;
+
+ private:
+  void FollowFocus();
+};
+
+}  // namespace quillet
