@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Installs the Windows program under Wine as a user would, works with it, and takes it off again:
-installed_test.py SETUP.EXE UPDATE_SERVERS."""
+installed_test.py SETUP.EXE."""
 
 import os
 import pathlib
@@ -10,13 +10,14 @@ import subprocess
 import sys
 import unittest
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tests" / "whole"))
+TESTS = pathlib.Path(__file__).resolve().parents[2] / "tests"
+sys.path[:0] = [str(TESTS / "whole"), str(TESTS / "support")]
 from desktop import Screen, wait_for  # noqa: E402
+from update_servers import UpdateServers  # noqa: E402
 
 WINE = next(p for p in ("/usr/lib/wine/wine64", shutil.which("wine64")) if p and os.path.exists(p))
 SETUP = pathlib.Path(sys.argv.pop(1)).resolve()
 PORTABLE = SETUP.with_name(SETUP.name.replace("setup.exe", "portable.zip"))
-SERVERS = pathlib.Path(sys.argv.pop(1)).resolve()
 SAMPLES = pathlib.Path(__file__).resolve().parents[2] / "data/samples"
 SETTINGS = r"HKCU\Software\Velmor\Quillet US"
 CONFIG = SETTINGS + r"\Config"
@@ -176,17 +177,13 @@ class Installed(unittest.TestCase):
         self.screen.wine("reg", "delete", CONFIG, "/v", "FTPSkipFlag", "/f")
         schedule = self.screen.folder / "UpdateUS_v0101.dat"
         before = schedule.read_bytes()
-        with subprocess.Popen([SERVERS], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
-                              text=True) as servers:
-            for name in ("WebServer", "FtpServer"):
-                self.screen.wine("reg", "add", MACHINE, "/v", name, "/d",
-                                 servers.stdout.readline().strip())
-            files = pathlib.Path(servers.stdout.readline().strip())
-            (files / "web/getAction.asp").write_text("0,nothing", encoding="utf-8")
-            (files / "ftp" / schedule.name).write_bytes(before + b"\n")
+        with UpdateServers() as servers:
+            for name, server in (("WebServer", servers.web), ("FtpServer", servers.ftp)):
+                self.screen.wine("reg", "add", MACHINE, "/v", name, "/d", server)
+            (servers.files / "web/getAction.asp").write_text("0,nothing", encoding="utf-8")
+            (servers.files / "ftp" / schedule.name).write_bytes(before + b"\n")
             self.screen.start_installed("DEBUG=TRUE")
             self.screen.end()
-            servers.stdin.close()
         log = (self.screen.folder / "QlDebug.log").read_text(encoding="utf-8")
         self.assertEqual(schedule.read_bytes(), before + b"\n", log)
         self.assertIn("DL - Special actions 6 - okay", log)

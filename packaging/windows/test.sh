@@ -19,15 +19,13 @@ export QUILLET_WINDOWS_QT
 
 say "Tests"
 build windows
-build sanitize update_servers
 trap stop_wine EXIT
 step "starting Wine" start_wine
 run_tests core
 run_tests widget
-check "Internet client" tests/online/internet_test.py build/sanitize/bin/update_servers \
-  "$wine_program" build/windows/bin/internet_probe.exe
+check "Internet client" \
+  tests/online/internet_test.py "$wine_program" build/windows/bin/internet_probe.exe
 check "installer and installed program" \
-  packaging/windows/installed_test.py "dist/Quillet-$(project_version)-setup.exe" \
-  build/sanitize/bin/update_servers
+  packaging/windows/installed_test.py "dist/Quillet-$(project_version)-setup.exe"
 
 finish

@@ -85,7 +85,15 @@ void Downloads::FetchActions() {
   }
 }
 
+void Downloads::RequireTime() {
+  if (m_oInternet.Pass().IsOver()) {
+    WriteLog("DL - Out of time");
+    throw Failure(FailureNumber::Internet, "The downloads have taken too long.");
+  }
+}
+
 void Downloads::FetchUpdateFile() {
+  RequireTime();
   try {
     FetchUpdateFileOrFail();
   } catch (const Failure&) {
@@ -144,6 +152,7 @@ void Downloads::SetUpdateSkip(bool bClear) {
 }
 
 void Downloads::FetchAboutText() {
+  RequireTime();
   try {
     WriteLog("DL - Scrolling message 1");
     WriteLog("DL - Scrolling message 2");

@@ -8,15 +8,16 @@
 
 namespace quillet {
 
-/// The steps of one pass, in the order in which PerformDownloads takes them. Only OpenConnection
-/// can raise a Failure; the others leave what goes wrong in the diagnostic log and nowhere else.
+/// The steps of one pass, in the order in which PerformDownloads takes them. OpenConnection can
+/// raise a Failure, and so does a step that would begin when the pass is over; else what goes wrong
+/// is left in the diagnostic log and nowhere else.
 class Downloads {
  public:
   using Clock = double (*)();  ///< the present moment, as a day number
 
   /// Speaks through `oInternet`, which isn't owned.
   explicit Downloads(Internet& oInternet, Clock fnNow = &CurrentDayNumber)
-      : m_oHttp(oInternet), m_fnNow(fnNow) {}
+      : m_oInternet(oInternet), m_oHttp(oInternet), m_fnNow(fnNow) {}
 
   /// False if the machine has no connection.
   [[nodiscard]] bool OpenConnection() { return m_oHttp.OpenConnection(); }
@@ -31,6 +32,9 @@ class Downloads {
   /// Fetches g_sAboutText if the action word asks for it, and stores it for later starts.
   void FetchAboutText();
 
+  /// The user wants to go on: what still runs fails, if the pass has taken three seconds.
+  void Hurry() { m_oInternet.Pass().Hurry(); }
+
   void CloseConnection() { m_oHttp.CloseConnection(); }
 
   // The skip mark: the moment at which an attempt to fetch the schedule began, in the settings
@@ -43,10 +47,12 @@ class Downloads {
   void SetUpdateSkip(bool bClear);
 
  private:
+  void RequireTime();
   void FetchUpdateFileOrFail();
   /// The web server's answer, of one that is very long the beginning.
   [[nodiscard]] std::string Ask(const std::string& sRequest);
 
+  Internet& m_oInternet;
   clsHttp m_oHttp;
   Clock m_fnNow;
 };

@@ -7,6 +7,8 @@
 #include <memory>
 #include <string>
 
+#include "platform/PassTime.h"
+
 namespace quillet {
 
 /// Something that an Internet has opened; 0 is nothing.
@@ -17,28 +19,35 @@ enum class InternetAccess : int { Preconfigured = 0, Proxy = 3 };
 enum class InternetService : int { Ftp = 1, Http = 3 };
 enum class TransferType : int { Ascii = 1, Binary = 2 };
 
-/// When a call gives up. Every bound holds for one call.
+/// When a call gives up. Every bound but oPass holds for one call.
 struct InternetLimits {
   std::chrono::milliseconds oConnect{10'000};  ///< until the server is reached and lets the user in
   std::chrono::milliseconds oStall{20'000};    ///< without a byte of the file or answer
-  std::chrono::milliseconds oWhole{120'000};   ///< until all of it has come
+  std::chrono::milliseconds oPass{30'000};     ///< from Open on; a call beyond it fails at once
   std::size_t nLargest;                        ///< bytes of a file or answer
 };
+
+/// How often an answer by HTTP may send the request on, to http: and https: only.
+inline constexpr int kMostRedirects = 5;
 
 /// Calls block until they are done or a limit is reached, and pump the host's events meanwhile. No
 /// call throws; after one that gives false or 0, the three texts below tell why. All text is UTF-8.
 class Internet {
  public:
-  Internet() = default;
+  explicit Internet(const InternetLimits& oLimits) : m_oPass(oLimits.oPass) {}
   Internet(const Internet&) = delete;
   Internet& operator=(const Internet&) = delete;
   virtual ~Internet() = default;
 
+  /// The time of the calls from the latest Open on.
+  [[nodiscard]] PassTime& Pass() { return m_oPass; }
+
   /// True if this machine has a connection at all, be it to a local network only. Asks nobody.
   [[nodiscard]] virtual bool IsConnected() = 0;
 
-  /// Opens an Internet session, one at a time; contacts nobody. `sProxy` is "host" or "host:port",
-  /// and counts with InternetAccess::Proxy only; else the user's own proxy settings hold.
+  /// Opens an Internet session, one at a time, and begins the pass; contacts nobody. `sProxy` is
+  /// "host" or "host:port", and counts with InternetAccess::Proxy only; else the user's own proxy
+  /// settings hold.
   [[nodiscard]] virtual InternetHandle Open(const std::string& sAgent, InternetAccess eAccess,
                                             const std::string& sProxy) = 0;
 
@@ -67,7 +76,7 @@ class Internet {
                                                    const std::string& sRequest) = 0;
 
   /// Sends it and takes in the body of the answer, whatever its status. False, with nothing to
-  /// read, if there is no answer, if it breaks off or if it is too large.
+  /// read, if there is no answer, if it breaks off, is too large or sends the request on too often.
   [[nodiscard]] virtual bool SendRequest(InternetHandle hRequest) = 0;
 
   /// How many bytes the next Read can give at once; 0 at the end.
@@ -85,6 +94,9 @@ class Internet {
 
   /// Closes what was opened, with all that was opened from it. 0 is allowed.
   virtual void Close(InternetHandle hHandle) = 0;
+
+ private:
+  PassTime m_oPass;
 };
 
 /// The platform's own client.

@@ -37,6 +37,7 @@ class MainWindowHandle : public MainWindow {
 
 std::unique_ptr<SplashWindow> DesktopApplication::ShowSplash() {
   auto pSplash = std::make_unique<frmSplash>();
+  QObject::connect(pSplash.get(), &frmSplash::Hurried, [this] { m_oDownloads.Hurry(); });
   pSplash->show();
   pSplash->activateWindow();  // so that a key reaches it
   return pSplash;

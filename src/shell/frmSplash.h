@@ -21,6 +21,14 @@ class frmSplash : public QWidget, public SplashWindow {
   [[nodiscard]] bool MovieComplete() const override { return m_bMovieComplete; }
   void Hide() override { hide(); }
 
+ signals:
+  /// A key or click when the movie has ended: the user wants to go on.
+  void Hurried();
+
+ protected:
+  void keyPressEvent(QKeyEvent* /*pEvent*/) override { emit Hurried(); }
+  void mousePressEvent(QMouseEvent* /*pEvent*/) override { emit Hurried(); }
+
  private:
   void Form_Load();
   void FitToScreen();

@@ -1,5 +1,6 @@
 #include "online/downloads.h"
 
+#include "base/failure.h"
 #include "online/dayNumber.h"
 #include "support/FakeInternet.h"
 #include "support/OnlineTest.h"
@@ -80,6 +81,24 @@ TEST_F(Download, ABrokenAttemptBarsTheRestOfItsDay) {
   m_oDownloads.FetchUpdateFile();
   EXPECT_EQ(SkipMark(), "");
   EXPECT_EQ(ReadTestFile(m_sLocal), "as this one");
+}
+
+TEST_F(Download, APassThatIsOverBeginsNoFurtherStep) {
+  for (const bool bHurried : {true, false}) {
+    Downloads oPass(m_oInternet);
+    ASSERT_TRUE(oPass.OpenConnection());
+    m_oHost.nTicks += bHurried ? 2'999 : 29'999;
+    if (bHurried) {
+      oPass.Hurry();
+    }
+    EXPECT_NO_THROW(oPass.FetchAboutText()) << "a key in the first three seconds isn't heard";
+    m_oHost.nTicks += 1;
+    if (bHurried) {
+      oPass.Hurry();
+    }
+    EXPECT_THROW(oPass.FetchUpdateFile(), Failure);
+    EXPECT_EQ(SkipMark(), "");
+  }
 }
 
 TEST_F(Download, TheSkipMarkHoldsForItsCalendarDayAndAllBefore) {

@@ -1,6 +1,6 @@
 // Asks the platform's Internet client for one thing and tells what came of it:
 //   internet_probe http HOST:PORT PATH
-//   internet_probe ftp HOST:PORT PASSWORD FILE LOCAL
+//   internet_probe ftp HOST:PORT PASSWORD FOLDER FILE LOCAL
 // Prints "got" and the number of bytes, and for FTP the size that was announced; or "lost" and the
 // client's own words, or the server's.
 #include <chrono>
@@ -41,11 +41,12 @@ class Probe {
     return "got " + std::to_string(nBytes);
   }
 
-  std::string Ftp(const std::string& sPassword, const std::string& sFile,
-                  const std::string& sLocal) {
+  std::string Ftp(const std::string& sPassword, const std::string& sFolder,
+                  const std::string& sFile, const std::string& sLocal) {
     std::uint64_t nSize = 0;
     const InternetHandle hFtp = Connect(sPassword, InternetService::Ftp);
-    if (hFtp == 0 || !m_pInternet->FindFile(hFtp, sFile, nSize) ||
+    if (hFtp == 0 || (!sFolder.empty() && !m_pInternet->SetDirectory(hFtp, sFolder)) ||
+        !m_pInternet->FindFile(hFtp, sFile, nSize) ||
         !m_pInternet->GetFile(hFtp, sFile, sLocal, TransferType::Binary)) {
       return Lost();
     }
@@ -74,10 +75,10 @@ std::string Outcome(const std::vector<std::string>& asWords) {
   if (asWords.size() == 3 && asWords[0] == "http") {
     return Probe(asWords[1]).Http(asWords[2]);
   }
-  if (asWords.size() == 5 && asWords[0] == "ftp") {
-    return Probe(asWords[1]).Ftp(asWords[2], asWords[3], asWords[4]);
+  if (asWords.size() == 6 && asWords[0] == "ftp") {
+    return Probe(asWords[1]).Ftp(asWords[2], asWords[3], asWords[4], asWords[5]);
   }
-  return "usage: internet_probe http SERVER PATH | ftp SERVER PASSWORD FILE LOCAL";
+  return "usage: internet_probe http SERVER PATH | ftp SERVER PASSWORD FOLDER FILE LOCAL";
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """What the platform's Internet client makes of servers that misbehave:
-internet_test.py UPDATE_SERVERS PROBE..., where the last words start the probe."""
+internet_test.py PROBE..., words that start the probe. Run as root, whom the FTP server needs."""
 
 import contextlib
 import pathlib
@@ -14,10 +14,12 @@ import threading
 import time
 import unittest
 
-SERVERS = pathlib.Path(sys.argv.pop(1)).resolve()
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
+from update_servers import PASSWORD, UpdateServers, free_port  # noqa: E402
+
 PROBE = sys.argv[1:]
 del sys.argv[1:]
-# The probe's limits: a second to connect, one without a byte, three in all, and so many bytes.
+# The probe's limits: a second to connect, one without a byte, three for all calls, and so many bytes.
 LARGEST = 100_000
 LONGEST = 6  # seconds, with the start of the program
 
@@ -55,12 +57,24 @@ class Server(socketserver.ThreadingTCPServer):
         return "127.0.0.1:%d" % self.server_address[1]
 
 
-class FtpServer(Server):
-    """Lets everyone in and knows one file, which it sends by a list of acts."""
+class Redirects(Server):
+    """Sends /3 to /2 and so on; /0 is answered. Other paths go where the dictionary sends them."""
 
-    def __init__(self, size, acts):
+    def answer(self, peer, _address, _server):
+        path = peer.recv(4096).split()[1].decode()
+        to = self.acts.get(path) or "/%d" % (int(path[1:]) - 1)
+        perform([HEAD % 5, b"hello"] if path == "/0" else
+                [b"HTTP/1.0 302 Found\r\nLocation: %b\r\n\r\nelsewhere" % to.encode()], peer)
+
+
+class FtpServer(Server):
+    """Lets everyone in and knows one file, which it sends by a list of acts. It may pause before
+    each word."""
+
+    def __init__(self, size, acts, pause=0):
         super().__init__(acts)
         self.size = size
+        self.pause = pause
         self.listed = b"-rw-r--r-- 1 ftp ftp %d Jan 01 2026 fees.dat\r\n" % size
 
     def answer(self, peer, _address, _server):
@@ -71,6 +85,7 @@ class FtpServer(Server):
         data = None
 
         def say(text):
+            time.sleep(self.pause)
             lines.write(text + "\r\n")
             lines.flush()
 
@@ -153,34 +168,52 @@ class Client(unittest.TestCase):
             "never ended": (LARGEST, [content[:20_000], silence], "lost: .+"),
             "dripping": (LARGEST, [drips], "lost: .+"),
             "no word from the server": (LARGEST, [], "lost: .+"),
+            "slow at every word": (LARGEST, [content], "lost: .+", 0.5),
         }
-        for name, (size, acts, answer) in rows.items():
+        for name, (size, acts, answer, *pause) in rows.items():
             self.local.write_bytes(b"old")
-            with self.subTest(name), FtpServer(size, acts) as server:
-                self.expect(("ftp", server.name, "secret", "fees.dat", self.local), answer)
+            with self.subTest(name), FtpServer(size, acts, *pause) as server:
+                self.expect(("ftp", server.name, "secret", "", "fees.dat", self.local), answer)
                 self.assertEqual(self.local.read_bytes(), b"old" if "lost" in answer else content)
+                self.assertEqual(list(self.local.parent.iterdir()), [self.local])
                 server.shutdown()
 
+    def test_a_request_is_sent_on_five_times_and_only_to_the_web(self):
+        with FtpServer(5, [b"hello"]) as ftp, Redirects({
+                "/circle": "/circle", "/ftp": f"ftp://{ftp.name}/fees.dat",
+                "/file": "file:///etc/hostname"}) as server:
+            for path, answer in {"1": "got 5", "5": "got 5", "6": "lost: .+", "circle": "lost: .+",
+                                 "ftp": "lost: .+", "file": "lost: .+"}.items():
+                with self.subTest(path):
+                    self.expect(("http", server.name, path), answer)
+            ftp.shutdown()
+            server.shutdown()
+
     def test_nobody_there_is_told_at_once(self):
-        with socket.create_server(("127.0.0.1", 0)) as taken:
-            free = "127.0.0.1:%d" % taken.getsockname()[1]
-        for words in (("http", free, "page"), ("ftp", free, "secret", "fees.dat", self.local)):
-            self.expect(words, "lost: .+")
+        for server in (f"127.0.0.1:{free_port()}", ":80"):
+            for words in (("http", server, "page"),
+                          ("ftp", server, "secret", "", "fees.dat", self.local)):
+                with self.subTest(words):
+                    self.expect(words, "lost: .+")
 
     def test_real_servers_answer_and_refuse_in_their_own_words(self):
-        with subprocess.Popen([SERVERS], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
-                              text=True) as servers:
-            web, ftp, files = (servers.stdout.readline().strip() for _ in range(3))
-            pathlib.Path(files, "web/page").write_bytes(b"hello")
-            pathlib.Path(files, "ftp/fees.dat").write_bytes(b"a\r\nb\n\0")
-            self.expect(("http", web, "page"), "got 5")
-            self.expect(("ftp", ftp, "rmk3816", "fees.dat", self.local), "got 6 of 6")
+        with UpdateServers() as servers:
+            (servers.files / "web/page").write_bytes(b"hello")
+            folder = servers.files / "ftp/fees of 2026"
+            folder.mkdir()
+            (folder / "%41.dat").write_bytes(b"a\r\nb\n\0")
+            self.expect(("http", servers.web, "page"), "got 5")
+            nowhere = self.local / "folder"
+            for password, place, file, local, answer in (
+                    (PASSWORD, "/fees of 2026", "%41.dat", self.local, "got 6 of 6"),
+                    (PASSWORD, "", "none.dat", self.local, "lost: .+"),
+                    (PASSWORD, "fees of 2026", "%41.dat", nowhere, "lost: .+"),
+                    (PASSWORD, "2025", "%41.dat", self.local, "lost: 550 .+"),
+                    # Windows has a number of its own for this.
+                    ("wrong", "", "%41.dat", self.local, "lost: (530 .*incorrect.*|Error 12015)")):
+                with self.subTest(answer, place=place):
+                    self.expect(("ftp", servers.ftp, password, place, file, local), answer)
             self.assertEqual(self.local.read_bytes(), b"a\r\nb\n\0")
-            # Windows has a number of its own for this.
-            self.expect(("ftp", ftp, "wrong", "fees.dat", self.local),
-                        "lost: (530 .*incorrect.*|Error 12015)")
-            self.expect(("ftp", ftp, "rmk3816", "none.dat", self.local), "lost: .+")
-            servers.stdin.close()
 
 
 if __name__ == "__main__":

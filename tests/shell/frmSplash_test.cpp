@@ -45,13 +45,16 @@ TEST_F(Splash, LoadsThenEndsByItself) {
   EXPECT_EQ(Commands(), QStringList({"start", "stop"}));
 }
 
-TEST_F(Splash, AKeyOrAClickEndsItAtOnceAndOnlyOnce) {
-  Open();
+TEST_F(Splash, AKeyOrAClickEndsItAtOnceAndOnlyOnceAndThenAsksToGoOn) {
+  const QSignalSpy oHurried(&Open(), &frmSplash::Hurried);
   QTest::keyClick(&Movie(), Qt::Key_Space);
   EXPECT_EQ(Commands(), QStringList({"start", "stop"}))
       << "start comes first, however early the key";
+  EXPECT_EQ(oHurried.size(), 0);
   QTest::mouseClick(&Movie(), Qt::LeftButton);
+  QTest::keyClick(&Movie(), Qt::Key_Space);
   EXPECT_EQ(m_oCommands->size(), 2);
+  EXPECT_EQ(oHurried.size(), 2);
   Open();
   QTest::mouseClick(&Movie(), Qt::RightButton);
   EXPECT_EQ(Commands(), QStringList({"start", "stop"}));

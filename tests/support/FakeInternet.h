@@ -13,10 +13,12 @@ namespace quillet {
 
 class FakeInternet : public Internet {
  public:
+  FakeInternet() : Internet({.nLargest = 0}) {}
   bool IsConnected() override { return bConnected; }
   InternetHandle Open(const std::string& sAgent, InternetAccess eAccess,
                       const std::string& sProxy) override {
     WriteLog("* open " + sAgent + " " + std::to_string(static_cast<int>(eAccess)) + " " + sProxy);
+    Pass().Begin();
     return bOpens ? ++m_hLast : 0;
   }
   InternetHandle Connect(InternetHandle /*hInternet*/, const std::string& sHost,

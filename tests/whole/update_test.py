@@ -7,13 +7,14 @@ usage: update_test.py FOLDER_OF_THE_PROGRAMS"""
 import os
 import re
 import shutil
+import socket
 import subprocess
 import sys
 import time
 import unittest
 
 os.environ["QUILLET_BIN"] = sys.argv.pop(1)
-sys.path.insert(0, os.path.join(os.path.dirname(os.path.realpath(__file__)), "../support"))
+sys.path.insert(0, os.path.join(os.path.dirname(__file__), "../support"))
 from desktop import PROGRAMS, Screen, wait_for  # noqa: E402
 from seen import Desktop, ReadableScreen  # noqa: E402
 from update_servers import UpdateServers  # noqa: E402
@@ -161,6 +162,20 @@ class Update(unittest.TestCase):
             self.assertLess(time.monotonic() - begin, 3)
             wait_for("the end of the start", lambda: comments(program)[-1:] == ["End startup"])
             self.assertEqual(comments(program), OFFLINE_LOG)
+
+    def test_a_key_on_the_splash_ends_downloads_that_have_taken_three_seconds(self):
+        with Screen("hurried") as screen, socket.create_server(("127.0.0.1", 0)) as silent:
+            program = self.at_home(screen)
+            self.name_servers(screen, "", "127.0.0.1:%d" % silent.getsockname()[1])
+            self.start(screen, program / "quillet", "debug=true")
+            wait_for("the downloads", lambda: "Start FTP 1" in comments(program))
+            begin = time.monotonic()
+            wait_for("the end of them", lambda: screen.keys("space") or
+                     "DL - Out of time" in comments(program))
+            self.assertTrue(2 < time.monotonic() - begin < 8)
+            screen.window("Quillet US - Default Configuration")
+            self.assertIn("DL - Update file 10 - fail", comments(program))
+            self.assertIn("FTPSkipFlag", screen.settings())
 
     def test_a_file_that_is_no_use_leaves_the_fees_of_before(self):
         fees = (PROGRAMS / FEES).read_text(encoding="utf-8")

@@ -59,6 +59,7 @@ bool CurlInternet::IsConnected() {
 
 InternetHandle CurlInternet::Open(const std::string& sAgent, InternetAccess eAccess,
                                   const std::string& sProxy) {
+  Pass().Begin();
   m_sAgent = sAgent;
   m_sProxy = eAccess == InternetAccess::Proxy ? sProxy : "";
   m_hInternet = ++m_hLast;
@@ -89,7 +90,7 @@ TransferResult CurlInternet::Run(InternetHandle hSession, Change&& fnChange) {
   }
   TransferRequest oRequest = iSession->second.oBase;
   std::forward<Change>(fnChange)(oRequest);
-  TransferResult oResult = iSession->second.oConnections.Run(oRequest, m_oLimits);
+  TransferResult oResult = iSession->second.oConnections.Run(oRequest, m_oLimits, Pass());
   if (!oResult.bDone) {
     Fail(oResult.sError);
     m_bExtendedError = oResult.bRefused;

@@ -14,7 +14,7 @@ namespace quillet {
 
 class CurlInternet : public Internet {
  public:
-  explicit CurlInternet(InternetLimits oLimits) : m_oLimits(oLimits) {}
+  explicit CurlInternet(InternetLimits oLimits) : Internet(oLimits), m_oLimits(oLimits) {}
 
   /// True if a network interface is up. That of the machine itself counts only where it has no
   /// other, as in a container.

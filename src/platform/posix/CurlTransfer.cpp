@@ -65,7 +65,6 @@ void Set(CURL* pTransfer, CURLoption eOption, Value oValue) {
 
 void SetLimits(CURL* pTransfer, const InternetLimits& oLimits) {
   Set(pTransfer, CURLOPT_CONNECTTIMEOUT_MS, static_cast<long>(oLimits.oConnect.count()));
-  Set(pTransfer, CURLOPT_TIMEOUT_MS, static_cast<long>(oLimits.oWhole.count()));
   Set(pTransfer, CURLOPT_NOSIGNAL, 1L);
   Set(pTransfer, CURLOPT_QUICK_EXIT, 1L);  // never wait for a name server that doesn't answer
 }
@@ -80,6 +79,9 @@ const curl_slist* NoCache() {
 void SetRequest(CURL* pTransfer, const TransferRequest& oRequest) {
   Set(pTransfer, CURLOPT_URL, oRequest.sUrl.c_str());
   Set(pTransfer, CURLOPT_PROTOCOLS_STR, "ftp,http");
+  Set(pTransfer, CURLOPT_FOLLOWLOCATION, 1L);
+  Set(pTransfer, CURLOPT_MAXREDIRS, static_cast<long>(kMostRedirects));
+  Set(pTransfer, CURLOPT_REDIR_PROTOCOLS_STR, "http,https");
   Set(pTransfer, CURLOPT_USERAGENT, oRequest.sAgent.c_str());
   Set(pTransfer, CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_0));
   Set(pTransfer, CURLOPT_HTTPHEADER, NoCache());
@@ -141,26 +143,30 @@ int CurlConnections::CloseSocket(void* pThis, curl_socket_t nSocket) {
   return ::close(nSocket);
 }
 
-CURLcode CurlConnections::Perform(CURL* pTransfer) {
+CURLcode CurlConnections::Perform(CURL* pTransfer, const PassTime& oPass) {
+  if (oPass.IsOver()) {
+    return CURLE_OPERATION_TIMEDOUT;
+  }
   if (curl_multi_add_handle(m_oMulti.get(), pTransfer) != CURLM_OK) {
     return CURLE_FAILED_INIT;
   }
   int nRunning = 1;
   CURLMcode eCode = curl_multi_perform(m_oMulti.get(), &nRunning);
-  while (eCode == CURLM_OK && nRunning != 0) {
+  while (eCode == CURLM_OK && nRunning != 0 && !oPass.IsOver()) {
     curl_multi_poll(m_oMulti.get(), nullptr, 0, kPumpEvery, nullptr);
     TheHost().PumpEvents();
     eCode = curl_multi_perform(m_oMulti.get(), &nRunning);
   }
   int nLeft = 0;
   const CURLMsg* const pMessage = curl_multi_info_read(m_oMulti.get(), &nLeft);
-  const CURLcode eResult = pMessage != nullptr ? pMessage->data.result : CURLE_FAILED_INIT;
+  const CURLcode eUnfinished = oPass.IsOver() ? CURLE_OPERATION_TIMEDOUT : CURLE_FAILED_INIT;
+  const CURLcode eResult = pMessage != nullptr ? pMessage->data.result : eUnfinished;
   curl_multi_remove_handle(m_oMulti.get(), pTransfer);
   return eResult;
 }
 
-TransferResult CurlConnections::Run(const TransferRequest& oRequest,
-                                    const InternetLimits& oLimits) {
+TransferResult CurlConnections::Run(const TransferRequest& oRequest, const InternetLimits& oLimits,
+                                    const PassTime& oPass) {
   TransferResult oResult;
   const std::unique_ptr<CURL, decltype(&curl_easy_cleanup)> oTransfer(curl_easy_init(),
                                                                       &curl_easy_cleanup);
@@ -180,7 +186,7 @@ TransferResult CurlConnections::Run(const TransferRequest& oRequest,
   Set(oTransfer.get(), CURLOPT_CLOSESOCKETFUNCTION, &CloseSocket);
   Set(oTransfer.get(), CURLOPT_CLOSESOCKETDATA, this);
 
-  const CURLcode eResult = Perform(oTransfer.get());
+  const CURLcode eResult = Perform(oTransfer.get(), oPass);
   oResult.bDone = eResult == CURLE_OK;
   if (!oResult.bDone) {
     oResult.sBody.clear();

@@ -38,14 +38,15 @@ class CurlConnections {
   CurlConnections& operator=(const CurlConnections&) = delete;
   ~CurlConnections();
 
-  /// Blocks within the limits; the host's events are pumped meanwhile.
-  [[nodiscard]] TransferResult Run(const TransferRequest& oRequest, const InternetLimits& oLimits);
+  /// Blocks within the limits and the pass; the host's events are pumped meanwhile.
+  [[nodiscard]] TransferResult Run(const TransferRequest& oRequest, const InternetLimits& oLimits,
+                                   const PassTime& oPass);
 
  private:
   static curl_socket_t OpenSocket(void* pThis, curlsocktype ePurpose, curl_sockaddr* pAddress);
   static int CloseSocket(void* pThis, curl_socket_t nSocket);
 
-  [[nodiscard]] CURLcode Perform(CURL* pTransfer);
+  [[nodiscard]] CURLcode Perform(CURL* pTransfer, const PassTime& oPass);
 
   std::unique_ptr<CURLM, decltype(&curl_multi_cleanup)> m_oMulti;
   std::set<curl_socket_t> m_anSockets;

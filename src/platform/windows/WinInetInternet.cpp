@@ -1,5 +1,6 @@
 #include "platform/windows/WinInetInternet.h"
 
+#include <array>
 #include <future>
 #include <system_error>
 #include <thread>
@@ -22,6 +23,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds kPumpEvery{10};
 constexpr std::chrono::milliseconds kToLetGo{500};  // of a handle that was closed
+constexpr DWORD kRequestFlags = INTERNET_FLAG_RELOAD | INTERNET_FLAG_NO_AUTO_REDIRECT;
 
 /// What an FTP server said last, to a call on this thread.
 std::string ServerResponse() {
@@ -38,13 +40,38 @@ std::string ServerResponse() {
   return Narrow(sWide);
 }
 
-/// The length that an HTTP server has announced; 0 if it hasn't.
-std::uint64_t AnnouncedLength(HINTERNET hRequest) {
-  DWORD nLength = 0;
-  DWORD nSize = sizeof(nLength);
-  const BOOL bFound = ::HttpQueryInfoW(hRequest, HTTP_QUERY_CONTENT_LENGTH | HTTP_QUERY_FLAG_NUMBER,
-                                       &nLength, &nSize, nullptr);
-  return bFound != FALSE ? nLength : 0;
+/// A number in the head of an HTTP answer; 0 if it isn't there.
+DWORD HeadNumber(HINTERNET hRequest, DWORD nWhich) {
+  DWORD nNumber = 0;
+  DWORD nSize = sizeof(nNumber);
+  const BOOL bFound =
+      ::HttpQueryInfoW(hRequest, nWhich | HTTP_QUERY_FLAG_NUMBER, &nNumber, &nSize, nullptr);
+  return bFound != FALSE ? nNumber : 0;
+}
+
+/// The URL that an HTTP answer sends the request on to; empty if it doesn't.
+std::wstring Location(HINTERNET hRequest) {
+  std::array<wchar_t, INTERNET_MAX_URL_LENGTH> acTo{};
+  std::array<wchar_t, INTERNET_MAX_URL_LENGTH> acFrom{};
+  std::array<wchar_t, INTERNET_MAX_URL_LENGTH> acWhole{};
+  auto nBytes = static_cast<DWORD>(sizeof(acTo));
+  if (HeadNumber(hRequest, HTTP_QUERY_STATUS_CODE) / 100 != 3 ||
+      ::HttpQueryInfoW(hRequest, HTTP_QUERY_LOCATION, acTo.data(), &nBytes, nullptr) == FALSE) {
+    return {};
+  }
+  nBytes = static_cast<DWORD>(sizeof(acFrom));
+  ::InternetQueryOptionW(hRequest, INTERNET_OPTION_URL, acFrom.data(), &nBytes);
+  auto nLength = static_cast<DWORD>(acWhole.size());
+  const BOOL bWhole =
+      ::InternetCombineUrlW(acFrom.data(), acTo.data(), acWhole.data(), &nLength, 0);
+  return bWhole != FALSE ? acWhole.data() : acTo.data();
+}
+
+bool IsOfTheWeb(const std::wstring& sUrl) {
+  URL_COMPONENTSW oParts{};
+  oParts.dwStructSize = sizeof(oParts);
+  return ::InternetCrackUrlW(sUrl.c_str(), 0, 0, &oParts) != FALSE &&
+         (oParts.nScheme == INTERNET_SCHEME_HTTP || oParts.nScheme == INTERNET_SCHEME_HTTPS);
 }
 
 }  // namespace
@@ -77,6 +104,9 @@ WinInetInternet::Outcome WinInetInternet::Await(InternetHandle hHandle,
   if (iItem == m_aoItems.end() || iItem->second.pHandle == nullptr) {
     return m_oLast = {ERROR_INVALID_HANDLE};
   }
+  if (Pass().IsOver()) {
+    return m_oLast = {ERROR_INTERNET_TIMEOUT};
+  }
   void*& pHandle = iItem->second.pHandle;
   std::packaged_task<Outcome()> oTask(
       [fnCall = std::move(fnCall), pHandle] { return fnCall(pHandle); });
@@ -85,12 +115,13 @@ WinInetInternet::Outcome WinInetInternet::Await(InternetHandle hHandle,
   auto oEnd = Clock::now() + oLimit;
   while (oFuture.wait_for(kPumpEvery) != std::future_status::ready) {
     TheHost().PumpEvents();
-    if (Clock::now() > oEnd) {
-      if (pHandle == nullptr) {
-        return m_oLast = {ERROR_INTERNET_TIMEOUT};
-      }
+    const bool bTooLong = Clock::now() > oEnd;
+    if (bTooLong && pHandle == nullptr) {
+      return m_oLast = {ERROR_INTERNET_TIMEOUT};
+    }
+    if (pHandle != nullptr && (bTooLong || Pass().IsOver())) {
       ::InternetCloseHandle(std::exchange(pHandle, nullptr));
-      oEnd += kToLetGo;
+      oEnd = Clock::now() + kToLetGo;
     }
   }
   Outcome oOutcome = oFuture.get();
@@ -125,6 +156,7 @@ bool WinInetInternet::IsConnected() {
 
 InternetHandle WinInetInternet::Open(const std::string& sAgent, InternetAccess eAccess,
                                      const std::string& sProxy) {
+  Pass().Begin();
   const bool bProxy = eAccess == InternetAccess::Proxy;
   void* const pHandle = ::InternetOpenW(Wide(sAgent).c_str(), static_cast<DWORD>(eAccess),
                                         bProxy ? Wide(sProxy).c_str() : nullptr, nullptr, 0);
@@ -214,7 +246,7 @@ WinInetInternet::Outcome WinInetInternet::Fetch(void* pFtp, const std::wstring& 
 bool WinInetInternet::GetFile(InternetHandle hFtp, const std::string& sRemoteFile,
                               const std::string& sLocalFile, TransferType eType) {
   const Outcome oOutcome =
-      Await(hFtp, m_oLimits.oWhole,
+      Await(hFtp, m_oLimits.oPass,
             [sRemoteFile = Wide(sRemoteFile), eType, oLimits = m_oLimits](void* pFtp) {
               return Fetch(pFtp, sRemoteFile, eType, oLimits);
             });
@@ -240,17 +272,47 @@ bool WinInetInternet::FindFile(InternetHandle hFtp, const std::string& sRemoteFi
 InternetHandle WinInetInternet::OpenRequest(InternetHandle hHttp, const std::string& sRequest) {
   const Outcome oOutcome = Await(hHttp, m_oLimits.oStall, [sRequest = Wide(sRequest)](void* pHttp) {
     return Opened(::HttpOpenRequestW(pHttp, L"GET", sRequest.c_str(), L"HTTP/1.0", nullptr, nullptr,
-                                     INTERNET_FLAG_RELOAD, 0));
+                                     kRequestFlags, 0));
   });
   return oOutcome.nError == 0 ? Keep(oOutcome.pOpened, hHttp) : 0;
 }
 
+WinInetInternet::Outcome WinInetInternet::ReadAnswer(void* pRequest,
+                                                     const InternetLimits& oLimits) {
+  Outcome oOutcome = ReadAll(pRequest, HeadNumber(pRequest, HTTP_QUERY_CONTENT_LENGTH), oLimits);
+  oOutcome.sLocation = Location(pRequest);
+  return oOutcome;
+}
+
+/// The platform follows by itself too, but further.
+WinInetInternet::Outcome WinInetInternet::Follow(InternetHandle hRequest, Outcome oOutcome) {
+  for (int n = 0; oOutcome.nError == 0 && !oOutcome.sLocation.empty(); ++n) {
+    if (n == kMostRedirects || !IsOfTheWeb(oOutcome.sLocation)) {
+      return m_oLast = {.nError = ERROR_HTTP_REDIRECT_FAILED};
+    }
+    const InternetHandle hInternet = m_aoItems[m_aoItems[hRequest].hOwner].hOwner;
+    oOutcome = Await(hInternet, m_oLimits.oPass,
+                     [sUrl = oOutcome.sLocation, oLimits = m_oLimits](void* pInternet) {
+                       void* const pRequest = ::InternetOpenUrlW(pInternet, sUrl.c_str(), nullptr,
+                                                                 0, kRequestFlags, 0);
+                       if (pRequest == nullptr) {
+                         return OutcomeOf(false);
+                       }
+                       Outcome oAnswer = ReadAnswer(pRequest, oLimits);
+                       ::InternetCloseHandle(pRequest);
+                       return oAnswer;
+                     });
+  }
+  return oOutcome;
+}
+
 bool WinInetInternet::SendRequest(InternetHandle hRequest) {
-  Outcome oOutcome = Await(hRequest, m_oLimits.oWhole, [oLimits = m_oLimits](void* pRequest) {
+  Outcome oOutcome = Await(hRequest, m_oLimits.oPass, [oLimits = m_oLimits](void* pRequest) {
     return ::HttpSendRequestW(pRequest, nullptr, 0, nullptr, 0) == FALSE
                ? OutcomeOf(false)
-               : ReadAll(pRequest, AnnouncedLength(pRequest), oLimits);
+               : ReadAnswer(pRequest, oLimits);
   });
+  oOutcome = Follow(hRequest, std::move(oOutcome));
   if (oOutcome.nError == 0) {
     m_aoItems[hRequest].oAnswer = HttpAnswer(std::move(oOutcome.sContent));
   }

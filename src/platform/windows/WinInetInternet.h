@@ -15,7 +15,7 @@ namespace quillet {
 
 class WinInetInternet : public Internet {
  public:
-  explicit WinInetInternet(InternetLimits oLimits) : m_oLimits(oLimits) {}
+  explicit WinInetInternet(InternetLimits oLimits) : Internet(oLimits), m_oLimits(oLimits) {}
   WinInetInternet(const WinInetInternet&) = delete;
   WinInetInternet& operator=(const WinInetInternet&) = delete;
   ~WinInetInternet() override;
@@ -51,6 +51,7 @@ class WinInetInternet : public Internet {
     std::string sResponse;
     void* pOpened = nullptr;
     std::string sContent;
+    std::wstring sLocation;  ///< where an HTTP answer sends the request on to
     std::uint64_t nSize = 0;
   };
   /// Holds all that it needs, since it may outlive whoever waits for it.
@@ -68,6 +69,7 @@ class WinInetInternet : public Internet {
   /// failure.
   [[nodiscard]] static Outcome ReadAll(void* pHandle, std::uint64_t nAnnounced,
                                        const InternetLimits& oLimits);
+  [[nodiscard]] static Outcome ReadAnswer(void* pRequest, const InternetLimits& oLimits);
   [[nodiscard]] static Outcome Find(void* pFtp, const std::wstring& sRemoteFile);
   [[nodiscard]] static Outcome Fetch(void* pFtp, const std::wstring& sRemoteFile,
                                      TransferType eType, const InternetLimits& oLimits);
@@ -76,6 +78,8 @@ class WinInetInternet : public Internet {
   /// ended by closing the handle, and left to itself if it takes no notice.
   [[nodiscard]] Outcome Await(InternetHandle hHandle, std::chrono::milliseconds oLimit,
                               Call fnCall);
+  /// What comes of an answer to a request when it is followed to where it sends it on.
+  [[nodiscard]] Outcome Follow(InternetHandle hRequest, Outcome oOutcome);
   [[nodiscard]] InternetHandle Keep(void* pHandle, InternetHandle hOwner);
   void SetLimits(void* pHandle) const;
 

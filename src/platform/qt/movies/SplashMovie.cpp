@@ -1,7 +1,9 @@
 #include "platform/qt/movies/SplashMovie.h"
 
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QLinearGradient>
+#include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
@@ -99,11 +101,13 @@ void SplashMovie::Tell(bool& bTold, const char* sCommand) {
   }
 }
 
-void SplashMovie::keyPressEvent(QKeyEvent* /*pEvent*/) {
+void SplashMovie::keyPressEvent(QKeyEvent* pEvent) {
+  pEvent->setAccepted(!m_bStopped);
   End();
 }
 
-void SplashMovie::mousePressEvent(QMouseEvent* /*pEvent*/) {
+void SplashMovie::mousePressEvent(QMouseEvent* pEvent) {
+  pEvent->setAccepted(!m_bStopped);
   End();
 }
 

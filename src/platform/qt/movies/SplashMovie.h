@@ -11,7 +11,7 @@
 namespace quillet {
 
 /// Drawn in its design's 553 by 305 units, scaled to its size. Begins when it is played, and keeps
-/// its last picture.
+/// its last picture. A key or click ends it; those that come later are its window's.
 class SplashMovie : public QWidget, public Movie {
  public:
   /// `sParameters` is "Version=" with the edition: "UK", "US" or "EU".
