@@ -45,6 +45,7 @@ add_library(quillet_desktop STATIC
   sections/ctlShopDurations.cpp
   sections/ctlSubControlExample.cpp
   shell/KeptAuction.cpp
+  shell/MissingPriceLine.cpp
   shell/SectionSet.cpp
   shell/WizardSteps.cpp
   shell/DesktopApplication.cpp

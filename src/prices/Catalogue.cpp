@@ -64,7 +64,7 @@ constexpr std::array<Row, 38> kRows = {{
     {kBoth, KeyKind::PictureTiers, "PicturePack"},
     {kBoth, KeyKind::Number, "PersonalRatePounds{%,Fixed}"},
     {kBoth, KeyKind::Text, "BusinessRateBand{1,2,3,4,5}Name"},
-    {kBoth, KeyKind::Number, "BusinessRateBand{1,2,3,4,5}Value"},
+    {kBoth, KeyKind::BandNumber, "BusinessRateBand{1,2,3,4,5}Value"},
     {kBoth, KeyKind::BandTiers, "BusinessRatePounds%", kEveryTier},
     {kBoth, KeyKind::BandTiers, "BusinessRatePoundsFixed"},
     {kBoth, KeyKind::Text, "UsePostTitle"},
@@ -152,12 +152,16 @@ bool Catalogue::HoldsAnyOf(const PriceTable& oTable) const {
 }
 
 std::int32_t TierOfKey(std::string_view sKey, std::string_view sTable) {
-  for (const std::string_view sPart : {"RangeStart", "RangeEnd", "RangeValue"}) {
-    const std::string sName = std::string(sTable).append(sPart);
-    if (!EqualIgnoringCase(sKey.substr(0, sName.size()), sName)) {
+  if (!EqualIgnoringCase(sKey.substr(0, sTable.size()), sTable)) {
+    return 0;
+  }
+  sKey.remove_prefix(sTable.size());
+  for (const KeyText& oWord : kTierWords) {
+    const std::string_view sWord = oWord.Text();
+    if (!EqualIgnoringCase(sKey.substr(0, sWord.size()), sWord)) {
       continue;
     }
-    const std::string_view sNumber = sKey.substr(sName.size());
+    const std::string_view sNumber = sKey.substr(sWord.size());
     std::int32_t nTier = 0;
     const auto oResult = std::from_chars(sNumber.data(), sNumber.data() + sNumber.size(), nTier);
     const bool bPlain = oResult.ec == std::errc{} &&

@@ -14,6 +14,7 @@ namespace quillet {
 enum class KeyKind {
   Text,
   Number,
+  BandNumber,        ///< the value of a merchant-rate band
   OverWeightNumber,  ///< one that is asked for only where first class has tiers
   // Tier tables, by what is looked up in them.
   PriceTiers,        ///< an amount of money
@@ -32,6 +33,8 @@ struct CatalogueKey {
   static constexpr std::int32_t kEveryTier = -1;
 
   [[nodiscard]] bool IsTable() const { return eKind >= KeyKind::PriceTiers; }
+  /// No sale of its kind can be priced without it; any other that is missing counts as 0.
+  [[nodiscard]] bool IsNeeded() const { return eKind > KeyKind::Number; }
   [[nodiscard]] bool IsPercentage(std::int32_t nTier) const {
     return nPercentTier == nTier || nPercentTier == kEveryTier;
   }

@@ -74,7 +74,11 @@ const ScheduleEntry* Schedule::Ask(const std::string& sKey) {
 }
 
 void Schedule::Report(std::size_t nLine, std::string sText) {
-  m_aoFindings.push_back({nLine, std::move(sText)});
+  m_aoFindings.push_back({nLine, std::move(sText), false});
+}
+
+void Schedule::ReportNoPrice(std::size_t nLine, std::string sText) {
+  m_aoFindings.push_back({nLine, std::move(sText), true});
 }
 
 std::vector<Finding> Schedule::Findings() const {
@@ -83,6 +87,10 @@ std::vector<Finding> Schedule::Findings() const {
       aoSorted.begin(), aoSorted.end(),
       [](const Finding& oLeft, const Finding& oRight) { return oLeft.nLine < oRight.nLine; });
   return aoSorted;
+}
+
+std::string FindingLine(const std::string& sFile, const Finding& oFinding) {
+  return ShowControls(sFile + ":" + std::to_string(oFinding.nLine) + ": " + oFinding.sText);
 }
 
 std::string Quoted(std::string_view sText) {

@@ -14,7 +14,11 @@ namespace quillet {
 struct Finding {
   std::size_t nLine = 0;  ///< from 1
   std::string sText;
+  bool bNoPrice = false;  ///< some sale can't be priced
 };
+
+/// FILE:LINE: text, without control characters.
+[[nodiscard]] std::string FindingLine(const std::string& sFile, const Finding& oFinding);
 
 struct ScheduleEntry {
   std::string sKey;
@@ -36,6 +40,7 @@ class Schedule {
   [[nodiscard]] std::size_t LastLine() const { return m_nLines == 0 ? 1 : m_nLines; }
 
   void Report(std::size_t nLine, std::string sText);
+  void ReportNoPrice(std::size_t nLine, std::string sText);
 
   /// Every finding, by line.
   [[nodiscard]] std::vector<Finding> Findings() const;

@@ -1,5 +1,7 @@
 #include "prices/checkSchedule.h"
 
+#include <algorithm>
+
 #include "base/basCommon.h"
 #include "base/conversions.h"
 #include "base/region.h"
@@ -22,9 +24,20 @@ void CheckKey(Schedule& oSchedule, const CatalogueKey& oKey) {
   } else if (oKey.eKind == KeyKind::OverWeightNumber && !HasFirstClassTiers(oSchedule)) {
     return;
   } else if (oSchedule.Ask(oKey.sName) == nullptr) {
-    oSchedule.Report(oSchedule.LastLine(), Quoted(oKey.sName) + " is missing");
+    const std::string sMissing = Quoted(oKey.sName) + " is missing";
+    if (oKey.IsNeeded()) {
+      oSchedule.ReportNoPrice(oSchedule.LastLine(), sMissing);
+    } else {
+      oSchedule.Report(oSchedule.LastLine(), sMissing);
+    }
   } else if (oKey.eKind != KeyKind::Text) {
     (void)AskNumber(oSchedule, oKey.sName);
+  }
+}
+
+void CheckKeys(Schedule& oSchedule, const Catalogue& oCatalogue) {
+  for (const CatalogueKey& oKey : oCatalogue.Keys()) {
+    CheckKey(oSchedule, oKey);
   }
 }
 
@@ -54,16 +67,25 @@ void ReportUnasked(Schedule& oSchedule, const Catalogue& oCatalogue) {
 std::vector<Finding> CheckSchedule(std::string_view sText) {
   const Catalogue oCatalogue(RegionCode());
   Schedule oSchedule(sText, oCatalogue);
-  for (const CatalogueKey& oKey : oCatalogue.Keys()) {
-    CheckKey(oSchedule, oKey);
-  }
+  CheckKeys(oSchedule, oCatalogue);
   ReportUnasked(oSchedule, oCatalogue);
   std::vector<Finding> aoFindings = oSchedule.Findings();
   if (IsOfTheOtherEdition(oSchedule, oCatalogue)) {
-    aoFindings.insert(aoFindings.begin(),
-                      {1, "this is the schedule of the other edition, not of " + EditionName()});
+    aoFindings.insert(
+        aoFindings.begin(),
+        {1, "this is the schedule of the other edition, not of " + EditionName(), false});
   }
   return aoFindings;
+}
+
+std::optional<Finding> FirstMissingPrice(std::string_view sText) {
+  const Catalogue oCatalogue(RegionCode());
+  Schedule oSchedule(sText, oCatalogue);
+  CheckKeys(oSchedule, oCatalogue);
+  const std::vector<Finding> aoFindings = oSchedule.Findings();
+  const auto pFirst = std::find_if(aoFindings.begin(), aoFindings.end(),
+                                   [](const Finding& oFinding) { return oFinding.bNoPrice; });
+  return pFirst == aoFindings.end() ? std::nullopt : std::optional(*pFirst);
 }
 
 }  // namespace quillet

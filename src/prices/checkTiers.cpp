@@ -56,7 +56,8 @@ class TierCheck {
     const ScheduleEntry* const pCount = m_oSchedule.Ask(m_oTable.sName + "Ranges");
     const std::int32_t nCount = pCount != nullptr ? CountOf(*pCount) : kUnknown;
     if (pCount == nullptr) {
-      m_oSchedule.Report(m_oSchedule.LastLine(), Quoted(m_oTable.sName + "Ranges") + " is missing");
+      m_oSchedule.ReportNoPrice(m_oSchedule.LastLine(),
+                                Quoted(m_oTable.sName + "Ranges") + " is missing");
     }
     for (std::int32_t nTier = 1; nTier <= nCount; ++nTier) {
       ReadTier(nTier, *pCount);
@@ -78,7 +79,7 @@ class TierCheck {
   std::int32_t CountOf(const ScheduleEntry& oEntry) {
     const auto nCount = ToInteger(oEntry.sValue);
     if (!nCount || *nCount < 0) {
-      m_oSchedule.Report(
+      m_oSchedule.ReportNoPrice(
           oEntry.nLine, Quoted(oEntry.sKey) + " isn't a number of tiers: " + Quoted(oEntry.sValue));
       return kUnknown;
     }
@@ -101,7 +102,7 @@ class TierCheck {
     ReportMissingRun(nTier, &oCount);
     const auto fnReportMissing = [&](bool bThere, const std::string& sKey) {
       if (!bThere) {
-        m_oSchedule.Report(oCount.nLine, Quoted(sKey) + " is missing");
+        m_oSchedule.ReportNoPrice(oCount.nLine, Quoted(sKey) + " is missing");
       }
     };
     fnReportMissing(oTier.pStart != nullptr, sStart);
@@ -130,9 +131,11 @@ class TierCheck {
     if (m_nFirstMissing != 0) {
       const std::int32_t nLast = nTier - 1;
       const std::string sFirst = std::to_string(m_nFirstMissing);
-      Report(pCount->nLine, nLast == m_nFirstMissing ? "tier " + sFirst + " is missing"
-                                                     : "tiers " + sFirst + " to " +
-                                                           std::to_string(nLast) + " are missing");
+      const std::string sMissing =
+          nLast == m_nFirstMissing
+              ? "tier " + sFirst + " is missing"
+              : "tiers " + sFirst + " to " + std::to_string(nLast) + " are missing";
+      m_oSchedule.ReportNoPrice(pCount->nLine, Quoted(m_oTable.sName) + ": " + sMissing);
       m_nFirstMissing = 0;
     }
   }
@@ -235,8 +238,8 @@ std::optional<double> AskNumber(Schedule& oSchedule, const std::string& sKey) {
     return std::nullopt;
   }
   if (!ToFileSingle(pEntry->sValue)) {
-    oSchedule.Report(pEntry->nLine,
-                     Quoted(pEntry->sKey) + " isn't a number: " + Quoted(pEntry->sValue));
+    oSchedule.ReportNoPrice(pEntry->nLine,
+                            Quoted(pEntry->sKey) + " isn't a number: " + Quoted(pEntry->sValue));
     return std::nullopt;
   }
   return ToFileDouble(pEntry->sValue);

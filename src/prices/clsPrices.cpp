@@ -9,6 +9,7 @@
 #include "base/text.h"
 #include "platform/Files.h"
 #include "platform/UserData.h"
+#include "prices/checkSchedule.h"
 #include "prices/clsTokeniser.h"
 #include "prices/lines.h"
 #include "prices/replacement.h"
@@ -96,6 +97,7 @@ void clsPrices::LoadUpdateFile() {
     } else {
       LoadFile(sPath, kAttempts);
     }
+    m_oMissingPrice = FirstMissingPrice(ReadUpdateFile(UpdateFileName(false), 1));
   } catch (const Failure&) {
     // One route for a file that can't be opened and for one that can't be read to its end.
     ShowMessage("Error opening file " + sPath + "\n\n" + EditionName() + " must close.",

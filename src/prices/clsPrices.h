@@ -3,12 +3,14 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "base/Single.h"
 #include "prices/PriceKey.h"
 #include "prices/PriceTable.h"
+#include "prices/Schedule.h"
 #include "prices/clsPriceRange.h"
 #include "prices/shopDuration.h"
 
@@ -55,12 +57,16 @@ class clsPrices {
 
   [[nodiscard]] const PriceTable& Table() const { return m_oTable; }
 
+  /// What keeps some sale from being priced, as LoadUpdateFile has found it.
+  [[nodiscard]] const std::optional<Finding>& MissingPrice() const { return m_oMissingPrice; }
+
  private:
   void LoadFile(const std::string& sPath, int nAttempts);
   void LoadUsersCopy(const std::string& sPath);
   void AddEntries(std::string_view sText);
 
   PriceTable m_oTable;
+  std::optional<Finding> m_oMissingPrice;
 };
 
 /// The program's table, made and loaded from the update file on first use.

@@ -11,6 +11,7 @@
 #include "base/conversions.h"
 #include "base/failure.h"
 #include "platform/qt/Theme.h"
+#include "shell/MissingPriceLine.h"
 #include "shell/card.h"
 #include "shell/tabOrder.h"
 
@@ -31,6 +32,12 @@ constexpr int kDesignHeight = 12510;
 /// The rule below the summary, which the summary's card ends with.
 constexpr int kLineTop = 1200;
 constexpr int kLineLeft = 120;
+
+/// In the summary's last row, whose second block is empty, up to the end of its card.
+constexpr int kMissingPriceLeft = 3360;
+constexpr int kMissingPriceTop = 855;
+constexpr int kMissingPriceHeight = 225;
+constexpr int kMissingPriceGap = 225;  // to the view's right edge
 
 constexpr int kAbsent = -1;  // an entry of this value counts as none
 
@@ -57,7 +64,9 @@ bool Holds(const SectionPanel& oSection, const QWidget* pWidget) {
 ctlCalculator::ctlCalculator(QWidget* pParent)
     : QWidget(pParent),
       Control(static_cast<QWidget&>(*this)),
-      m_oSet(*this, [this](bool bDocDirty) { emit Changed(bDocDirty); }) {
+      m_oSet(*this, [this](bool bDocDirty) { emit Changed(bDocDirty); }),
+      m_pMissingPrice(new MissingPriceLine(this)) {
+  m_pMissingPrice->SetName("MissingPrice");
   const std::array aoPlaces = std::to_array<quillet::Place>({
       {&m_oSet.ctlSellingCostsSection, 120, 120, 10755, 960},
       {&m_oSet.ctlOutlaySection, 240, 1560, 5550, 1935},
@@ -161,6 +170,12 @@ void ctlCalculator::paintEvent(QPaintEvent* /*pEvent*/) {
 }
 
 /// Each right behind its section, so that what is in front has its whole edge.
+void ctlCalculator::Placed() {
+  m_pMissingPrice->Place(kMissingPriceLeft, kMissingPriceTop,
+                         Width() - kMissingPriceGap - kMissingPriceLeft, kMissingPriceHeight);
+  PlaceCards();
+}
+
 void ctlCalculator::PlaceCards() {
   for (std::size_t i = 0; i < m_apCards.size(); ++i) {
     SectionPanel& oSection = *m_oSet.Sections().at(i);
@@ -176,6 +191,7 @@ void ctlCalculator::UserControl_Show() {
   }
   LoadSectionPositions();
   FollowPlaces();
+  m_pMissingPrice->Refresh();
   RefreshSums(true);
 }
 

@@ -13,6 +13,7 @@
 namespace quillet {
 
 class Card;
+class MissingPriceLine;
 
 class ctlCalculator : public QWidget, public Control {
   Q_OBJECT
@@ -47,7 +48,7 @@ class ctlCalculator : public QWidget, public Control {
  protected:
   void showEvent(QShowEvent* pEvent) override;
   void paintEvent(QPaintEvent* pEvent) override;
-  void Placed() override { PlaceCards(); }
+  void Placed() override;
 
  private:
   [[nodiscard]] clsCalculate& Document() const;
@@ -64,6 +65,7 @@ class ctlCalculator : public QWidget, public Control {
   void GrowToHold(int& nWidth, int& nHeight, const Control& oControl) const;
 
   SectionSet m_oSet;
+  MissingPriceLine* m_pMissingPrice;
   std::array<Card*, 5> m_apCards{};  ///< in the order of the sections
   bool m_bConfigMode = false;
   clsCalculate* m_oDocument = nullptr;

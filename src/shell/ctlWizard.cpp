@@ -17,6 +17,7 @@
 #include "sections/ImageButton.h"
 #include "sections/ScrollBar.h"
 #include "sections/controlHelpers.h"
+#include "shell/MissingPriceLine.h"
 #include "shell/WizardSteps.h"
 #include "shell/card.h"
 #include "shell/tabOrder.h"
@@ -30,6 +31,8 @@ constexpr int kDesignWidth = 10335;
 constexpr int kDesignHeight = 9015;
 constexpr int kBelowSummary = 500;
 constexpr int kLineAboveSummary = 120;
+constexpr int kMissingPriceGap = 120;  // below the summary
+constexpr int kMissingPriceHeight = 255;
 constexpr int kButtonTop = 120;
 constexpr int kButtonWidth = 1965;
 constexpr int kButtonHeight = 495;
@@ -84,6 +87,7 @@ ctlWizard::ctlWizard(QWidget* pParent)
       m_aPages(MakePages()),
       m_pInfo(Make<Label>("lblInfo", this)),
       m_pSteps(Make<WizardSteps>("Steps", this)),
+      m_pMissingPrice(Make<MissingPriceLine>("MissingPrice", this)),
       m_pViewPort(Make<Frame>("fraViewPort", this)),
       m_pVert(Make<ScrollBar>("vsbVert", m_pViewPort)),
       m_pButtons(Make<Frame>("fraButtons", this)),
@@ -220,6 +224,7 @@ void ctlWizard::UserControl_Show() {
     }
   }
   m_oSet.ctlSellingCostsSection.SetMode(1);
+  m_pMissingPrice->Refresh();
   ShowPage(0);
   RefreshSums(true);
   UserControl_Resize();
@@ -338,6 +343,8 @@ void ctlWizard::UserControl_Resize() {
   m_pButtons->SetLeft(std::max(Width() - m_pButtons->Width(), oSummary.Left() + oSummary.Width()));
   m_pButtons->SetTop(Height() - m_pButtons->Height() - kBelowSummary);
   oSummary.SetTop(Height() - oSummary.Height() - kBelowSummary);
+  m_pMissingPrice->Place(oSummary.Left(), Height() - kBelowSummary + kMissingPriceGap,
+                         Width() - 2 * oSummary.Left(), kMissingPriceHeight);
   m_lLineTop = oSummary.Top() - kLineAboveSummary;
   const int nTop = m_pInfo->Top() + m_pInfo->Height();
   m_pViewPort->Place(0, nTop, Width(), std::max(1, m_lLineTop - nTop));

@@ -14,6 +14,7 @@
 namespace quillet {
 
 class ImageButton;
+class MissingPriceLine;
 class ScrollBar;
 class WizardSteps;
 
@@ -85,6 +86,7 @@ class ctlWizard : public QWidget, public Control {
   std::optional<WizardPage> m_tCurrent;
   Label* m_pInfo;
   WizardSteps* m_pSteps;
+  MissingPriceLine* m_pMissingPrice;
   Frame* m_pViewPort;
   ScrollBar* m_pVert;
   Frame* m_pButtons;

@@ -4,17 +4,23 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QTest>
+#include <cstring>
 
 #include <gtest/gtest.h>
 
+#include "base/basCommon.h"
 #include "base/basMain.h"
 #include "base/clsRegistryAccess.h"
 #include "base/region.h"
+#include "shell/ctlWizard.h"
 #include "shell/tabOrder.h"
 #include "support/Auctions.h"
 #include "support/ByRegion.h"
+#include "support/Log.h"
 #include "support/PanelScript.h"
 #include "support/Places.h"
+#include "support/Prices.h"
+#include "support/TestHost.h"
 
 namespace quillet {
 namespace {
@@ -166,6 +172,58 @@ TEST_F(Calculator, FiguresEndBelowEachOtherAndLeaveAGapToTheNextBlock) {
             oSummary.The("lblSellingCostLabel").x() - Pixels(200));
   oSummary.SetMode(1);
   EXPECT_NEAR(fnInkEnd("lblProfitGrandTotal"), fnInkEnd("lblInsertionFeeTotal"), 1);
+}
+
+/// The line of a view, which lies on no figure at any zoom, be it as long as it will.
+template <typename View>
+std::string MissingPriceIn(View& oView) {
+  oView.Place(0, 0, 9900, 9000);
+  oView.SetVisible(true);
+  auto& oLine = *oView.template findChild<Label*>("MissingPrice");
+  for (const double fZoom : {0.75, 1.0, 2.0}) {
+    SetZoom(fZoom);
+    oView.Rescale();
+    RescaleAll(oView);
+    for (const Label* const pFigure :
+         oView.Set().ctlSellingCostsSection.template findChildren<Label*>()) {
+      const QRect oPlace(pFigure->mapTo(&oView, QPoint()), pFigure->size());
+      EXPECT_FALSE(oLine.geometry().intersects(oPlace)) << pFigure->Name() << " at " << fZoom;
+    }
+    EXPECT_TRUE(oView.rect().contains(oLine.geometry()));
+  }
+  SetZoom(1);
+  return oLine.Visible() ? oLine.Caption().toStdString() : "";
+}
+
+TEST_F(Calculator, BothViewsNameWhatKeepsTheScheduleFromPricingASale) {
+  const std::string sName = UpdateFileName(true);
+  const std::string sShipped = ReadTestFile(std::string(QUILLET_SOURCE_DIR "/data/") + sName);
+  const std::string sLong(300, 'x');
+  const std::tuple<const char*, std::string, std::string> aoRows[] = {
+      {"", "", ""},
+      {"RecordedSignedFor", "#", ""},  // one that is missing counts as 0
+      {"LocalTax,", "LocalTax,$", "\"LocalTax\" isn't a number: \"$"},
+      {"OpeningRanges", "#", "\"OpeningRanges\" is missing"},
+      {"OpeningRanges,", "OpeningRanges," + sLong,
+       "\"OpeningRanges\" isn't a number of tiers: \"x"},
+      {"BusinessRateBand1Value", "#", "\"BusinessRateBand1Value\" is missing"}};
+  for (const auto& [sOld, sNew, sExpected] : aoRows) {
+    SCOPED_TRACE(sOld);
+    const TemporaryFolder oFolder;
+    ScopedHost oHost;
+    oHost.sProgramFolder = oFolder.sPath;
+    const std::size_t nAt = sShipped.find(sOld);
+    WriteTestFile(oFolder / sName, std::string(sShipped).replace(nAt, std::strlen(sOld), sNew));
+    UsePrices(nullptr);
+    QWidget oWindow;
+    oWindow.show();
+    for (const std::string& sTold :
+         {MissingPriceIn(*new ctlCalculator(&oWindow)), MissingPriceIn(*new ctlWizard(&oWindow))}) {
+      EXPECT_NE(sTold.find(sExpected), std::string::npos) << sTold;
+      EXPECT_EQ(sTold.starts_with(sName + ":"), !sExpected.empty()) << sTold;
+    }
+    EXPECT_TRUE(oHost.aoShown.empty());
+  }
 }
 
 TEST_F(Calculator, ColoursComeFromTheSettingsIfTheyAreNumbers) {

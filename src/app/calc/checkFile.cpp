@@ -36,8 +36,7 @@ Status CheckScheduleFile(const std::string& sPath) {
   Output oOutput;
   const std::vector<Finding> aoFindings = CheckSchedule(sText);
   for (const Finding& oFinding : aoFindings) {
-    const std::string sLine = std::to_string(oFinding.nLine);
-    oOutput.Text() += ShowControls(sPath + ":" + sLine + ": " + oFinding.sText) + "\n";
+    oOutput.Text() += FindingLine(sPath, oFinding) + "\n";
     oOutput.FlushIfLarge();
   }
   oOutput.Flush();
