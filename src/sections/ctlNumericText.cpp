@@ -230,6 +230,12 @@ bool ctlNumericText::CommitTyping() {
   return !m_bRefused;
 }
 
+bool ctlNumericText::CommitFocused() {
+  const QWidget* const pFocus = QApplication::focusWidget();
+  auto* const pBox = pFocus != nullptr ? qobject_cast<ctlNumericText*>(pFocus->parent()) : nullptr;
+  return pBox == nullptr || pBox->CommitTyping();
+}
+
 void ctlNumericText::LeaveFor(QWidget& oView) {
   auto* const pText = qobject_cast<QLineEdit*>(QApplication::focusWidget());
   const bool bUntouched = pText != nullptr && !pText->isModified();

@@ -69,6 +69,9 @@ class ctlNumericText : public QWidget, public Control {
   /// enter. False, and a red edge, if it was refused.
   bool CommitTyping();
 
+  /// The same for the box that has the focus, if one has.
+  static bool CommitFocused();
+
   /// Takes the red edge back, for another auction's amount.
   void ForgetRefusal() { SetRefused(false); }
 

@@ -313,7 +313,11 @@ void ctlWizard::imgBack_Click() {
   ShowPage(static_cast<std::int16_t>(m_tCurrent->lIndex - 1));
 }
 
+/// A page with an amount that was refused stays once, for that to be seen.
 void ctlWizard::imgNext_Click() {
+  if (!ctlNumericText::CommitFocused()) {
+    return;
+  }
   if (m_tCurrent->bLast) {
     FinishWizard();
   } else {
@@ -385,6 +389,15 @@ void ctlWizard::PaintCard(QPainter& oPainter) const {
 /// A click beside the section leaves the box that was typed into; the buttons keep theirs.
 void ctlWizard::mousePressEvent(QMouseEvent* /*pEvent*/) {
   setFocus(Qt::MouseFocusReason);
+}
+
+/// From beside the section Tab goes to where the page begins.
+bool ctlWizard::focusNextPrevChild(bool bNext) {
+  if (!hasFocus() || !bNext || !m_tCurrent) {
+    return QWidget::focusNextPrevChild(bNext);
+  }
+  FocusFirstInput();
+  return true;
 }
 
 /// Buttons take these keys for themselves.

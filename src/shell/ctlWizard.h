@@ -54,6 +54,7 @@ class ctlWizard : public QWidget, public Control {
   void showEvent(QShowEvent* pEvent) override;
   void paintEvent(QPaintEvent* pEvent) override;
   void mousePressEvent(QMouseEvent* pEvent) override;
+  bool focusNextPrevChild(bool bNext) override;
   void keyPressEvent(QKeyEvent* pEvent) override;
   void wheelEvent(QWheelEvent* pEvent) override;
   void Placed() override;

@@ -216,7 +216,7 @@ void frmMain::FitFirstStart() {
 
 void frmMain::ClickButton(int nIndex) {
   if (nIndex == kButtonSave) {
-    CommitTyping();
+    ctlNumericText::CommitFocused();  // a command by key leaves the focus where it is
   } else {
     LeaveBox();
   }
@@ -424,15 +424,6 @@ void frmMain::PlaceViews() {
   }
 }
 
-/// A command that comes by key leaves the focus where it is, and with it what was typed.
-void frmMain::CommitTyping() {
-  const QWidget* const pFocus = QApplication::focusWidget();
-  auto* const pBox = pFocus != nullptr ? qobject_cast<ctlNumericText*>(pFocus->parent()) : nullptr;
-  if (pBox != nullptr) {
-    pBox->CommitTyping();
-  }
-}
-
 /// A box that is left writes into the auction on view. So it is left before a command that may
 /// bring another one, which would else be changed by it.
 void frmMain::LeaveBox() {
@@ -445,7 +436,7 @@ void frmMain::LeaveBox() {
 }
 
 bool frmMain::EndSession(bool bMayAsk) {
-  CommitTyping();
+  ctlNumericText::CommitFocused();
   SaveFormPosition(*this);
   m_bEndAgreed = !bMayAsk || m_oDocuments.PromptBeforeExit();
   Registry().Flush();
@@ -460,7 +451,7 @@ void frmMain::EndUnasked() {
 }
 
 void frmMain::closeEvent(QCloseEvent* pEvent) {
-  CommitTyping();
+  ctlNumericText::CommitFocused();
   SaveFormPosition(*this);
   // A session that has ended closes the window itself; one that went on after all leaves that to
   // the user.

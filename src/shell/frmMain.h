@@ -81,7 +81,6 @@ class frmMain : public QWidget, private DocumentView {
   void ShowAboutBox();
   void PushDocument(bool bConfigMode, clsCalculate& oDocument, const std::string& sTitle);
   void MarkCurrent(int nIndex);
-  void CommitTyping();
   void LeaveBox();
   void FitFirstStart();
   void ResizeWithZoom();

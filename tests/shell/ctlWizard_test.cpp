@@ -227,10 +227,7 @@ TEST_F(Wizard, TypingCountsWhicheverWayThePageIsLeft) {
   QTest::keyClicks(QApplication::focusWidget(), "12");
   Press(Qt::Key_Escape);
   EXPECT_EQ(WorkingAuction().m_oOutlay.m_fOutlay, 12.0F) << "before the window takes over";
-  The<SectionPanel>("ctlOutlaySection")
-      .InputsInReadingOrder()
-      .first()
-      ->setFocus(Qt::TabFocusReason);
+  Press(Qt::Key_Tab);
   QTest::keyClicks(QApplication::focusWidget(), "34");
   Press(Qt::Key_Left, Qt::AltModifier);
   EXPECT_EQ(WorkingAuction().m_oOutlay.m_fOutlay, 34.0F);
@@ -238,6 +235,12 @@ TEST_F(Wizard, TypingCountsWhicheverWayThePageIsLeft) {
   QTest::keyClicks(QApplication::focusWidget(), "56");
   Click("Steps");
   EXPECT_EQ(WorkingAuction().m_oOutlay.m_fOutlay, 56.0F) << "a click beside the section";
+  Press(Qt::Key_Tab);
+  QTest::keyClicks(QApplication::focusWidget(), "7x");
+  for (const int nPage : {1, 2}) {
+    Click("imgNext");
+    EXPECT_EQ(Page(), nPage) << "what is refused is to be seen first";
+  }
 }
 
 TEST_F(Wizard, ThePageMovesWhenTheThumbIsLetGo) {
