@@ -94,6 +94,11 @@ ctlCalculator::ctlCalculator(QWidget* pParent)
   connect(qApp, &QApplication::focusChanged, this, &ctlCalculator::FollowFocus);
 }
 
+/// The sections go after the view, and an input among them that has the focus loses it then.
+ctlCalculator::~ctlCalculator() {
+  qApp->disconnect(this);
+}
+
 void ctlCalculator::SetConfigMode(bool bConfigMode) {
   m_bConfigMode = bConfigMode;
   UserControl_Show();

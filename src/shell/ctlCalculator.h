@@ -20,6 +20,7 @@ class ctlCalculator : public QWidget, public Control {
 
  public:
   explicit ctlCalculator(QWidget* pParent);
+  ~ctlCalculator() override;
   [[nodiscard]] const char* TypeName() const override { return "ctlCalculator"; }
 
   /// Every write lays all sections out anew, puts them where they are stored and refreshes them.

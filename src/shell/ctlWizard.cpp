@@ -131,6 +131,11 @@ std::array<WizardPage, 5> ctlWizard::MakePages() const {
           fnPage("Postage", 4, 4, m_oSet.ctlPostageSection)};
 }
 
+/// The sections go after the view, and an input among them that has the focus loses it then.
+ctlWizard::~ctlWizard() {
+  qApp->disconnect(this);
+}
+
 void ctlWizard::MakeFrames() {
   struct FrameDesign {
     int nWidth;

@@ -34,6 +34,7 @@ class ctlWizard : public QWidget, public Control {
 
  public:
   explicit ctlWizard(QWidget* pParent);
+  ~ctlWizard() override;
   [[nodiscard]] const char* TypeName() const override { return "ctlWizard"; }
 
   /// Calculates the working auction and shows it.

@@ -125,6 +125,14 @@ TEST_F(Calculator, WhatTheRegionLacksIsGoneInBothModesAndAllElseIsThere) {
   }
 }
 
+TEST_F(Calculator, GoesWithTheFocusInABox) {
+  ShowView(false, WorkingAuction());
+  m_pView->Set().ctlOutlaySection.findChild<QLineEdit*>()->setFocus();
+  ASSERT_TRUE(m_pView->isAncestorOf(QApplication::focusWidget()));
+  delete m_pView;
+  EXPECT_FALSE(m_oWindow.findChild<QLineEdit*>());
+}
+
 TEST_F(Calculator, AViewThatIsShownAgainLooksAsAfterARestartWhicheverRowIsHidden) {
   for (SectionPanel* const pSection : m_pView->Set().Sections()) {
     for (Control* const pControl : AllControls(*pSection)) {
