@@ -115,6 +115,12 @@ bool TakeSuffix(std::string_view& sText, std::string_view sSuffix) {
 
 }  // namespace
 
+const Catalogue& Catalogue::Of(std::int32_t nRegion) {
+  static const Catalogue oUk(0);
+  static const Catalogue oUs(1);
+  return nRegion == 1 ? oUs : oUk;
+}
+
 Catalogue::Catalogue(std::int32_t nRegion) {
   for (const Row& oRow : kRows) {
     if ((oRow.nRegions & (nRegion == 1 ? kUs : kUk)) == 0) {

@@ -42,7 +42,8 @@ struct CatalogueKey {
 
 class Catalogue {
  public:
-  explicit Catalogue(std::int32_t nRegion);
+  /// A region's, made on first use.
+  [[nodiscard]] static const Catalogue& Of(std::int32_t nRegion);
 
   [[nodiscard]] const std::vector<CatalogueKey>& Keys() const { return m_aoKeys; }
 
@@ -53,6 +54,8 @@ class Catalogue {
   [[nodiscard]] bool HoldsAnyOf(const PriceTable& oTable) const;
 
  private:
+  explicit Catalogue(std::int32_t nRegion);
+
   std::vector<CatalogueKey> m_aoKeys;
   std::set<std::string, std::less<>> m_asPlain;   ///< in upper case
   std::set<std::string, std::less<>> m_asTables;  ///< in upper case

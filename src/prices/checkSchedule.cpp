@@ -43,7 +43,7 @@ void CheckKeys(Schedule& oSchedule, const Catalogue& oCatalogue) {
 
 /// True if most keys that only one of the two editions asks for are the other one's.
 bool IsOfTheOtherEdition(Schedule& oSchedule, const Catalogue& oCatalogue) {
-  const Catalogue oOther(RegionCode() == 1 ? 0 : 1);
+  const Catalogue& oOther = Catalogue::Of(RegionCode() == 1 ? 0 : 1);
   int nLead = 0;
   for (const ScheduleEntry& oEntry : oSchedule.Entries()) {
     nLead += (oOther.Holds(oEntry.sKey) ? 1 : 0) - (oCatalogue.Holds(oEntry.sKey) ? 1 : 0);
@@ -65,7 +65,7 @@ void ReportUnasked(Schedule& oSchedule, const Catalogue& oCatalogue) {
 }  // namespace
 
 std::vector<Finding> CheckSchedule(std::string_view sText) {
-  const Catalogue oCatalogue(RegionCode());
+  const Catalogue& oCatalogue = Catalogue::Of(RegionCode());
   Schedule oSchedule(sText, oCatalogue);
   CheckKeys(oSchedule, oCatalogue);
   ReportUnasked(oSchedule, oCatalogue);

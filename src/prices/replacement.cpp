@@ -8,7 +8,7 @@
 namespace quillet {
 
 void RequireReplacement(const clsPrices& oPrices, const std::string& sPresent) {
-  const Catalogue oCatalogue(RegionCode());
+  const Catalogue& oCatalogue = Catalogue::Of(RegionCode());
   if (!oCatalogue.HoldsAnyOf(oPrices.Table())) {
     throw Failure(FailureNumber::TypeMismatch, "It holds no fees for " + EditionName() + ".");
   }
