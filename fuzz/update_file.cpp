@@ -2,6 +2,7 @@
 #include <string>
 
 #include "base/failure.h"
+#include "prices/checkSchedule.h"
 #include "prices/clsPrices.h"
 #include "support.h"
 

@@ -37,6 +37,7 @@ INSTANTIATE_TEST_SUITE_P(DecimalSeparator, SampleAuctions, ::testing::Values("."
 
 TEST_P(SampleAuctions, StandAsTheyAreSavedAndGiveTheFiguresOfTheirPageWhereverTheUserIs) {
   ScopedHost oHost;
+  oHost.sDecimalSeparator = GetParam();
   UseShippedSchedule();
   const std::filesystem::path oSource(QUILLET_SOURCE_DIR);
   const std::string sPage = ContentOf(oSource / "docs/sample-auctions.md");
