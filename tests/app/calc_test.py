@@ -111,13 +111,6 @@ class Streams(Temporary):
         self.assertEqual([(row["file"], row["profit"]) for row in rows],
                          [("1", "96.7375"), ("2", "-27.35")])
 
-    def test_each_auction_starts_afresh(self):
-        land = (SAMPLES / "desert-land.qlt").read_text()
-        bare = CAMERA[CAMERA.index("[OUTLAY]"):].replace("[FEATURES]48|2", "[FEATURES")
-        _, out, _ = calc("--format", "json", stdin=land + bare)
-        self.assertTrue(json.loads(out.splitlines()[1])["auction"].startswith(
-            "[TYPE]000|False|False|0|0|0|0|False[TYPE]"))
-
     def test_a_line_without_end_is_refused_in_constant_memory_and_the_next_is_read(self):
         long_line = b"[" * (64 << 20)
         status, out, _ = calc("--format", "csv", stdin=long_line + b"\n\n" + CAMERA.encode())

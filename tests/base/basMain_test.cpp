@@ -189,15 +189,6 @@ TEST_F(Start, AMainWindowThatAsksForMissingPricesWhileItIsMadeNeverShows) {
   EXPECT_TRUE(g_bMustClose);
 }
 
-TEST_F(Start, APriceFileWithAKeyTwiceSaysTheSameAndKeepsWhatCameBefore) {
-  UsePrices(nullptr);
-  WriteTestFile(m_oFolder / UpdateFileName(true), "Bold,1\nFinal,2\nFINAL,3\nBorder,4\n");
-  EXPECT_EQ(Prices().Table().Size(), 2U);
-  ASSERT_EQ(m_oHost.aoShown.size(), 1U);
-  EXPECT_TRUE(m_oHost.aoShown[0].sPrompt.starts_with("Error opening file "));
-  EXPECT_EQ(m_oHost.nTicks, 1);  // the pumping of CloseApplication: a file that opens isn't retried
-}
-
 TEST_F(Start, ClosingTheProgramDuringTheSplashsWaitIsSafe) {
   ManageSplash(true, false);
   EXPECT_NE(g_frmSplash, nullptr);
