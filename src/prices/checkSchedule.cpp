@@ -79,7 +79,7 @@ std::vector<Finding> CheckSchedule(std::string_view sText) {
 }
 
 std::optional<Finding> FirstMissingPrice(std::string_view sText) {
-  const Catalogue oCatalogue(RegionCode());
+  const Catalogue& oCatalogue = Catalogue::Of(RegionCode());
   Schedule oSchedule(sText, oCatalogue);
   CheckKeys(oSchedule, oCatalogue);
   const std::vector<Finding> aoFindings = oSchedule.Findings();
