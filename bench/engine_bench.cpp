@@ -6,6 +6,9 @@
 #include <benchmark/benchmark.h>
 
 #include "allocations.h"
+#include "answers/Alternatives.h"
+#include "answers/Curve.h"
+#include "answers/PriceFor.h"
 #include "engine/clsCalculate.h"
 #include "platform/Files.h"
 #include "platform/TerminalHost.h"
@@ -74,6 +77,28 @@ void DoCalcOfABusyAuction(benchmark::State& oState) {
   ForbidAllocations(oState, nBefore);
 }
 
+void BreakEvenOfABusyAuction(benchmark::State& oState) {
+  clsCalculate oAuction;
+  std::string sText = kBusyAuction;
+  oAuction.Serialize(sText, false);
+  for (auto _ : oState) {
+    benchmark::DoNotOptimize(PriceFor(oAuction, Goal{}));
+  }
+}
+
+/// What the window of answers shows of an auction: two prices, the curve and the table.
+void AnswersOfABusyAuction(benchmark::State& oState) {
+  clsCalculate oAuction;
+  std::string sText = kBusyAuction;
+  oAuction.Serialize(sText, false);
+  for (auto _ : oState) {
+    benchmark::DoNotOptimize(PriceFor(oAuction, Goal{}));
+    benchmark::DoNotOptimize(PriceFor(oAuction, {GoalKind::PercentOfPrice, 15}));
+    benchmark::DoNotOptimize(Curve(oAuction, 0, 200'000));
+    benchmark::DoNotOptimize(Alternatives(oAuction));
+  }
+}
+
 void LoadTheShippedSchedule(benchmark::State& oState) {
   for (auto _ : oState) {
     clsPrices oPrices;
@@ -119,6 +144,8 @@ void MakeAnAuction(benchmark::State& oState) {
 
 BENCHMARK(BareLookUps);
 BENCHMARK(DoCalcOfABusyAuction);
+BENCHMARK(BreakEvenOfABusyAuction);
+BENCHMARK(AnswersOfABusyAuction);
 BENCHMARK(ReadTheShippedSchedule);
 BENCHMARK(LoadTheShippedSchedule);
 BENCHMARK(CopyTheText);

@@ -13,6 +13,7 @@ FLOORS = {
     "engine": 4,
     "sections": 5,
     "documents": 5,
+    "answers": 5,
     "shell": 6,
     "app": 7,
 }

@@ -1,5 +1,6 @@
 #include "engine/clsSellingFeatures.h"
 
+#include <algorithm>
 #include <array>
 
 #include "base/failure.h"
@@ -68,6 +69,14 @@ constexpr std::array<FlatFeature, 16> kFlatFeatures = {{
     {kFeatureCarAd, &F::m_fCarAd},
 }};
 
+/// The features that the sum takes elsewhere than with the flat ones.
+constexpr std::array<FlatFeature, 4> kOtherFeatures = {{
+    {kFeatureHomePage, &F::m_fHomePage},
+    {kFeaturePlus, &F::m_fPlus},
+    {kFeatureScheduledListing, &F::m_fScheduledListings},
+    {kFeatureListIn2Categories, &F::m_fListIn2Categories},
+}};
+
 }  // namespace
 
 void clsSellingFeatures::RemoveFeature(std::int32_t lFeature) {
@@ -86,6 +95,15 @@ void clsSellingFeatures::SetFeature(std::int32_t lFeature, bool bOn) {
 
 bool clsSellingFeatures::HasFeature(std::int32_t lFeature) const {
   return (m_lFeatures & lFeature) == lFeature;
+}
+
+bool clsSellingFeatures::HasOnlyWhatIsOnOffer() const {
+  const auto fnOnOffer = [this](const FlatFeature& oFeature) {
+    return !HasFeature(oFeature.lFeature) ||
+           (oFeature.fPrice != nullptr ? this->*oFeature.fPrice : GetBuyItNowFee()) >= 0;
+  };
+  return std::all_of(kFlatFeatures.begin(), kFlatFeatures.end(), fnOnOffer) &&
+         std::all_of(kOtherFeatures.begin(), kOtherFeatures.end(), fnOnOffer);
 }
 
 Single clsSellingFeatures::DoCalc(const clsAuctionType* oAuctionType, const clsOutlay* oOutlay) {

@@ -47,6 +47,9 @@ class clsSellingFeatures {
   /// True when every bit is set, so also for 0.
   [[nodiscard]] bool HasFeature(std::int32_t lFeature) const;
 
+  /// False if a chosen feature isn't on offer by the prices of the latest DoCalc.
+  [[nodiscard]] bool HasOnlyWhatIsOnOffer() const;
+
   /// The fee of all chosen features, one for the whole auction, not rounded to pennies. Keeps what
   /// it is given, which must live as long as this object; a null keeps the one given before. Also
   /// refreshes the prices below. A feature without a price in the schedule keeps the price that it

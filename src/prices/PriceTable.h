@@ -65,6 +65,9 @@ class PriceTable {
     return nAt < oTiers.nLinked ? m_aoTiers[oTiers.nFirst + nAt] : FindTier(oName, nTier);
   }
 
+  /// The tiers of all tables, one behind the other, as LinkTiers has noted them.
+  [[nodiscard]] const std::vector<Tier>& AllTiers() const { return m_aoTiers; }
+
   [[nodiscard]] std::size_t Size() const { return m_aoEntries.size(); }
   void Clear();
 

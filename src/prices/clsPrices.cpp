@@ -1,5 +1,6 @@
 #include "prices/clsPrices.h"
 
+#include <algorithm>
 #include <system_error>
 
 #include "base/basCommon.h"
@@ -40,6 +41,16 @@ std::string ReadUpdateFile(const std::string& sPath, int nAttempts) {
     }
   }
   RaiseFileFailure(sPath, oError.message());
+}
+
+/// One number of all tiers: in order, each once.
+std::vector<Single> AllOf(TierPart ePart, const std::vector<Tier>& aoTiers) {
+  std::vector<Single> afNumbers(aoTiers.size());
+  std::transform(aoTiers.begin(), aoTiers.end(), afNumbers.begin(),
+                 [ePart](const Tier& oTier) { return oTier[ePart]; });
+  std::sort(afNumbers.begin(), afNumbers.end());
+  afNumbers.erase(std::unique(afNumbers.begin(), afNumbers.end()), afNumbers.end());
+  return afNumbers;
 }
 
 /// A tier table of the schedule, or the lack of it.
@@ -200,6 +211,13 @@ bool clsPrices::HitTestRanges(const KeyText& oName, Single fHitTestValue, clsPri
   }
   oRange.m_nIndex = 0;
   return false;
+}
+
+clsPrices::TierEdges clsPrices::Edges() const {
+  const std::vector<Tier>& aoTiers = m_oTable.AllTiers();
+  TierEdges oEdges{AllOf(TierPart::Start, aoTiers), AllOf(TierPart::End, aoTiers)};
+  std::erase(oEdges.afEnds, Single(clsPriceRange::kNoUpperLimit));
+  return oEdges;
 }
 
 clsPrices& Prices() {

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/Single.h"
 #include "prices/PriceKey.h"
@@ -54,6 +55,14 @@ class clsPrices {
   /// count isn't a 16-bit integer, is a Failure.
   bool HitTestRanges(const KeyText& oName, Single fHitTestValue, clsPriceRange& oRange,
                      std::int32_t nShop) const;
+
+  /// Where the tiers of all tables start and end, without those ends that are no limit: in order,
+  /// each once.
+  struct TierEdges {
+    std::vector<Single> afStarts;
+    std::vector<Single> afEnds;
+  };
+  [[nodiscard]] TierEdges Edges() const;
 
   [[nodiscard]] const PriceTable& Table() const { return m_oTable; }
 

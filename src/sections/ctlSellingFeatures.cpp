@@ -5,6 +5,7 @@
 
 #include "base/conversions.h"
 #include "base/failure.h"
+#include "engine/featureNames.h"
 #include "prices/clsPrices.h"
 #include "sections/controlHelpers.h"
 
@@ -19,48 +20,44 @@ struct FeatureRow {
   eFeature eBit;
   const char* sBox;
   const char* sFrame;
-  const char* sCaption;
   const char* sShowBox;
   const char* sTag;  ///< with "chk" where another row's name holds the bare word
 };
 
 /// From top to bottom, which is also the order in which the model is read and written.
 constexpr std::array kRows = std::to_array<FeatureRow>({
-    {kFeatureHomePage, "chkHomePageFeatured", "fraHomePageFeatured", "Home Page Featured",
-     "chkShowHomePageFeatured", "HomePageFeatured"},
-    {kFeaturePlus, "chkFeaturePlus", "fraFeaturePlus", "Feature Plus", "chkShowFeaturePlus",
-     "FeaturePlus"},
-    {kFeatureHighlight, "chkHighlight", nullptr, "Highlight", "chkShowHighlight", "chkHighlight"},
-    {kFeatureItemSubtitle, "chkItemSubtitle", "fraItemSubtitle", "Item Subtitle",
-     "chkShowItemSubtitle", "ItemSubtitle"},
-    {kFeatureBorder, "chkBorder", "fraBorder", "Border", "chkShowBorder", "Border"},
-    {kFeatureBold, "chkBold", nullptr, "Bold", "chkShowBold", "chkBold"},
-    {kFeatureGallery, "chkGallery", nullptr, "Gallery", "chkShowGallery", "chkGallery"},
-    {kFeatureFeaturedGallery, "chkFeaturedGallery", "fraFeaturedGallery", "Featured Gallery",
-     "chkShowFeaturedGallery", "FeaturedGallery"},
-    {kFeatureBuyItNow, "chkBuyItNow", "fraBuyItNow", "Buy It Now", "chkShowBuyItNow", "BuyItNow"},
-    {kFeatureScheduledListing, "chkScheduledListing", "fraScheduledListing", "Scheduled Listing",
+    {kFeatureHomePage, "chkHomePageFeatured", "fraHomePageFeatured", "chkShowHomePageFeatured",
+     "HomePageFeatured"},
+    {kFeaturePlus, "chkFeaturePlus", "fraFeaturePlus", "chkShowFeaturePlus", "FeaturePlus"},
+    {kFeatureHighlight, "chkHighlight", nullptr, "chkShowHighlight", "chkHighlight"},
+    {kFeatureItemSubtitle, "chkItemSubtitle", "fraItemSubtitle", "chkShowItemSubtitle",
+     "ItemSubtitle"},
+    {kFeatureBorder, "chkBorder", "fraBorder", "chkShowBorder", "Border"},
+    {kFeatureBold, "chkBold", nullptr, "chkShowBold", "chkBold"},
+    {kFeatureGallery, "chkGallery", nullptr, "chkShowGallery", "chkGallery"},
+    {kFeatureFeaturedGallery, "chkFeaturedGallery", "fraFeaturedGallery", "chkShowFeaturedGallery",
+     "FeaturedGallery"},
+    {kFeatureBuyItNow, "chkBuyItNow", "fraBuyItNow", "chkShowBuyItNow", "BuyItNow"},
+    {kFeatureScheduledListing, "chkScheduledListing", "fraScheduledListing",
      "chkShowScheduledListing", "ScheduledListing"},
     {kFeatureListIn2Categories, "chkListIn2Categories", "fraListIn2Categories",
-     "List in 2 Categories", "chkShowListIn2Categories", "ListIn2Categories"},
-    {kFeatureSlideShow, "chkSlideShow", nullptr, "Slide Show", "chkShowSlideShow", "chkSlideShow"},
-    {kFeatureSupersizePictures, "chkSuperSizedPicures", nullptr, "Super Sized Pictures",
-     "chkShowSuperSizedPictures", "chkSuperSizedPicures"},
-    {kFeatureListingDesigner, "chkListingDesigner", "fraListingDesigner", "Listing Designer",
-     "chkShowListingDesigner", "ListingDesigner"},
-    {kFeatureFeaturedInSearch, "chkFeaturedInSearch", "fraFeaturedInSearch", "Featured in Search",
+     "chkShowListIn2Categories", "ListIn2Categories"},
+    {kFeatureSlideShow, "chkSlideShow", nullptr, "chkShowSlideShow", "chkSlideShow"},
+    {kFeatureSupersizePictures, "chkSuperSizedPicures", nullptr, "chkShowSuperSizedPictures",
+     "chkSuperSizedPicures"},
+    {kFeatureListingDesigner, "chkListingDesigner", "fraListingDesigner", "chkShowListingDesigner",
+     "ListingDesigner"},
+    {kFeatureFeaturedInSearch, "chkFeaturedInSearch", "fraFeaturedInSearch",
      "chkShowFeaturedInSearch", "FeaturedInSearch"},
-    {kFeature10DayDuration, "chk10DayDuration", "fra10DayDuration", "10 Day Duration",
-     "chkShow10DayDuration", "10DayDuration"},
-    {kFeatureListingItem, "chkListingItem", "fraListingItem", "Listing Item", "chkShowListingItem",
-     "ListingItem"},
-    {kFeatureGiftServices, "chkGiftServices", "fraGiftServices", "Gift Services",
-     "chkShowGiftServices", "GiftServices"},
-    {kFeatureCarAd, "chkCarAd", "fraCarAd", "CARad", "chkShowCarAd", "CarAd"},
-    {kFeaturePreviewPicture, "chkPreviewPicture", "fraPreviewPicture", "Preview Picture",
-     "chkShowPreviewPicture", "PreviewPicture"},
-    {kFeaturePicturePack, "chkPicturePack", nullptr, "Picture Pack", "chkShowPicturePack",
-     "chkPicturePack"},
+    {kFeature10DayDuration, "chk10DayDuration", "fra10DayDuration", "chkShow10DayDuration",
+     "10DayDuration"},
+    {kFeatureListingItem, "chkListingItem", "fraListingItem", "chkShowListingItem", "ListingItem"},
+    {kFeatureGiftServices, "chkGiftServices", "fraGiftServices", "chkShowGiftServices",
+     "GiftServices"},
+    {kFeatureCarAd, "chkCarAd", "fraCarAd", "chkShowCarAd", "CarAd"},
+    {kFeaturePreviewPicture, "chkPreviewPicture", "fraPreviewPicture", "chkShowPreviewPicture",
+     "PreviewPicture"},
+    {kFeaturePicturePack, "chkPicturePack", nullptr, "chkShowPicturePack", "chkPicturePack"},
 });
 
 constexpr int kFirstTop = 360;
@@ -90,9 +87,9 @@ constexpr auto MakeControls() {
   for (const FeatureRow& oRow : kRows) {
     if (oRow.sFrame != nullptr) {
       *pNext++ = {oRow.sFrame, kFrame, "", 120, nTop, 2535, 255};
-      *pNext++ = {oRow.sBox, kCheckBox, oRow.sCaption, 0, 0, 2535, 255, "", oRow.sFrame};
+      *pNext++ = {oRow.sBox, kCheckBox, NameOf(oRow.eBit), 0, 0, 2535, 255, "", oRow.sFrame};
     } else {
-      *pNext++ = {oRow.sBox, kCheckBox, oRow.sCaption, 120, nTop, 2535, 255};
+      *pNext++ = {oRow.sBox, kCheckBox, NameOf(oRow.eBit), 120, nTop, 2535, 255};
     }
     *pNext++ = ShowBox(oRow.sShowBox, nTop, oRow.sTag);
     nTop += kPitch;

@@ -1,0 +1,156 @@
+#include "answers/Alternatives.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "answers/Breakdown.h"
+#include "answers/Trial.h"
+#include "base/failure.h"
+#include "base/regionControls.h"
+#include "base/text.h"
+#include "engine/featureNames.h"
+#include "prices/money.h"
+
+namespace quillet {
+namespace {
+
+struct Duration {
+  std::int32_t eShop;
+  const char* sOption;  ///< the control that a region may lack
+  const char* sName;
+};
+
+constexpr std::array<Duration, 5> kDurations = {{
+    {kShop30Days, "optShop30Days", "Shop inventory, 30 days"},
+    {kShop60Days, "optShop60Days", "Shop inventory, 60 days"},
+    {kShop90Days, "optShop90Days", "Shop inventory, 90 days"},
+    {kShop120Days, "optShop120Days", "Shop inventory, 120 days"},
+    {kShopGoodTillCancelled, "optShopGoodTillCancelled", "Shop inventory, good till cancelled"},
+}};
+
+constexpr std::array<const char*, 4> kAuctions = {
+    "Standard auction", "Motor auction", "Real estate auction", "Business & industrial auction"};
+constexpr const char* kFixedPrice = "Fixed price";
+
+constexpr std::array<int, 4> kPercentsLess = {5, 10, 15, 20};
+
+std::string AuctionName(const clsAuctionType& oType) {
+  const auto nKind = static_cast<std::size_t>(oType.m_eAuctionType);
+  return nKind < kAuctions.size() ? kAuctions.at(nKind) : "Auction";
+}
+
+std::string ListingName(const clsAuctionType& oType) {
+  if (oType.m_bShopInventory) {
+    const auto* const pDuration =
+        std::find_if(kDurations.begin(), kDurations.end(),
+                     [&](const Duration& o) { return o.eShop == oType.m_eShopDuration; });
+    return pDuration != kDurations.end() ? pDuration->sName : "Shop inventory";
+  }
+  return oType.m_bBuyItNowOnly ? kFixedPrice : AuctionName(oType);
+}
+
+class Collector {
+ public:
+  explicit Collector(const clsCalculate& oAuction)
+      : m_oAuction(oAuction), m_oTrial(oAuction), m_sAsItIs(ListingName(oAuction.m_oAuctionType)) {
+    const clsCalculate& oAsItIs = m_oTrial.With(NoChange());
+    m_fProfitAsItIs = oAsItIs.m_fProfit;
+    std::string sName = m_sAsItIs;
+    sName.front() = LowerCase(sName.front());
+    AddFrom(oAsItIs, AlternativeKind::AsItIs, "As it is: " + sName, NoChange());
+  }
+
+  void AddListings() {
+    AddListing(AuctionName(m_oAuction.m_oAuctionType), ListAsAuction());
+    AddListing(kFixedPrice, ListAtFixedPrice());
+    if (m_oAuction.m_oAuctionType.m_eAuctionType == kAuctionStandard) {
+      for (const Duration& oDuration : kDurations) {
+        if (RegionAllowsControl(oDuration.sOption)) {
+          AddListing(oDuration.sName, ListInShop(oDuration.eShop));
+        }
+      }
+    }
+    std::stable_sort(
+        m_aoFound.begin(), m_aoFound.end(),
+        [](const Alternative& a, const Alternative& b) { return a.fProfit > b.fProfit; });
+  }
+
+  void AddPayPal() {
+    const bool bTaken = m_oAuction.m_oPayPal.m_bEnabled;
+    Add(AlternativeKind::PayPal, bTaken ? "Without PayPal" : "With PayPal", TakePayPal(!bTaken));
+  }
+
+  void AddFeatures() {
+    for (const FeatureName& oFeature : kFeatureNames) {
+      if (m_oAuction.m_oSellingFeatures.HasFeature(oFeature.eBit)) {
+        Add(AlternativeKind::Feature, std::string("Without ") + oFeature.sName,
+            DropFeature(oFeature.eBit));
+      }
+    }
+  }
+
+  void AddOffers() {
+    const Single fPrice = m_oAuction.m_oOutlay.m_fEstimatedEndPrice;
+    if (m_oAuction.m_oOutlay.m_lQuantity < 1 || fPrice <= 0 || fPrice > PriceOf(kHighestPrice)) {
+      return;
+    }
+    const std::int64_t nPrice = std::llround(fPrice * 100);
+    for (const int nPercent : kPercentsLess) {
+      const auto nOffer = static_cast<Cents>((nPrice * (100 - nPercent) + 50) / 100);
+      Add(AlternativeKind::Offer,
+          "Offer of " + std::to_string(nPercent) + " % less: " + FormatMoney(PriceOf(nOffer)),
+          SellFor(nOffer));
+    }
+  }
+
+  void AddUnsold() {
+    if (m_oAuction.m_oOutlay.m_lQuantity != 0) {
+      Add(AlternativeKind::Unsold, "Unsold", Sell(0));
+    }
+  }
+
+  std::vector<Alternative> Take() { return std::move(m_aoFound); }
+
+ private:
+  void AddListing(const std::string& sName, const Change& oChange) {
+    if (sName != m_sAsItIs) {
+      Add(AlternativeKind::Listing, sName, oChange);
+    }
+  }
+
+  void Add(AlternativeKind eKind, const std::string& sName, const Change& oChange) {
+    IgnoreFailure([&] {
+      const clsCalculate& oOther = m_oTrial.With(oChange);
+      if (eKind != AlternativeKind::Listing || oOther.m_oSellingFeatures.HasOnlyWhatIsOnOffer()) {
+        AddFrom(oOther, eKind, sName, oChange);
+      }
+    });
+  }
+
+  void AddFrom(const clsCalculate& oOther, AlternativeKind eKind, std::string sName,
+               const Change& oChange) {
+    m_aoFound.push_back({eKind, std::move(sName), oChange, BreakDown(oOther).fFees,
+                         oOther.m_fProfit, oOther.m_fProfit - m_fProfitAsItIs});
+  }
+
+  const clsCalculate& m_oAuction;
+  Trial m_oTrial;
+  std::string m_sAsItIs;
+  Single m_fProfitAsItIs;
+  std::vector<Alternative> m_aoFound;
+};
+
+}  // namespace
+
+std::vector<Alternative> Alternatives(const clsCalculate& oAuction) {
+  Collector oCollector(oAuction);
+  oCollector.AddListings();
+  oCollector.AddPayPal();
+  oCollector.AddFeatures();
+  oCollector.AddOffers();
+  oCollector.AddUnsold();
+  return oCollector.Take();
+}
+
+}  // namespace quillet

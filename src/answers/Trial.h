@@ -1,0 +1,31 @@
+// A copy of an auction to try things on.
+#pragma once
+
+#include "answers/Change.h"
+#include "engine/clsCalculate.h"
+
+namespace quillet {
+
+/// The copy is made model by model, so that it gives the very figures of the auction: the text
+/// keeps seven digits of an amount, and no price that the schedule has lost since. The auction
+/// must live as long as the trial, and is left as it is.
+class Trial {
+ public:
+  explicit Trial(const clsCalculate& oAuction) : m_oAuction(oAuction) { Reset(); }
+
+  /// The auction with a change, calculated; valid until the next call.
+  const clsCalculate& With(const Change& oChange);
+
+  /// The latest one at another price, calculated.
+  const clsCalculate& AtPrice(Cents nPrice);
+
+  [[nodiscard]] const clsCalculate& Latest() const { return m_oCopy; }
+
+ private:
+  void Reset();
+
+  const clsCalculate& m_oAuction;
+  clsCalculate m_oCopy;
+};
+
+}  // namespace quillet

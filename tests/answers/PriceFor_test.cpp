@@ -1,0 +1,106 @@
+// The lowest price for a goal, against a search that tries every cent.
+#include "answers/PriceFor.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "answers/Trial.h"
+#include "support/Auctions.h"
+#include "support/Prices.h"
+
+namespace quillet {
+namespace {
+
+constexpr Cents kTried = 200'000;
+
+const std::vector<Goal> kGoals = {
+    {}, {GoalKind::Profit, 7.5}, {GoalKind::PercentOfCost, 25}, {GoalKind::PercentOfPrice, 15}};
+
+/// The lowest price up to 2,000.00 for each goal, tried cent by cent; kTried + 1 if none does it.
+std::vector<Cents> LowestByTryingAll(const clsCalculate& oAuction) {
+  std::vector<Cents> anLowest(kGoals.size(), kTried + 1);
+  Trial oTrial(oAuction);
+  std::size_t nOpen = kGoals.size();
+  for (Cents nPrice = 0; nPrice <= kTried && nOpen > 0; ++nPrice) {
+    const clsCalculate& oTried = oTrial.AtPrice(nPrice);
+    for (std::size_t i = 0; i < kGoals.size(); ++i) {
+      if (anLowest[i] > kTried && kGoals[i].IsMet(oTried)) {
+        anLowest[i] = nPrice;
+        --nOpen;
+      }
+    }
+  }
+  return anLowest;
+}
+
+void ExpectTheLowest(clsCalculate& oAuction) {
+  SCOPED_TRACE(TextOf(oAuction));
+  const std::vector<Cents> anLowest = LowestByTryingAll(oAuction);
+  for (std::size_t i = 0; i < kGoals.size(); ++i) {
+    const Cents nFound = PriceFor(oAuction, kGoals[i]).value_or(kHighestPrice + 1);
+    EXPECT_EQ(std::min(nFound, kTried + 1), anLowest[i]) << "goal " << i;
+  }
+}
+
+/// An auction that a seller might list: cheap for the most part, so that prices are soon tried.
+void MakeUp(clsCalculate& oAuction, std::mt19937& oRandom) {
+  const auto fnUpTo = [&](std::uint32_t nLimit) {
+    return static_cast<std::int32_t>(oRandom() % (nLimit + 1));
+  };
+  const auto fnAmount = [&] { return PriceOf(fnUpTo(fnUpTo(3) == 0 ? 2'500 : 250)); };
+  oAuction.m_oAuctionType.m_eAuctionType = fnUpTo(5) == 0 ? fnUpTo(3) : kAuctionStandard;
+  oAuction.m_oAuctionType.m_eMotorType = fnUpTo(5);
+  oAuction.m_oAuctionType.m_bBuyItNowOnly = fnUpTo(1) == 0;
+  oAuction.m_oAuctionType.m_bShopInventory = fnUpTo(4) == 0;
+  oAuction.m_oAuctionType.m_eShopDuration = fnUpTo(5);
+  oAuction.m_oAuctionType.m_eRealEstateType = fnUpTo(1);
+  oAuction.m_oAuctionType.m_bRealEstateBinding = fnUpTo(1) == 0;
+  oAuction.m_oOutlay.m_fOutlay = fnAmount();
+  oAuction.m_oOutlay.m_fStartingPrice = fnAmount();
+  oAuction.m_oOutlay.m_fReservePrice = fnUpTo(2) == 0 ? fnAmount() : Single(0);
+  oAuction.m_oOutlay.m_lQuantity = fnUpTo(49) == 0 ? 0 : 1 + fnUpTo(1) * fnUpTo(6);
+  for (int i = 0; i < 2; ++i) {
+    oAuction.m_oSellingFeatures.AddFeature(1 << (1 + fnUpTo(19)));
+  }
+  oAuction.m_oSellingFeatures.m_lExtraImageCount = fnUpTo(12);
+  oAuction.m_oPayPal.m_bEnabled = fnUpTo(3) != 0;
+  oAuction.m_oPayPal.m_eAccountType = fnUpTo(2);
+  oAuction.m_oPayPal.m_nBusinessBand = 1 + fnUpTo(4);
+  oAuction.m_oPayPal.m_bPayIndividually = fnUpTo(1) == 0;
+  oAuction.m_oPostage.m_bEnabled = fnUpTo(1) == 0;
+  oAuction.m_oPostage.m_ePostageClass = kPostageManual;
+  oAuction.m_oPostage.m_fManualPostage = PriceOf(fnUpTo(2'000));
+  oAuction.m_oPostage.m_bMakeProfit = fnUpTo(2) == 0;
+  oAuction.m_oPostage.m_fProfit = PriceOf(fnUpTo(300));
+  oAuction.m_oPostage.m_bSendIndividually = fnUpTo(1) == 0;
+}
+
+TEST(PriceFor, IsTheLowestThatTryingEveryCentFinds) {
+  UseShippedSchedule();
+  const std::filesystem::path oSamples = std::string(QUILLET_SOURCE_DIR) + "/data/samples";
+  for (const auto& oEntry : std::filesystem::directory_iterator(oSamples)) {
+    if (oEntry.path().stem().string().starts_with("uk-") == (RegionCode() == 1)) {
+      continue;
+    }
+    std::ifstream oFile(oEntry.path(), std::ios::binary);
+    std::string sText{std::istreambuf_iterator<char>(oFile), {}};
+    clsCalculate oAuction;
+    oAuction.Serialize(sText, false);
+    ExpectTheLowest(oAuction);
+  }
+  std::mt19937 oRandom(20070130);
+  for (int i = 0; i < 200; ++i) {
+    clsCalculate oAuction;
+    MakeUp(oAuction, oRandom);
+    ExpectTheLowest(oAuction);
+  }
+}
+
+}  // namespace
+}  // namespace quillet
