@@ -76,6 +76,19 @@ Profit             $96.74 (185%)
         self.assertEqual((partial["error"], partial["paypal_fee"]), (None, 0))
         self.assertIn("[PAYPAL]False|0|1|False[PAYPAL]", partial["auction"])
 
+    def test_prices_asked_for_stand_behind_the_rest_and_none_is_said_as_such(self):
+        two = CAMERA + "\n" + LATHE + "\n"
+        for goal, price in (("20", "67.24"), ("25%", "58.36"), ("15%price", "54.66"), ("-5", "40.59")):
+            _, out, _ = calc("--break-even", "--goal", goal, "-", stdin=two)
+            self.assertEqual([row[14:] for row in csv.reader(io.StringIO(out))],
+                             [["break_even", "goal_price"], ["45.93", price], ["none", "none"]])
+        status, out, _ = calc("--format", "json", "--goal=20", "-", stdin=two)
+        prices = [list(json.loads(line).items())[14:] for line in out.splitlines()]
+        self.assertEqual((status, prices), (0, [[("goal_price", 67.24)], [("goal_price", None)]]))
+        _, out, _ = calc("--break-even", "--goal", "1e9", SAMPLES / "used-camera.qlt")
+        self.assertEqual(out.splitlines()[-2:],
+                         ["Break-even Price   $45.93", "Goal Price           none"])
+
     def test_csv_has_a_header_and_quotes_what_needs_it(self):
         path = self.file('a "b", c.qlt', CAMERA)
         status, out, _ = calc(path, SAMPLES / "lathe-unsold.qlt")
@@ -173,6 +186,8 @@ class BadInput(Temporary):
                 (2, f"{utf16}: There is no price of Quillet US in it.", "--check", utf16),
                 (2, f'{twice}: The key "FINAL" stands in it twice.', "--prices", twice, good),
                 (2, "--format: xml not in", "--format", "xml", good),
+                *((2, f'15%price), not "{bad}"', "--goal", bad, good)
+                  for bad in ("", "20x", "-5%", "100%price", "$5", "nan")),
                 (2, "not expected: --nonsense", "--nonsense"),
                 (2, "excludes", "--check", empty, good),
                 (2, "gone: No such file or directory", "--check", "gone"),

@@ -1,11 +1,14 @@
 #include "app/calc/Options.h"
 
+#include <array>
+#include <limits>
 #include <map>
 
 #include <CLI/CLI.hpp>
 
 #include "app/calc/Status.h"
 #include "base/basCommon.h"
+#include "base/conversions.h"
 #include "base/version.h"
 #include "platform/Descriptors.h"
 
@@ -25,6 +28,38 @@ std::string Footer() {
          "something is wrong with the file.";
 }
 
+struct GoalForm {
+  std::string_view sEnding;
+  GoalKind eKind;
+  double fLeast;
+  double fBelow;
+};
+
+constexpr double kNoLimit = std::numeric_limits<double>::infinity();
+constexpr std::array<GoalForm, 3> kGoalForms = {{
+    {"%price", GoalKind::PercentOfPrice, 0, 100},
+    {"%", GoalKind::PercentOfCost, 0, kNoLimit},
+    {"", GoalKind::Profit, -kNoLimit, kNoLimit},
+}};
+
+std::optional<Goal> GoalOf(std::string_view sText) {
+  for (const GoalForm& oForm : kGoalForms) {
+    if (sText.ends_with(oForm.sEnding)) {
+      const auto fAmount = ToFileDouble(sText.substr(0, sText.size() - oForm.sEnding.size()));
+      const bool bInside = fAmount && *fAmount >= oForm.fLeast && *fAmount < oForm.fBelow;
+      return bInside ? std::optional(Goal{oForm.eKind, *fAmount}) : std::nullopt;
+    }
+  }
+  return std::nullopt;
+}
+
+std::string WhyNoGoal(const std::string& sText) {
+  return GoalOf(sText) ? ""
+                       : "a goal is a profit (20), a percentage of the cost (25%) or one below 100 "
+                         "of the price (15%price), not \"" +
+                             sText + "\"";
+}
+
 void Describe(CLI::App& oApp, Options& oOptions, std::string& sFormat) {
   oApp.footer(Footer());
   oApp.set_version_flag("--version",
@@ -38,10 +73,22 @@ void Describe(CLI::App& oApp, Options& oOptions, std::string& sFormat) {
       oApp.add_option("FILE", oOptions.asFiles, "Auction files, or - for a stream");
   auto* const pCheck =
       oApp.add_option("--check", oOptions.sCheck, "Check a fee schedule and list what is wrong");
+  auto* const pBreakEven = oApp.add_flag("--break-even", oOptions.bBreakEven,
+                                         "Add the lowest price that leaves no loss");
+  auto* const pGoal =
+      oApp.add_option_function<std::string>(
+              "--goal", [&oOptions](const std::string& sGoal) { oOptions.oGoal = GoalOf(sGoal); },
+              "Add the lowest price for a profit: 20, 25% (of the cost), 15%price")
+          ->check(WhyNoGoal);
   pPrices->option_text("FILE");
   pFormat->option_text("FORMAT")->check(CLI::IsMember({"table", "csv", "json"}));
   pFiles->option_text("...");
-  pCheck->option_text("FILE")->excludes(pPrices)->excludes(pFormat)->excludes(pFiles);
+  pBreakEven->option_text(" ");
+  pGoal->option_text("GOAL");
+  pCheck->option_text("FILE");
+  for (auto* const pOther : {pPrices, pFormat, pFiles, pBreakEven, pGoal}) {
+    pCheck->excludes(pOther);
+  }
 }
 
 }  // namespace

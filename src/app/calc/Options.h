@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "answers/Goal.h"
+
 namespace quillet {
 
 enum class Format { Automatic, Table, Csv, Json };
@@ -15,6 +17,8 @@ inline constexpr const char* kStandardInputName = "-";
 struct Options {
   std::optional<std::string> sPrices;  ///< a fee schedule other than the one beside the program
   std::optional<std::string> sCheck;   ///< an update file to check, and nothing else to do
+  bool bBreakEven = false;             ///< asks for the price that breaks even
+  std::optional<Goal> oGoal;           ///< asks for the price that meets it
   Format eFormat = Format::Automatic;
   std::vector<std::string> asFiles;  ///< never empty unless sCheck is set
 };

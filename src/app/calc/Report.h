@@ -22,13 +22,17 @@ class Report {
   [[nodiscard]] virtual bool HoldsMessages() const { return true; }
 };
 
-/// A table for people: the labels of the summary and what stands behind them, in colour if asked.
-[[nodiscard]] std::unique_ptr<Report> MakeTableReport(bool bColour);
+// The options must live as long as their report.
+
+/// A table for people: the labels of the summary and what stands behind them, in colour if asked,
+/// and the prices that were asked for.
+[[nodiscard]] std::unique_ptr<Report> MakeTableReport(const Options& oOptions, bool bColour);
 
 // For programs, with the same columns: figures in the shortest form that reads back as the same
 // 32-bit float, with a point.
-[[nodiscard]] std::unique_ptr<Report> MakeCsvReport();  ///< a header line; a cell may be empty
-[[nodiscard]] std::unique_ptr<Report>
-MakeJsonReport();  ///< one object a line; null where nothing is
+/// A header line; a cell may be empty, and a price that there isn't is "none".
+[[nodiscard]] std::unique_ptr<Report> MakeCsvReport(const Options& oOptions);
+/// One object a line; null where nothing is.
+[[nodiscard]] std::unique_ptr<Report> MakeJsonReport(const Options& oOptions);
 
 }  // namespace quillet

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "answers/Price.h"
 #include "base/Single.h"
 
 namespace quillet {
@@ -21,6 +22,8 @@ struct Figures {
   Single fFinalValueFee;
   Single fPayPalFee;
   std::optional<std::string> sProfitPercent;  ///< in digits, as the summary shows it
+  std::optional<Cents> nBreakEven;            ///< what was asked for; nothing if no price does it
+  std::optional<Cents> nGoalPrice;
 };
 
 struct Result {

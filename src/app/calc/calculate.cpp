@@ -2,6 +2,7 @@
 
 #include <system_error>
 
+#include "answers/PriceFor.h"
 #include "app/calc/LineStream.h"
 #include "base/failure.h"
 #include "base/text.h"
@@ -12,7 +13,7 @@
 namespace quillet {
 namespace {
 
-Figures FiguresOf(clsCalculate& oAuction) {
+Figures FiguresOf(clsCalculate& oAuction, const Options& oOptions) {
   oAuction.DoCalc();
   Figures oFigures;
   oFigures.fProfit = oAuction.m_fProfit;
@@ -26,6 +27,12 @@ Figures FiguresOf(clsCalculate& oAuction) {
   oFigures.fFinalValueFee = oAuction.m_fFinalValueFee;
   oFigures.fPayPalFee = oAuction.m_fPayPayCost;
   oFigures.sProfitPercent = ProfitPercentText(oAuction);
+  if (oOptions.bBreakEven) {
+    oFigures.nBreakEven = PriceFor(oAuction, Goal{});
+  }
+  if (oOptions.oGoal) {
+    oFigures.nGoalPrice = PriceFor(oAuction, *oOptions.oGoal);
+  }
   return oFigures;
 }
 
@@ -38,7 +45,7 @@ void SetError(Result& oResult, std::string sError) {
   oResult.sError = std::move(sError);
 }
 
-void Calculate(std::string& sText, CalcHost& oHost, Result& oResult) {
+void Calculate(std::string& sText, const Options& oOptions, CalcHost& oHost, Result& oResult) {
   if (sText.find_first_not_of(" \t\r\n") == std::string::npos) {
     SetError(oResult, "There is no auction in it; it is empty.");
     return;
@@ -51,20 +58,20 @@ void Calculate(std::string& sText, CalcHost& oHost, Result& oResult) {
   oAuction.Serialize(*oResult.sAuction, true);
   oResult.sError.reset();
   try {
-    oResult.oFigures = FiguresOf(oAuction);
+    oResult.oFigures = FiguresOf(oAuction, oOptions);
   } catch (const Failure& oFailure) {
     oResult.oFigures.reset();
     oResult.sError = oFailure.what();
   }
 }
 
-void CalculateFile(CalcHost& oHost, Result& oResult) {
+void CalculateFile(const Options& oOptions, CalcHost& oHost, Result& oResult) {
   std::string sText;
   if (const std::error_code oError = ReadWholeFile(oResult.sFile, kLongestAuction, sText)) {
     SetError(oResult, "It can't be read: " + oError.message());
     return;
   }
-  Calculate(sText, oHost, oResult);
+  Calculate(sText, oOptions, oHost, oResult);
 }
 
 }  // namespace quillet

@@ -1,5 +1,6 @@
 #include "app/calc/columns.h"
 
+#include <array>
 #include <charconv>
 
 namespace quillet {
@@ -23,16 +24,33 @@ Cell ReadText(const Result& oResult, std::string& sText) {
   return sValue ? Cell::Text : Cell::None;
 }
 
+/// The shortest text that reads back as the same 32-bit float.
+Cell WriteNumber(Single fValue, std::string& sText) {
+  std::array<char, 32> acText{};
+  const auto oEnd = std::to_chars(acText.data(), acText.data() + acText.size(), fValue.Float());
+  sText.assign(acText.data(), oEnd.ptr);
+  return Cell::Number;
+}
+
 template <Single Figures::*fField>
 Cell ReadFigure(const Result& oResult, std::string& sText) {
   if (!oResult.oFigures) {
     return Cell::None;
   }
-  std::array<char, 32> acText{};
-  const auto oEnd = std::to_chars(acText.data(), acText.data() + acText.size(),
-                                  ((*oResult.oFigures).*fField).Float());
-  sText.assign(acText.data(), oEnd.ptr);
-  return Cell::Number;
+  return WriteNumber((*oResult.oFigures).*fField, sText);
+}
+
+template <std::optional<Cents> Figures::*nField>
+Cell ReadPrice(const Result& oResult, std::string& sText) {
+  if (!oResult.oFigures) {
+    return Cell::None;
+  }
+  const std::optional<Cents> nPrice = (*oResult.oFigures).*nField;
+  if (nPrice) {
+    return WriteNumber(PriceOf(*nPrice), sText);
+  }
+  sText = "none";
+  return Cell::None;
 }
 
 Cell ReadPercent(const Result& oResult, std::string& sText) {
@@ -43,9 +61,7 @@ Cell ReadPercent(const Result& oResult, std::string& sText) {
   return Cell::Number;
 }
 
-}  // namespace
-
-const std::array<Column, 14> kColumns = {{
+constexpr std::array<Column, 14> kColumns = {{
     {"file", ReadName},
     {"message", ReadText<&Result::sMessage>},
     {"error", ReadText<&Result::sError>},
@@ -61,5 +77,18 @@ const std::array<Column, 14> kColumns = {{
     {"paypal_fee", ReadFigure<&Figures::fPayPalFee>},
     {"auction", ReadText<&Result::sAuction>},
 }};
+
+}  // namespace
+
+std::vector<Column> ColumnsFor(const Options& oOptions) {
+  std::vector<Column> aoColumns(kColumns.begin(), kColumns.end());
+  if (oOptions.bBreakEven) {
+    aoColumns.push_back({"break_even", ReadPrice<&Figures::nBreakEven>});
+  }
+  if (oOptions.oGoal) {
+    aoColumns.push_back({"goal_price", ReadPrice<&Figures::nGoalPrice>});
+  }
+  return aoColumns;
+}
 
 }  // namespace quillet

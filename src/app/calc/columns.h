@@ -1,10 +1,11 @@
 // The columns of the results that programs read.
 #pragma once
 
-#include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "app/calc/Options.h"
 #include "app/calc/Result.h"
 
 namespace quillet {
@@ -14,10 +15,11 @@ enum class Cell { None, Number, Text };
 
 struct Column {
   std::string_view sName;
-  /// Puts what the column holds for a result into an empty text.
+  /// Puts what the column holds for a result into an empty text; that may be a word for none.
   Cell (*fnRead)(const Result& oResult, std::string& sText);
 };
 
-extern const std::array<Column, 14> kColumns;
+/// Those that every result has, and behind them those of the prices that are asked for.
+[[nodiscard]] std::vector<Column> ColumnsFor(const Options& oOptions);
 
 }  // namespace quillet

@@ -26,16 +26,18 @@ void AppendQuotedForCsv(std::string_view sText, std::string& sOut) {
 
 class CsvReport : public Report {
  public:
+  explicit CsvReport(const Options& oOptions) : m_aoColumns(ColumnsFor(oOptions)) {}
+
   void AddHeader(std::string& sOut) override {
-    for (const Column& oColumn : kColumns) {
-      sOut.append(&oColumn == kColumns.data() ? "" : ",").append(oColumn.sName);
+    for (const Column& oColumn : m_aoColumns) {
+      sOut.append(&oColumn == m_aoColumns.data() ? "" : ",").append(oColumn.sName);
     }
     sOut += '\n';
   }
 
   void Add(const Result& oResult, std::string& sOut) override {
-    for (const Column& oColumn : kColumns) {
-      sOut += &oColumn == kColumns.data() ? "" : ",";
+    for (const Column& oColumn : m_aoColumns) {
+      sOut += &oColumn == m_aoColumns.data() ? "" : ",";
       m_sCell.clear();
       oColumn.fnRead(oResult, m_sCell);
       AppendQuotedForCsv(m_sCell, sOut);
@@ -44,14 +46,19 @@ class CsvReport : public Report {
   }
 
  private:
+  std::vector<Column> m_aoColumns;
   std::string m_sCell;
 };
 
 class JsonReport : public Report {
  public:
+  explicit JsonReport(const Options& oOptions) : m_aoColumns(ColumnsFor(oOptions)) {}
+
   void Add(const Result& oResult, std::string& sOut) override {
-    for (const Column& oColumn : kColumns) {
-      sOut.append(&oColumn == kColumns.data() ? "{\"" : ",\"").append(oColumn.sName).append("\":");
+    for (const Column& oColumn : m_aoColumns) {
+      sOut.append(&oColumn == m_aoColumns.data() ? "{\"" : ",\"")
+          .append(oColumn.sName)
+          .append("\":");
       m_sCell.clear();
       switch (oColumn.fnRead(oResult, m_sCell)) {
         case Cell::None:
@@ -70,17 +77,18 @@ class JsonReport : public Report {
   }
 
  private:
+  std::vector<Column> m_aoColumns;
   std::string m_sCell;
 };
 
 }  // namespace
 
-std::unique_ptr<Report> MakeCsvReport() {
-  return std::make_unique<CsvReport>();
+std::unique_ptr<Report> MakeCsvReport(const Options& oOptions) {
+  return std::make_unique<CsvReport>(oOptions);
 }
 
-std::unique_ptr<Report> MakeJsonReport() {
-  return std::make_unique<JsonReport>();
+std::unique_ptr<Report> MakeJsonReport(const Options& oOptions) {
+  return std::make_unique<JsonReport>(oOptions);
 }
 
 }  // namespace quillet

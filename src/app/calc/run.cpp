@@ -26,14 +26,14 @@ bool WantsColour() {
          fnVariable("TERM") != "dumb";
 }
 
-std::unique_ptr<Report> MakeReport(Format eFormat) {
+std::unique_ptr<Report> MakeReport(Format eFormat, const Options& oOptions) {
   switch (eFormat) {
     case Format::Csv:
-      return MakeCsvReport();
+      return MakeCsvReport(oOptions);
     case Format::Json:
-      return MakeJsonReport();
+      return MakeJsonReport(oOptions);
     default:
-      return MakeTableReport(WantsColour());
+      return MakeTableReport(oOptions, WantsColour());
   }
 }
 
@@ -41,9 +41,9 @@ std::unique_ptr<Report> MakeReport(Format eFormat) {
 /// alone it becomes a table, in company CSV.
 class Printer {
  public:
-  explicit Printer(Format eFormat) {
-    if (eFormat != Format::Automatic) {
-      Start(eFormat);
+  explicit Printer(const Options& oOptions) : m_oOptions(oOptions) {
+    if (oOptions.eFormat != Format::Automatic) {
+      Start(oOptions.eFormat);
     }
   }
 
@@ -80,7 +80,7 @@ class Printer {
 
  private:
   void Start(Format eFormat) {
-    m_oReport = MakeReport(eFormat);
+    m_oReport = MakeReport(eFormat, m_oOptions);
     m_oReport->AddHeader(m_oOutput.Text());
   }
 
@@ -97,6 +97,7 @@ class Printer {
     }
   }
 
+  const Options& m_oOptions;
   Output m_oOutput;
   std::unique_ptr<Report> m_oReport;
   std::optional<Result> m_oHeld;
@@ -104,7 +105,7 @@ class Printer {
   Status m_eStatus = kEveryAuctionCalculated;
 };
 
-void RunStream(CalcHost& oHost, Printer& oPrinter) {
+void RunStream(const Options& oOptions, CalcHost& oHost, Printer& oPrinter) {
   LineStream oLines(kStandardInput);
   std::string sText;
   Result oResult;
@@ -114,7 +115,7 @@ void RunStream(CalcHost& oHost, Printer& oPrinter) {
     if (eTaken == LineStream::Taken::OverlongLine) {
       SetError(oResult, "The line is too long for an auction.");
     } else {
-      Calculate(sText, oHost, oResult);
+      Calculate(sText, oOptions, oHost, oResult);
     }
     oPrinter.Add(oResult);
   }
@@ -142,15 +143,15 @@ Status LoadSchedule(const Options& oOptions) {
 }
 
 Status RunAuctions(const Options& oOptions, CalcHost& oHost) {
-  Printer oPrinter(oOptions.eFormat);
+  Printer oPrinter(oOptions);
   for (const std::string& sFile : oOptions.asFiles) {
     if (sFile == kStandardInputName) {
-      RunStream(oHost, oPrinter);
+      RunStream(oOptions, oHost, oPrinter);
       continue;
     }
     Result oResult;
     oResult.sFile = sFile;
-    CalculateFile(oHost, oResult);
+    CalculateFile(oOptions, oHost, oResult);
     oPrinter.Add(oResult);
   }
   return oPrinter.Finish();

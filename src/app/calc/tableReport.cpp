@@ -29,9 +29,20 @@ constexpr std::string_view kBold = "\033[1m";
 constexpr std::string_view kBoldGreen = "\033[1;32m";
 constexpr std::string_view kBoldRed = "\033[1;31m";
 
+struct Line {
+  std::string_view sLabel;
+  std::string sAmount;
+  std::string sBehind = {};
+  std::string_view sColour = {};
+};
+
+std::string PriceText(const std::optional<Cents>& nPrice) {
+  return nPrice ? FormatMoney(PriceOf(*nPrice)) : "none";
+}
+
 class TableReport : public Report {
  public:
-  explicit TableReport(bool bColour) : m_bColour(bColour) {}
+  TableReport(const Options& oOptions, bool bColour) : m_oOptions(oOptions), m_bColour(bColour) {}
 
   void Add(const Result& oResult, std::string& sOut) override {
     if (!oResult.oFigures) {
@@ -48,23 +59,34 @@ class TableReport : public Report {
   [[nodiscard]] bool HoldsMessages() const override { return false; }
 
  private:
-  void AddRows(const Figures& oFigures, std::string& sOut) const {
-    std::array<std::string, kRows.size()> asAmounts;
-    std::size_t nWidth = 0;
-    for (std::size_t i = 0; i < kRows.size(); ++i) {
-      asAmounts.at(i) = FormatMoney(oFigures.*kRows.at(i).fAmount);
-      nWidth = std::max(nWidth, Utf16Length(asAmounts.at(i)));
+  [[nodiscard]] std::vector<Line> LinesOf(const Figures& oFigures) const {
+    std::vector<Line> aoLines;
+    for (const Row& oRow : kRows) {
+      aoLines.push_back({oRow.sLabel, FormatMoney(oFigures.*oRow.fAmount)});
     }
-    for (std::size_t i = 0; i < kRows.size(); ++i) {
-      std::string sText = PadLeftWith(asAmounts.at(i), nWidth, " ");
-      if (&kRows.at(i) == &kRows.back()) {
-        if (oFigures.sProfitPercent) {
-          sText += " (" + *oFigures.sProfitPercent + "%)";
-        }
-        sText = Coloured(sText, oFigures.fProfit < 0 ? kBoldRed : kBoldGreen);
-      }
-      sOut.append(kRows.at(i).sLabel).append(kLabelWidth - kRows.at(i).sLabel.size(), ' ');
-      sOut.append(sText).append("\n");
+    aoLines.back().sColour = oFigures.fProfit < 0 ? kBoldRed : kBoldGreen;
+    if (oFigures.sProfitPercent) {
+      aoLines.back().sBehind = " (" + *oFigures.sProfitPercent + "%)";
+    }
+    if (m_oOptions.bBreakEven) {
+      aoLines.push_back({"Break-even Price", PriceText(oFigures.nBreakEven)});
+    }
+    if (m_oOptions.oGoal) {
+      aoLines.push_back({"Goal Price", PriceText(oFigures.nGoalPrice)});
+    }
+    return aoLines;
+  }
+
+  void AddRows(const Figures& oFigures, std::string& sOut) const {
+    const std::vector<Line> aoLines = LinesOf(oFigures);
+    std::size_t nWidth = 0;
+    for (const Line& oLine : aoLines) {
+      nWidth = std::max(nWidth, Utf16Length(oLine.sAmount));
+    }
+    for (const Line& oLine : aoLines) {
+      const std::string sText = PadLeftWith(oLine.sAmount, nWidth, " ") + oLine.sBehind;
+      sOut.append(oLine.sLabel).append(kLabelWidth - oLine.sLabel.size(), ' ');
+      sOut.append(oLine.sColour.empty() ? sText : Coloured(sText, oLine.sColour)).append("\n");
     }
   }
 
@@ -72,14 +94,15 @@ class TableReport : public Report {
     return m_bColour ? std::string(sColour) + sText + "\033[0m" : sText;
   }
 
+  const Options& m_oOptions;
   bool m_bColour;
   bool m_bFirst = true;
 };
 
 }  // namespace
 
-std::unique_ptr<Report> MakeTableReport(bool bColour) {
-  return std::make_unique<TableReport>(bColour);
+std::unique_ptr<Report> MakeTableReport(const Options& oOptions, bool bColour) {
+  return std::make_unique<TableReport>(oOptions, bColour);
 }
 
 }  // namespace quillet
