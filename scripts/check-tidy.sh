@@ -5,7 +5,7 @@
 # it takes most of the time.
 set -euo pipefail
 build=$1
-calculating=(src/{base,prices,engine,documents,online}/'*.cpp')
+calculating=(src/{base,prices,engine,answers,documents,online}/'*.cpp')
 
 # tidy CHECKS PATHSPEC...
 tidy() {

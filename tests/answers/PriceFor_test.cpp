@@ -64,7 +64,7 @@ void MakeUp(clsCalculate& oAuction, std::mt19937& oRandom) {
   oAuction.m_oOutlay.m_fOutlay = fnAmount();
   oAuction.m_oOutlay.m_fStartingPrice = fnAmount();
   oAuction.m_oOutlay.m_fReservePrice = fnUpTo(2) == 0 ? fnAmount() : Single(0);
-  oAuction.m_oOutlay.m_lQuantity = fnUpTo(49) == 0 ? 0 : 1 + fnUpTo(1) * fnUpTo(6);
+  oAuction.m_oOutlay.m_lQuantity = 1 + fnUpTo(1) * fnUpTo(6);
   for (int i = 0; i < 2; ++i) {
     oAuction.m_oSellingFeatures.AddFeature(1 << (1 + fnUpTo(19)));
   }
