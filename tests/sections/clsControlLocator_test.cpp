@@ -6,7 +6,6 @@
 
 #include "base/clsRegistryAccess.h"
 #include "sections/VisibleList.h"
-#include "support/ByRegion.h"
 #include "support/MemoryHive.h"
 
 namespace quillet {
@@ -74,28 +73,6 @@ TEST_F(ControlLocator, WhatHasGrownPushesTheRowsBelowItDown) {
   m_oLocator.UpdateHeight("ctlB", 0);
   EXPECT_EQ(Packed("A,B,C"), "optA@360 ctlB@640 optC@665 |");
   EXPECT_EQ(Packed("A,C"), "optA@360 optC@640 | ctlB");
-}
-
-TEST_F(ControlLocator, WhatTheRegionLacksIsGoneWhateverIsWanted) {
-  m_oLocator.SetSection("Test");
-  Add("chkBorder 360 255 lblWeight 640 255 chkBold 920 255");
-  EXPECT_EQ(Packed("Border,Weight,Bold"),
-            ByRegion<std::string>("lblWeight@360 chkBold@640 | chkBorder",
-                                  "chkBorder@360 chkBold@640 | lblWeight"));
-  m_oLocator.BuildList(false);
-  EXPECT_EQ(m_oLocator.IncludedCount(), 2);
-}
-
-TEST_F(ControlLocator, WhatIsCompleteTakesNothingMoreAndStartsOverNoMore) {
-  for (const auto& [bComplete, sPacked] : {std::pair(false, "optB@100 |"), {true, "optA@360 |"}}) {
-    m_oLocator = clsControlLocator();
-    Add("optA 360 255");
-    m_oLocator.SetAddingComplete(bComplete);
-    m_oLocator.Reset();
-    m_oLocator.SetSection("Test");
-    Add("optB 100 255");
-    EXPECT_EQ(Packed("A,B"), sPacked);
-  }
 }
 
 }  // namespace
