@@ -1,29 +1,50 @@
 #include "sections/VisibleList.h"
 
+#include <map>
+
 #include "base/clsRegistryAccess.h"
 #include "base/failure.h"
 
 namespace quillet {
+namespace {
+
+/// Lists that couldn't be stored, by section: where none is stored, they hold for as long as the
+/// program runs.
+std::map<std::string, std::string>& UnstoredLists() {
+  static std::map<std::string, std::string> s_asLists;
+  return s_asLists;
+}
+
+}  // namespace
 
 clsTokeniser LoadVisibleList(const std::string& sSectionKey) {
+  std::string sText;
+  bool bFound = Registry().GetRegSettingString(HiveRoot::User, sText, settings::kVisible,
+                                               settings::kControls + sSectionKey, "");
+  if (const auto oUnstored = UnstoredLists().find(sSectionKey);
+      !bFound && oUnstored != UnstoredLists().end()) {
+    sText = oUnstored->second;
+    bFound = true;
+  }
   clsTokeniser oList;
-  std::string sStored;
-  if (Registry().GetRegSettingString(HiveRoot::User, sStored, settings::kVisible,
-                                     settings::kControls + sSectionKey, "")) {
-    IgnoreFailure([&] { oList.Tokenise(sStored, ","); });
+  if (bFound) {
+    IgnoreFailure([&] { oList.Tokenise(sText, ","); });
   }
   return oList;
 }
 
 bool SaveVisibleList(const std::string& sSectionKey, const clsTokeniser& oList) {
-  return Registry().SetRegSettingString(HiveRoot::User, oList.GetFlattenedSegments(0),
-                                        settings::kVisible, settings::kControls + sSectionKey);
+  const std::string sText = oList.GetFlattenedSegments(0);
+  const bool bStored = Registry().SetRegSettingString(HiveRoot::User, sText, settings::kVisible,
+                                                      settings::kControls + sSectionKey);
+  UnstoredLists().erase(sSectionKey);
+  if (!bStored) {
+    UnstoredLists()[sSectionKey] = sText;
+  }
+  return bStored;
 }
 
 bool NameInVisibleList(std::string_view sName, const clsTokeniser& oList) {
-  if (oList.IsEmpty()) {
-    return true;
-  }
   for (std::int32_t i = 0; i < oList.Count(); ++i) {
     if (sName.find(oList.Element(i)) != std::string_view::npos) {
       return true;

@@ -13,11 +13,11 @@ namespace quillet {
 /// that was stored without a word.
 [[nodiscard]] clsTokeniser LoadVisibleList(const std::string& sSectionKey);
 
-/// False if the settings can't be written.
+/// False if the settings can't be written. Where none is stored, the list then holds for as long as
+/// the program runs.
 bool SaveVisibleList(const std::string& sSectionKey, const clsTokeniser& oList);
 
-/// True if any word of the list occurs in `sName`, in the same case. A list that was never stored
-/// names every row, so that settings that can't be written hide none.
+/// True if any word of the list occurs in `sName`, in the same case.
 [[nodiscard]] bool NameInVisibleList(std::string_view sName, const clsTokeniser& oList);
 
 }  // namespace quillet

@@ -77,7 +77,7 @@ bool ControlInVisibleList(const Control& oControl, const clsTokeniser& oList) {
 }
 
 void ApplyShowCheck(CheckBox& oBox, const clsTokeniser& oList) {
-  oBox.SetValue(oList.IsEmpty() || oList.Exists(oBox.Tag(), false) ? 1 : 0);
+  oBox.SetValue(oList.Exists(oBox.Tag(), false) ? 1 : 0);
 }
 
 void ApplyControlVisibility(Control& oControl, const clsTokeniser& oList, bool bShowConfig) {

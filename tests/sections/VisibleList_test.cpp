@@ -26,6 +26,7 @@ TEST_F(VisibleListTest, AListThatWasNeverStoredDiffersFromOneStoredWithoutAWord)
 
 TEST_F(VisibleListTest, WordsComeBackAndNamesThatHoldOneAreListed) {
   clsTokeniser oList;
+  EXPECT_FALSE(NameInVisibleList("txtOutlay", oList));
   oList.AddToArray("Start");
   oList.AddToArray("Outlay");
   SaveVisibleList("Outlay", oList);
