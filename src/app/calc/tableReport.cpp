@@ -61,6 +61,7 @@ class TableReport : public Report {
  private:
   [[nodiscard]] std::vector<Line> LinesOf(const Figures& oFigures) const {
     std::vector<Line> aoLines;
+    aoLines.reserve(kRows.size() + 2);
     for (const Row& oRow : kRows) {
       aoLines.push_back({oRow.sLabel, FormatMoney(oFigures.*oRow.fAmount)});
     }
