@@ -16,7 +16,7 @@
 
 #include "base/clsRegistryAccess.h"
 #include "engine/clsCalculate.h"
-#include "platform/qt/Theme.h"
+#include "look/Theme.h"
 #include "prices/clsPrices.h"
 #include "sections/ctlNumericText.h"
 #include "shell/frmMain.h"

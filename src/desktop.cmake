@@ -1,33 +1,37 @@
-# Floors 1, 5 and 6 where they need the toolkit.
+# What needs the toolkit.
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets)
 
 add_library(quillet_desktop STATIC
+  controls/ComboBox.cpp
+  controls/Control.cpp
+  controls/Controls.cpp
+  controls/ImageButton.cpp
+  controls/OptionInterface.cpp
+  controls/ScrollBar.cpp
+  controls/SpinButton.cpp
+  look/ShockwaveFlash.cpp
+  look/Theme.cpp
+  look/ThemeStyle.cpp
+  look/card.cpp
+  look/font.cpp
+  look/icons.cpp
+  look/movies/AboutMovie.cpp
+  look/movies/ButtonMovie.cpp
+  look/movies/MovieButton.cpp
+  look/movies/ScrollingText.cpp
+  look/movies/SplashMovie.cpp
+  look/movies/aboutParameters.cpp
+  look/movies/drawing.cpp
+  look/movies/movies.cpp
+  look/palette.cpp
+  look/scale.cpp
   platform/Sound.cpp
   platform/qt/QtHost.cpp
   platform/qt/QtSettingsHive.cpp
-  platform/qt/ShockwaveFlash.cpp
-  platform/qt/Theme.cpp
-  platform/qt/ThemeStyle.cpp
-  platform/qt/movies/AboutMovie.cpp
-  platform/qt/movies/ButtonMovie.cpp
-  platform/qt/movies/MovieButton.cpp
-  platform/qt/movies/ScrollingText.cpp
-  platform/qt/movies/SplashMovie.cpp
-  platform/qt/movies/aboutParameters.cpp
-  platform/qt/movies/drawing.cpp
-  platform/qt/movies/icons.cpp
-  platform/qt/movies/movies.cpp
   sections/AuctionOptionsPanel.cpp
-  sections/ComboBox.cpp
-  sections/Control.cpp
-  sections/Controls.cpp
   sections/GrandTotal.cpp
-  sections/ImageButton.cpp
-  sections/OptionInterface.cpp
-  sections/ScrollBar.cpp
   sections/PanelDesign.cpp
   sections/SectionPanel.cpp
-  sections/SpinButton.cpp
   sections/controlHelpers.cpp
   sections/ctlAuctionType.cpp
   sections/ctlMotorOptions.cpp
@@ -44,13 +48,12 @@ add_library(quillet_desktop STATIC
   sections/ctlSellingFeatures.cpp
   sections/ctlShopDurations.cpp
   sections/ctlSubControlExample.cpp
+  shell/DesktopApplication.cpp
   shell/KeptAuction.cpp
   shell/MissingPriceLine.cpp
+  shell/ScrollFrame.cpp
   shell/SectionSet.cpp
   shell/WizardSteps.cpp
-  shell/DesktopApplication.cpp
-  shell/ScrollFrame.cpp
-  shell/card.cpp
   shell/ctlCalculator.cpp
   shell/ctlWizard.cpp
   shell/formPosition.cpp

@@ -3,7 +3,9 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "platform/qt/Theme.h"
+#include "look/font.h"
+#include "look/palette.h"
+#include "look/scale.h"
 
 namespace quillet {
 namespace {

@@ -1,7 +1,8 @@
 // The figures of the summary.
 #pragma once
 
-#include "sections/Controls.h"
+#include "controls/Controls.h"
+#include "look/font.h"
 
 namespace quillet {
 

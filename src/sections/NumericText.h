@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "base/Single.h"
+#include "controls/SpinRange.h"
 
 namespace quillet {
 
@@ -52,13 +53,6 @@ struct NumericText {
   /// Adds `nDelta`, or so many of the last decimal place. A text that is no number stays. Five
   /// decimal places or more have no decimal step: that is a Failure.
   void StepValue(std::int32_t nDelta, bool bInDecimals, BoxText& oBox) const;
-};
-
-/// The values of a spin button, which wraps round at its ends.
-struct SpinRange {
-  std::int32_t nMin = 0;
-  std::int32_t nMax = 100;
-  std::int32_t nIncrement = 1;
 };
 
 /// Which way, and how far, a spin button went from one value to another.

@@ -1,7 +1,7 @@
 #include "sections/PanelDesign.h"
 
+#include "controls/Controls.h"
 #include "platform/Host.h"
-#include "sections/Controls.h"
 #include "sections/SectionPanel.h"
 #include "sections/ctlNumericText.h"
 

@@ -5,7 +5,9 @@
 #include <algorithm>
 
 #include "base/failure.h"
-#include "platform/qt/Theme.h"
+#include "look/font.h"
+#include "look/palette.h"
+#include "look/scale.h"
 #include "sections/VisibleList.h"
 #include "sections/controlHelpers.h"
 

@@ -15,8 +15,8 @@
 #include <string_view>
 #include <vector>
 
-#include "sections/Control.h"
-#include "sections/Controls.h"
+#include "controls/Control.h"
+#include "controls/Controls.h"
 #include "sections/PanelDesign.h"
 #include "sections/clsControlLocator.h"
 #include "sections/ctlNumericText.h"

@@ -8,7 +8,7 @@
 #include "base/conversions.h"
 #include "base/regionControls.h"
 #include "base/text.h"
-#include "platform/qt/Theme.h"
+#include "look/palette.h"
 #include "prices/money.h"
 #include "sections/VisibleList.h"
 

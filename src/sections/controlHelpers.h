@@ -4,9 +4,9 @@
 #include <cstdint>
 
 #include "base/Single.h"
+#include "controls/Control.h"
+#include "controls/Controls.h"
 #include "prices/clsTokeniser.h"
-#include "sections/Control.h"
-#include "sections/Controls.h"
 
 namespace quillet {
 

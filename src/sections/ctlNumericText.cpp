@@ -9,8 +9,9 @@
 
 #include "base/conversions.h"
 #include "base/text.h"
-#include "platform/qt/Theme.h"
-#include "sections/SpinButton.h"
+#include "controls/SpinButton.h"
+#include "look/palette.h"
+#include "look/scale.h"
 
 namespace quillet {
 namespace {

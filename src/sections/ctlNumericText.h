@@ -11,7 +11,8 @@
 #include <string>
 
 #include "base/Single.h"
-#include "sections/Control.h"
+#include "controls/Control.h"
+#include "look/palette.h"
 #include "sections/NumericText.h"
 
 namespace quillet {

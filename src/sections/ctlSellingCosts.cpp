@@ -7,7 +7,6 @@
 #include <string_view>
 
 #include "engine/profitPercent.h"
-#include "platform/qt/Theme.h"
 #include "prices/money.h"
 #include "sections/GrandTotal.h"
 #include "sections/controlHelpers.h"

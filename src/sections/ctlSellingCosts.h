@@ -4,8 +4,8 @@
 #include <QWidget>
 #include <vector>
 
+#include "controls/Controls.h"
 #include "engine/clsCalculate.h"
-#include "sections/Controls.h"
 
 namespace quillet {
 

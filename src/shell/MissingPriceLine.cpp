@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include "base/basCommon.h"
+#include "look/palette.h"
 #include "prices/clsPrices.h"
 
 namespace quillet {

@@ -1,7 +1,7 @@
 // Tells what keeps the fee schedule from pricing some sale.
 #pragma once
 
-#include "sections/Controls.h"
+#include "controls/Controls.h"
 
 namespace quillet {
 

@@ -4,7 +4,7 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 
-#include "platform/qt/Theme.h"
+#include "look/scale.h"
 
 namespace quillet {
 

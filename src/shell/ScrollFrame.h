@@ -3,7 +3,7 @@
 
 #include <QScrollArea>
 
-#include "sections/Control.h"
+#include "controls/Control.h"
 
 namespace quillet {
 

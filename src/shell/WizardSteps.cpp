@@ -4,7 +4,9 @@
 #include <QPainterPath>
 #include <algorithm>
 
-#include "platform/qt/Theme.h"
+#include "look/font.h"
+#include "look/palette.h"
+#include "look/scale.h"
 
 namespace quillet {
 namespace {

@@ -4,7 +4,7 @@
 #include <QStringList>
 #include <QWidget>
 
-#include "sections/Control.h"
+#include "controls/Control.h"
 
 namespace quillet {
 

@@ -10,9 +10,10 @@
 #include "base/clsRegistryAccess.h"
 #include "base/conversions.h"
 #include "base/failure.h"
-#include "platform/qt/Theme.h"
+#include "look/card.h"
+#include "look/palette.h"
+#include "look/scale.h"
 #include "shell/MissingPriceLine.h"
-#include "shell/card.h"
 #include "shell/tabOrder.h"
 
 namespace quillet {

@@ -7,7 +7,7 @@
 #include <map>
 #include <string>
 
-#include "sections/Control.h"
+#include "controls/Control.h"
 #include "shell/SectionSet.h"
 
 namespace quillet {

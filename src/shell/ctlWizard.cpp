@@ -13,13 +13,14 @@
 #include "base/clsRegistryAccess.h"
 #include "base/conversions.h"
 #include "base/failure.h"
-#include "platform/qt/Theme.h"
-#include "sections/ImageButton.h"
-#include "sections/ScrollBar.h"
+#include "controls/ImageButton.h"
+#include "controls/ScrollBar.h"
+#include "look/card.h"
+#include "look/palette.h"
+#include "look/scale.h"
 #include "sections/controlHelpers.h"
 #include "shell/MissingPriceLine.h"
 #include "shell/WizardSteps.h"
-#include "shell/card.h"
 #include "shell/tabOrder.h"
 
 namespace quillet {

@@ -8,7 +8,7 @@
 #include <optional>
 #include <string>
 
-#include "sections/Controls.h"
+#include "controls/Controls.h"
 #include "shell/SectionSet.h"
 
 namespace quillet {

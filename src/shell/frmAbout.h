@@ -4,7 +4,7 @@
 #include <QDialog>
 #include <cstdint>
 
-#include "sections/Control.h"
+#include "controls/Control.h"
 
 namespace quillet {
 

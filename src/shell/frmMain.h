@@ -6,8 +6,8 @@
 #include <memory>
 #include <string>
 
+#include "controls/Controls.h"
 #include "documents/lifecycle.h"
-#include "sections/Controls.h"
 #include "shell/ctlCalculator.h"
 #include "shell/ctlWizard.h"
 

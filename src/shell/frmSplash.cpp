@@ -5,10 +5,10 @@
 
 #include "base/basError.h"
 #include "base/region.h"
+#include "look/ShockwaveFlash.h"
+#include "look/scale.h"
 #include "platform/Files.h"
 #include "platform/Host.h"
-#include "platform/qt/ShockwaveFlash.h"
-#include "platform/qt/Theme.h"
 #include "shell/zoomSteps.h"
 
 namespace quillet {

@@ -8,8 +8,10 @@
 
 #include <gtest/gtest.h>
 
+#include "controls/SpinButton.h"
+#include "look/palette.h"
+#include "look/scale.h"
 #include "prices/money.h"
-#include "sections/SpinButton.h"
 
 namespace quillet {
 namespace {

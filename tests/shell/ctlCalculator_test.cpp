@@ -12,6 +12,8 @@
 #include "base/basMain.h"
 #include "base/clsRegistryAccess.h"
 #include "base/region.h"
+#include "look/palette.h"
+#include "look/scale.h"
 #include "shell/ctlWizard.h"
 #include "shell/tabOrder.h"
 #include "support/Auctions.h"

@@ -8,8 +8,9 @@
 #include <gtest/gtest.h>
 
 #include "base/clsRegistryAccess.h"
-#include "sections/ImageButton.h"
-#include "sections/ScrollBar.h"
+#include "controls/ImageButton.h"
+#include "controls/ScrollBar.h"
+#include "look/scale.h"
 #include "shell/WizardSteps.h"
 #include "support/Auctions.h"
 #include "support/ByRegion.h"

@@ -8,7 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "base/clsRegistryAccess.h"
-#include "platform/qt/Theme.h"
+#include "look/scale.h"
 
 namespace quillet {
 namespace {

@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "base/clsRegistryAccess.h"
-#include "platform/qt/ShockwaveFlash.h"
+#include "look/ShockwaveFlash.h"
 
 namespace quillet {
 namespace {

@@ -10,7 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/qt/Theme.h"
+#include "look/palette.h"
+#include "look/scale.h"
 #include "sections/SectionPanel.h"
 #include "sections/controlHelpers.h"
 

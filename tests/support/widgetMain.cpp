@@ -6,7 +6,8 @@
 #include <gtest/gtest.h>
 
 #include "base/clsRegistryAccess.h"
-#include "platform/qt/Theme.h"
+#include "look/Theme.h"
+#include "look/scale.h"
 #include "support/MemoryHive.h"
 #include "support/Prices.h"
 #include "support/TestHost.h"

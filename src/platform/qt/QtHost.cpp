@@ -17,13 +17,20 @@
 #include <QUrl>
 
 #include "platform/UserData.h"
-#include "platform/qt/Theme.h"
 
 namespace quillet {
 namespace {
 
-constexpr QSize kTwipsOfFileDialog(10800, 7200);
-constexpr QSize kTwipsOfLongText(7200, 4200);
+constexpr int kLettersOfFileDialog = 110;
+constexpr int kLinesOfFileDialog = 36;
+constexpr int kLettersOfLongText = 74;
+constexpr int kLinesOfLongText = 21;
+
+/// The size of so many lines of so many letters, as the program's text is at the moment.
+QSize SizeInText(int nLetters, int nLines) {
+  const QFontMetrics oText(QApplication::font());
+  return {oText.averageCharWidth() * nLetters, oText.lineSpacing() * nLines};
+}
 
 QMessageBox::Icon IconOf(int nButtons) {
   switch (nButtons) {
@@ -76,7 +83,6 @@ bool MayReplace(const QString& sPath) {
       QMessageBox::Warning, {},
       QString("%1 already exists.\nDo you want to replace it?").arg(QFileInfo(sPath).fileName()),
       QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow());
-  oBox.setFont(ThemeFont(kTextPoints));
   oBox.setTextFormat(Qt::PlainText);
   oBox.setDefaultButton(QMessageBox::No);
   return oBox.exec() == QMessageBox::Yes;
@@ -119,7 +125,7 @@ bool NeedsScrolling(const QString& sText, const QSize& oScreen) {
   constexpr int kMostLetters = 2000;
   constexpr int kMostLines = 20;
   const QRect oNeeded =
-      QFontMetrics(ThemeFont(kTextPoints))
+      QFontMetrics(QApplication::font())
           .boundingRect(QRect({}, oScreen / 2), Qt::AlignLeft | Qt::TextWordWrap, sText);
   return sText.size() > kMostLetters || sText.count('\n') >= kMostLines ||
          oNeeded.width() > oScreen.width() / 2 || oNeeded.height() > oScreen.height() / 2;
@@ -131,8 +137,7 @@ void LetScroll(QMessageBox& oBox, const QSize& oScreen) {
   pText->setReadOnly(true);
   pText->setTabChangesFocus(true);
   pText->setFont(oBox.font());
-  pText->setFixedSize(QSize(Pixels(kTwipsOfLongText.width()), Pixels(kTwipsOfLongText.height()))
-                          .boundedTo(oScreen / 2));
+  pText->setFixedSize(SizeInText(kLettersOfLongText, kLinesOfLongText).boundedTo(oScreen / 2));
   auto* const pLabel = oBox.findChild<QLabel*>("qt_msgbox_label");
   delete oBox.layout()->replaceWidget(pLabel, pText);
   pLabel->hide();
@@ -149,7 +154,6 @@ QtHost::QtHost()
 Answer QtHost::ShowMessage(const std::string& sPrompt, int nButtons, const std::string& sTitle) {
   QMessageBox oBox(IconOf(nButtons), QString::fromStdString(sTitle),
                    QString::fromStdString(sPrompt), QMessageBox::Ok, QApplication::activeWindow());
-  oBox.setFont(ThemeFont(kTextPoints));
   oBox.setTextFormat(Qt::PlainText);
   if (nButtons == kMessageQuestion) {
     oBox.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
@@ -166,9 +170,8 @@ Answer QtHost::ShowMessage(const std::string& sPrompt, int nButtons, const std::
 std::optional<std::string> QtHost::ChooseFile(const FileDialog& oDialog) {
   const QString sPattern = QString::fromStdString(oDialog.sPattern);
   QFileDialog oWindow(QApplication::activeWindow());
-  oWindow.setFont(ThemeFont(kTextPoints));
   oWindow.setWindowTitle(oDialog.bSave ? "Save As" : "Open");  // native ones don't all have one
-  oWindow.resize(Pixels(kTwipsOfFileDialog.width()), Pixels(kTwipsOfFileDialog.height()));
+  oWindow.resize(SizeInText(kLettersOfFileDialog, kLinesOfFileDialog));
   oWindow.setAcceptMode(oDialog.bSave ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   oWindow.setFileMode(oDialog.bSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   oWindow.setNameFilter(

@@ -1,0 +1,21 @@
+// A box that opens a list to choose from.
+#pragma once
+
+#include <QComboBox>
+
+#include "controls/Control.h"
+
+namespace quillet {
+
+class ComboBox : public QComboBox, public Control {
+ public:
+  explicit ComboBox(QWidget* pParent);
+  [[nodiscard]] const char* TypeName() const override { return "ComboBox"; }
+
+ protected:
+  void paintEvent(QPaintEvent* pEvent) override;
+  /// Goes through the list while it has the focus; else the wheel is the page's.
+  void wheelEvent(QWheelEvent* pEvent) override;
+};
+
+}  // namespace quillet

@@ -1,0 +1,17 @@
+// A vertical scroll bar.
+#pragma once
+
+#include <QScrollBar>
+
+#include "controls/Control.h"
+
+namespace quillet {
+
+/// Raises valueChanged() once a drag of its thumb has ended, and else at each step.
+class ScrollBar : public QScrollBar, public Control {
+ public:
+  explicit ScrollBar(QWidget* pParent);
+  [[nodiscard]] const char* TypeName() const override { return "VScrollBar"; }
+};
+
+}  // namespace quillet

@@ -1,0 +1,106 @@
+#include "look/movies/ButtonMovie.h"
+
+#include <QFocusEvent>
+#include <QPainter>
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "look/font.h"
+#include "look/scale.h"
+
+namespace quillet {
+namespace {
+
+// In the units of the design.
+constexpr double kSize = 72.0;
+constexpr QRectF kTile(0.0, 2.0, 72.0, 68.0);
+constexpr QRectF kIcon(24.0, 12.0, 24.0, 24.0);
+constexpr QRectF kCaption(0.0, 42.0, 72.0, 18.0);
+constexpr double kTileRadius = 8.0;
+constexpr double kFocusWidth = 2.0;
+constexpr double kIconStroke = 1.8;
+
+/// The captions, in the order of the icons.
+constexpr std::array<const char*, 7> kCaptions = {"New",  "Calculator", "Wizard", "Save",
+                                                  "Load", "Configure",  "About"};
+
+void DrawFocus(QPainter& oPainter) {
+  const double fInset = kFocusWidth / 2.0;
+  oPainter.setPen(QPen(InkColour(Ink::Accent), kFocusWidth));
+  oPainter.setBrush(Qt::NoBrush);
+  oPainter.drawRoundedRect(kTile.adjusted(fInset, fInset, -fInset, -fInset), kTileRadius - fInset,
+                           kTileRadius - fInset);
+}
+
+}  // namespace
+
+ButtonMovie::ButtonMovie(Icon eIcon, QWidget& oStage, SendCommand oSend)
+    : QPushButton(kCaptions.at(static_cast<std::size_t>(eIcon)), &oStage), m_eIcon(eIcon) {
+  setAutoDefault(true);  // Enter presses it, as the space bar does
+  setAttribute(Qt::WA_Hover);
+  connect(this, &QPushButton::clicked, this, [oSend = std::move(oSend)] { oSend("click", {}); });
+}
+
+void ButtonMovie::SetCurrent(bool bCurrent) {
+  m_bCurrent = bCurrent;
+  update();
+}
+
+void ButtonMovie::focusInEvent(QFocusEvent* pEvent) {
+  if (pEvent->reason() != Qt::ActiveWindowFocusReason) {
+    m_bShowFocus = pEvent->reason() != Qt::MouseFocusReason;
+  }
+  QPushButton::focusInEvent(pEvent);
+}
+
+void ButtonMovie::keyPressEvent(QKeyEvent* pEvent) {
+  m_bShowFocus = true;
+  update();
+  QPushButton::keyPressEvent(pEvent);
+}
+
+ButtonMovie::Look ButtonMovie::LookNow() const {
+  if (!isEnabled()) {
+    return {Ink::GreyText, Ink::GreyText, std::nullopt};
+  }
+  const Ink eCaption = m_bCurrent || isDown() || underMouse() ? Ink::Text : Ink::ColumnText;
+  const std::optional<Ink> eTile = isDown()       ? std::optional(Ink::Hairline)
+                                   : m_bCurrent   ? std::optional(Ink::Hover)
+                                   : underMouse() ? std::optional(Ink::Panel)
+                                                  : std::nullopt;
+  return {m_bCurrent ? Ink::Accent : eCaption, eCaption, eTile};
+}
+
+void ButtonMovie::paintEvent(QPaintEvent* /*pEvent*/) {
+  const Look oLook = LookNow();
+  const double fScale = std::min(width(), height()) / kSize;
+  QPainter oPainter(this);
+  oPainter.setRenderHint(QPainter::Antialiasing);
+  oPainter.translate((width() - kSize * fScale) / 2.0, (height() - kSize * fScale) / 2.0);
+  oPainter.save();
+  oPainter.scale(fScale, fScale);
+  if (oLook.eTile) {
+    oPainter.setPen(Qt::NoPen);
+    oPainter.setBrush(InkColour(*oLook.eTile));
+    oPainter.drawRoundedRect(kTile, kTileRadius, kTileRadius);
+  }
+  if (hasFocus() && m_bShowFocus) {
+    DrawFocus(oPainter);
+  }
+  DrawIcon(oPainter, m_eIcon, kIcon, InkColour(oLook.eIcon), kIconStroke);
+  oPainter.restore();
+  DrawCaption(oPainter, oLook.eCaption, fScale);
+}
+
+/// Not within the painter's scale, since letters are fitted to the pixels of their own size.
+void ButtonMovie::DrawCaption(QPainter& oPainter, Ink eCaption, double fScale) const {
+  QFont oFont = ThemeFont(kTextPoints, m_bCurrent ? QFont::DemiBold : QFont::Medium);
+  oFont.setPointSizeF(oFont.pointSizeF() * fScale / Zoom());
+  oPainter.setFont(oFont);
+  oPainter.setPen(InkColour(eCaption));
+  oPainter.drawText(QRectF(kCaption.topLeft() * fScale, kCaption.size() * fScale), Qt::AlignCenter,
+                    text());
+}
+
+}  // namespace quillet

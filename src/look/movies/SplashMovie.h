@@ -1,0 +1,46 @@
+// The movie of the start: a quill writes the product's name. Sends "start" when it begins, and
+// "stop" at its end, which any key or click brings forward.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QTimer>
+#include <QWidget>
+
+#include "look/movies/movies.h"
+
+namespace quillet {
+
+/// Drawn in its design's 553 by 305 units, scaled to its size. Begins when it is played, and keeps
+/// its last picture. A key or click ends it; those that come later are its window's.
+class SplashMovie : public QWidget, public Movie {
+ public:
+  /// `sParameters` is "Version=" with the edition: "UK", "US" or "EU".
+  SplashMovie(const QString& sParameters, QWidget& oStage, SendCommand oSend);
+
+  [[nodiscard]] QWidget& Widget() override { return *this; }
+  void Play() override;
+
+ protected:
+  void paintEvent(QPaintEvent* pEvent) override;
+  void keyPressEvent(QKeyEvent* pEvent) override;
+  void mousePressEvent(QMouseEvent* pEvent) override;
+
+ private:
+  void Advance();
+  void End();
+  void Tell(bool& bTold, const char* sCommand);
+  void DrawGround(QPainter& oPainter) const;
+  void DrawName(QPainter& oPainter, double fScale) const;
+  void DrawLine(QPainter& oPainter) const;
+  void DrawWords(QPainter& oPainter, double fScale) const;
+
+  QString m_sEdition;
+  SendCommand m_oSend;
+  QTimer m_oTicks;
+  QElapsedTimer m_oClock;
+  double m_fNow = 0.0;  ///< seconds since the beginning
+  bool m_bStarted = false;
+  bool m_bStopped = false;
+};
+
+}  // namespace quillet

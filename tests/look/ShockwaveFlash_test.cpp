@@ -1,0 +1,121 @@
+#include "look/ShockwaveFlash.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QFontMetricsF>
+#include <QImage>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <set>
+
+#include <gtest/gtest.h>
+
+#include "look/font.h"
+#include "look/palette.h"
+#include "look/scale.h"
+
+namespace quillet {
+namespace {
+
+constexpr std::pair<const char*, const char*> kButtons[] = {
+    {"New", "New"},   {"Calc", "Calculator"},  {"Wizard", "Wizard"}, {"Save", "Save"},
+    {"Load", "Load"}, {"Config", "Configure"}, {"About", "About"}};
+
+QString MovieOf(const char* sName) {
+  return QString("C:\\Quillet?\\Graphics\\Buttons\\%1_button.swf").arg(sName);
+}
+
+class ShockwaveFlashTest : public ::testing::Test {
+ protected:
+  ShockwaveFlashTest() {
+    m_oWindow.setPalette(InkColour(Ink::Column));
+    m_oWindow.resize(Pixels(3000), Pixels(3000));
+    m_oFlash.setGeometry(0, 0, Pixels(1080), Pixels(1080));
+    m_oWindow.show();
+    QApplication::setActiveWindow(&m_oWindow);
+  }
+  QPushButton& Button() { return *m_oFlash.findChild<QPushButton*>(); }
+  QImage Picture() { return m_oFlash.grab().toImage(); }
+
+  QWidget m_oWindow;
+  ShockwaveFlash m_oFlash{&m_oWindow};
+  QSignalSpy m_oCommands{&m_oFlash, &ShockwaveFlash::FSCommand};
+};
+
+TEST_F(ShockwaveFlashTest, EachButtonMovieIsAButtonThatSendsClick) {
+  std::set<QByteArray> asPictures;
+  for (const auto& [sName, sCaption] : kButtons) {
+    m_oFlash.SetMovie(MovieOf(sName));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QAccessibleInterface* const pAccess = QAccessible::queryAccessibleInterface(&Button());
+    EXPECT_EQ(pAccess->role(), QAccessible::Button) << sName;
+    EXPECT_EQ(pAccess->text(QAccessible::Name), sCaption);
+    m_oCommands.clear();
+    QTest::mouseClick(&Button(), Qt::LeftButton, {}, {1, 1});
+    EXPECT_EQ(m_oCommands.size(), 1) << sName;
+    EXPECT_EQ(m_oCommands.value(0), QVariantList({"click", ""})) << sName;
+    const QImage oPicture = Picture();
+    asPictures.insert({reinterpret_cast<const char*>(oPicture.constBits()),
+                       static_cast<qsizetype>(oPicture.sizeInBytes())});
+  }
+  EXPECT_EQ(asPictures.size(), std::size(kButtons)) << "each looks different";
+}
+
+TEST_F(ShockwaveFlashTest, KeysWorkAButtonThatHasTheFocus) {
+  m_oFlash.SetMovie(MovieOf("Save"));
+  m_oFlash.setFocus();
+  ASSERT_TRUE(Button().hasFocus());
+  for (const auto eKey : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
+    m_oCommands.clear();
+    QTest::keyClick(&Button(), eKey);
+    EXPECT_EQ(m_oCommands.size(), 1) << eKey;
+  }
+}
+
+TEST_F(ShockwaveFlashTest, AScreenReaderCanPressAButton) {
+  m_oFlash.SetMovie(MovieOf("Save"));
+  QAccessible::queryAccessibleInterface(&Button())->actionInterface()->doAction(
+      QAccessibleActionInterface::pressAction());
+  EXPECT_TRUE(m_oCommands.wait());
+}
+
+TEST_F(ShockwaveFlashTest, HoverPressFocusAndCurrentViewCanBeSeen) {
+  m_oFlash.SetMovie(MovieOf("Calc"));
+  const QImage oPlain = Picture();
+  const auto Differs = [&](const std::function<void()>& oOn, const std::function<void()>& oOff) {
+    oOn();
+    const bool bDiffers = Picture() != oPlain;
+    oOff();
+    return bDiffers && Picture() == oPlain;
+  };
+  EXPECT_TRUE(Differs([&] { Button().setAttribute(Qt::WA_UnderMouse); },
+                      [&] { Button().setAttribute(Qt::WA_UnderMouse, false); }));
+  EXPECT_TRUE(Differs([&] { Button().setDown(true); }, [&] { Button().setDown(false); }));
+  EXPECT_TRUE(
+      Differs([&] { Button().setFocus(Qt::TabFocusReason); }, [&] { Button().clearFocus(); }));
+  EXPECT_TRUE(Differs([&] { m_oFlash.SetCurrent(true); }, [&] { m_oFlash.SetCurrent(false); }));
+}
+
+TEST_F(ShockwaveFlashTest, NoCaptionIsClippedAtAnyZoom) {
+  for (int nPercent = 75; nPercent <= 300; nPercent += 25) {
+    SetZoom(nPercent / 100.0);
+    const QFontMetricsF oMetrics(ThemeFont(kTextPoints, QFont::DemiBold));
+    for (const auto& [sName, sCaption] : kButtons) {
+      EXPECT_LE(oMetrics.horizontalAdvance(sCaption), Pixels(1080)) << sCaption << nPercent;
+    }
+  }
+}
+
+TEST_F(ShockwaveFlashTest, AnUnknownMovieShowsAndSendsNothing) {
+  m_oFlash.SetMovie(MovieOf("Save"));
+  m_oFlash.SetMovie("C:\\Quillet\\Graphics\\Nothing.swf");
+  m_oFlash.SetCurrent(true);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_TRUE(m_oFlash.findChildren<QWidget*>().empty());
+  QTest::mouseClick(&m_oFlash, Qt::LeftButton);
+  EXPECT_EQ(m_oCommands.size(), 0);
+}
+
+}  // namespace
+}  // namespace quillet
