@@ -26,6 +26,11 @@ struct Goal {
   /// The profit that the goal asks for at another price, if the selling cost stays what it is.
   [[nodiscard]] double ProfitNeeded(const clsCalculate& oAuction, Single fPrice) const;
 
+  /// How much more profit it takes if costs rise by 1, which also take 1 from the profit.
+  [[nodiscard]] double WeightOfCosts() const {
+    return eKind == GoalKind::PercentOfCost ? 1 + fAmount / 100 : 1;
+  }
+
  private:
   [[nodiscard]] double Whole(const clsCalculate& oAuction, Single fPrice) const;
 };

@@ -1,10 +1,12 @@
 #include "answers/PriceFor.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "answers/Breakdown.h"
 #include "answers/Trial.h"
 #include "answers/pieces.h"
+#include "prices/money.h"
 
 namespace quillet {
 namespace {
@@ -21,25 +23,60 @@ class Search {
   /// to try is the first one that would do it if it cost no more than the one just tried: within a
   /// piece, costs never fall as the price rises, so all before it fall short.
   [[nodiscard]] Cents LowestIn(Cents nPrice, Cents nEnd) {
-    while (nPrice < nEnd && m_nTries < kMostTries) {
-      ++m_nTries;
+    constexpr int kFew = 8;
+    constexpr Cents kFarEnough = 10'000;
+    for (int nHere = 1; nPrice < nEnd && ++m_nTries < kMostTries; ++nHere) {
       if (m_oGoal.IsMet(m_oTrial.AtPrice(nPrice))) {
         return nPrice;
       }
-      nPrice = FirstWhere(nPrice + 1, nEnd, [&](Cents n) { return CouldBeMetAt(PriceOf(n)); });
+      nPrice =
+          nHere % kFew == 0
+              ? SkipByChord(nPrice, std::min(nEnd, nPrice + std::max(nPrice, kFarEnough)))
+              : FirstWhere(nPrice + 1, nEnd, [&](Cents n) { return CouldBeMetAt(PriceOf(n)); });
     }
     return nEnd;
   }
 
  private:
   [[nodiscard]] bool CouldBeMetAt(Single fPrice) const {
-    constexpr double kNoise = 0x1p-22;  // more than the roundings of a profit's floats add up to
     const clsCalculate& oTried = m_oTrial.Latest();
-    const double fIncome = IncomeAt(oTried, fPrice);
     const double fCosts = oTried.m_fSellCost + oTried.m_fPostageCost;
-    const double fMostProfit = fIncome - fCosts + kNoise * (std::abs(fIncome) + std::abs(fCosts));
+    const double fMostProfit = IncomeAt(oTried, fPrice) - fCosts + Noise(fPrice);
     return fPrice > oTried.m_oOutlay.m_fEstimatedEndPrice &&
            fMostProfit >= m_oGoal.ProfitNeeded(oTried, fPrice);
+  }
+
+  /// Where those steps are small, since what a higher price brings goes nearly all to the fees or
+  /// to the goal: a piece is straight or bends upwards, but for rounding to the smallest unit, so
+  /// it lies below the line from the price just tried to the one before `nEnd`. The price where
+  /// that line comes near to the goal; `nEnd` if it doesn't.
+  [[nodiscard]] Cents SkipByChord(Cents nPrice, Cents nEnd) {
+    const double fHere = Surplus();
+    m_oTrial.AtPrice(nEnd - 1);
+    const double fThere = Surplus();
+    const double fRounding =
+        (1.0 / CurrencyUnitsPerMajor() + Noise(PriceOf(nEnd - 1))) * m_oGoal.WeightOfCosts();
+    if (fHere + fRounding >= 0) {
+      return nPrice + 1;
+    }
+    if (fThere + fRounding < 0) {
+      return nEnd;
+    }
+    return nPrice + 1 +
+           static_cast<Cents>((nEnd - 2 - nPrice) * (fHere + fRounding) / (fHere - fThere));
+  }
+
+  /// How far the latest trial is above the goal.
+  [[nodiscard]] double Surplus() const {
+    const clsCalculate& oTried = m_oTrial.Latest();
+    return oTried.m_fProfit - m_oGoal.ProfitNeeded(oTried, oTried.m_oOutlay.m_fEstimatedEndPrice);
+  }
+
+  /// More than the roundings of a profit's floats add up to.
+  [[nodiscard]] double Noise(Single fPrice) const {
+    const clsCalculate& oTried = m_oTrial.Latest();
+    return 0x1p-22 * (std::abs(IncomeAt(oTried, fPrice)) + std::abs(oTried.m_fSellCost) +
+                      std::abs(oTried.m_fPostageCost));
   }
 
   Trial m_oTrial;
