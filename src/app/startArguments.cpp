@@ -65,8 +65,7 @@ void AddOptionsOfToolkit(QCommandLineParser& oParser) {
 /// Answers what needs no window, and ends the process then.
 QStringList FilesAmong(const std::vector<Word>& aoWords) {
   QCommandLineParser oParser;
-  oParser.setApplicationDescription(
-      "Tells what selling through auctions on eBay costs and brings.");
+  oParser.setApplicationDescription("Works out what a sale on eBay costs, and what it leaves you.");
   oParser.addHelpOption();
   oParser.addVersionOption();
   oParser.addPositionalArgument("auction", "An auction file (.qlt) to open.", "[auction]");
@@ -94,7 +93,7 @@ std::string AuctionFileToOpen(int& nArguments, char** asArguments) {
     return {};
   }
   if (asFiles.size() > 1) {
-    std::fputs("One auction can be opened at a time.\n", stderr);
+    std::fputs("Only one auction can be opened at a time.\n", stderr);
     std::exit(EXIT_FAILURE);  // NOLINT(concurrency-mt-unsafe): one thread
   }
   const auto oFile = std::find_if(aoWords.begin(), aoWords.end(),

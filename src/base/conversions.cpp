@@ -248,7 +248,7 @@ std::int32_t RoundToLong(double fValue) {
   const double fWhole = std::nearbyint(fValue);
   if (!(fWhole >= std::numeric_limits<std::int32_t>::min() &&
         fWhole <= std::numeric_limits<std::int32_t>::max())) {
-    throw Failure(FailureNumber::Overflow, "A number is too large to be a whole number here.");
+    throw Failure(FailureNumber::Overflow, "A number is too large.");
   }
   return static_cast<std::int32_t>(fWhole);
 }

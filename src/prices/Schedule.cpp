@@ -38,9 +38,8 @@ void Schedule::AddEntry(const std::string& sKey, const std::string& sValue) {
     m_aoEntries.push_back({sKey, sValue, m_nLines});
     return;
   }
-  Report(m_nLines, Quoted(sKey) + " stands in line " +
-                       std::to_string(m_aoEntries[oPlace->second].nLine) +
-                       " already; loading stops here");
+  Report(m_nLines, Quoted(sKey) + " is already on line " +
+                       std::to_string(m_aoEntries[oPlace->second].nLine) + "; loading stops here");
 }
 
 void Schedule::ReportInert(std::string_view sLine, std::int32_t nFields,
@@ -52,14 +51,15 @@ void Schedule::ReportInert(std::string_view sLine, std::int32_t nFields,
   const std::string_view sFirst = sLine.substr(0, sLine.find_first_of(", \t=:;|"));
   if (sLine.find(',') == std::string_view::npos) {
     if (oCatalogue.Holds(sFirst)) {
-      Report(m_nLines, "the line is skipped: no comma parts " + Quoted(sFirst) + " from a value");
+      Report(m_nLines,
+             "the line is ignored: there is no comma between " + Quoted(sFirst) + " and a value");
     }
   } else if (nFields >= 3) {
-    Report(m_nLines, "the line is skipped: " + std::to_string(nFields) +
-                         " fields between its commas, not a key and a value");
+    Report(m_nLines, "the line is ignored: it has " + std::to_string(nFields) +
+                         " fields, not a key and a value");
   } else {
-    Report(m_nLines, nFields == 1 ? "the line is skipped: a comma, but only one of key and value"
-                                  : "the line is skipped: nothing but commas");
+    Report(m_nLines, nFields == 1 ? "the line is ignored: it has a key or a value, but not both"
+                                  : "the line is ignored: it holds nothing but commas");
   }
 }
 

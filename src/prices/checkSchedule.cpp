@@ -55,9 +55,8 @@ void ReportUnasked(Schedule& oSchedule, const Catalogue& oCatalogue) {
   for (const ScheduleEntry& oEntry : oSchedule.Entries()) {
     if (!oEntry.bAsked) {
       const bool bBlanks = oCatalogue.Holds(Trim(oEntry.sKey));
-      oSchedule.Report(oEntry.nLine, "nothing in " + EditionName() + " asks for " +
-                                         Quoted(oEntry.sKey) +
-                                         (bBlanks ? "; the blanks count" : ""));
+      oSchedule.Report(oEntry.nLine, EditionName() + " never asks for " + Quoted(oEntry.sKey) +
+                                         (bBlanks ? "; its blanks are part of the key" : ""));
     }
   }
 }

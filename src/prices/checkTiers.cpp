@@ -144,7 +144,7 @@ class TierCheck {
   void CheckTier(const Tier& oTier) {
     if (!oTier.IsEndless() && oTier.fEnd < oTier.fStart) {
       Report(oTier.pEnd->nLine, oTier.Name() + " ends at " + oTier.pEnd->sValue +
-                                    " before its start at " + oTier.pStart->sValue);
+                                    ", before it starts at " + oTier.pStart->sValue);
     } else if (!m_aoTiers.empty() && m_aoTiers.back().nNumber == oTier.nNumber - 1) {
       CheckSeam(m_aoTiers.back(), oTier);
     }
@@ -156,7 +156,7 @@ class TierCheck {
     const std::string sBetween = oBefore.Name() + " to " + oBefore.pEnd->sValue + " and " +
                                  oTier.Name() + " from " + oTier.pStart->sValue;
     if (oBefore.IsEndless()) {
-      Report(nLine, oTier.Name() + " overlaps with " + oBefore.Name() + " without an upper limit");
+      Report(nLine, oTier.Name() + " overlaps " + oBefore.Name() + ", which has no upper limit");
     } else if (oTier.fStart < oBefore.fEnd) {
       Report(nLine, "overlap between " + sBetween);
     } else if (m_oTable.eKind == KeyKind::LotTiers) {
@@ -195,8 +195,8 @@ class TierCheck {
       }
       oEntry.bAsked = true;
       if (nCount != kUnknown) {
-        m_oSchedule.Report(oEntry.nLine, Quoted(oEntry.sKey) + " stands beyond the count of " +
-                                             std::to_string(nCount) + " in line " +
+        m_oSchedule.Report(oEntry.nLine, Quoted(oEntry.sKey) + " is beyond the " +
+                                             std::to_string(nCount) + " tiers counted on line " +
                                              std::to_string(pCount->nLine));
       }
     }
@@ -209,7 +209,8 @@ class TierCheck {
           m_oSchedule.Ask(std::string("BusinessRateBand") + sBand + "Value");
       const auto fValue = pValue != nullptr ? ToFileDouble(pValue->sValue) : std::nullopt;
       if (fValue && !IsInATier(*fValue)) {
-        Report(pValue->nLine, "no tier holds " + Quoted(pValue->sKey) + " of " + pValue->sValue);
+        Report(pValue->nLine,
+               "no tier covers the " + pValue->sValue + " of " + Quoted(pValue->sKey));
       }
     }
   }

@@ -167,7 +167,7 @@ void clsPrices::AddEntries(std::string_view sText) {
     if (oFields.Tokenise(sLine, ",") == 2 &&
         !m_oTable.Add(oFields.Element(0), oFields.Element(1))) {
       throw Failure(FailureNumber::TypeMismatch,
-                    "The key \"" + oFields.Element(0) + "\" stands in it twice.");
+                    "It has the key \"" + oFields.Element(0) + "\" twice.");
     }
   }
 }

@@ -124,7 +124,7 @@ void frmAbout::DescribeControls() {
       {m_pLabel2, "Reset Expert Positions", ""},
       {m_pImgResetPositions, "&Reset", "Put the sections of the calculator back in their places"},
       {m_pLblHint,
-       "The start mode counts from the next start, the grid size from the next drag. Reset takes "
+       "The start mode applies from the next start, the grid size from the next drag. Reset takes "
        "effect at once.",
        ""},
       {m_pImgApply, "&Apply", "Store these settings"},

@@ -131,7 +131,7 @@ class Streams(Temporary):
         self.assertEqual(status, 1)
         self.assertEqual([row["error"] for row in rows],
                          ["The line is too long for an auction.",
-                          "There is no auction in it; it is empty.", ""])
+                          "It is empty.", ""])
         self.assertEqual((rows[2]["file"], rows[2]["profit"]), ("3", "96.7375"))
         grown = self.peak(self.file("long", long_line)) - self.peak(self.file("short", CAMERA))
         self.assertLess(grown, 16 << 10)
@@ -177,14 +177,14 @@ class BadInput(Temporary):
                 (1, f"{self.folder}: It can't be read: Is a directory", self.folder),
                 (1, "gone: It can't be read: No such file or directory", "gone"),
                 (1, "/dev/zero: It can't be read: File too large", "/dev/zero"),
-                (1, f"{empty}: There is no auction in it; it is empty.", empty),
+                (1, f"{empty}: It is empty.", empty),
                 (1, f"{self.folder}/red\\x1b[31m: Failure loading section [OUTLAY]", shown),
                 (1, f"{words}: Failure loading section [OUTLAY]", words),
                 (2, f"{self.folder}: Is a directory", "--prices", self.folder, good),
                 (2, "gone.dat: No such file or directory", "--prices", "gone.dat", good),
-                (2, f"{utf16}: There is no price of Quillet US in it.", "--prices", utf16, good),
-                (2, f"{utf16}: There is no price of Quillet US in it.", "--check", utf16),
-                (2, f'{twice}: The key "FINAL" stands in it twice.', "--prices", twice, good),
+                (2, f"{utf16}: It has no prices for Quillet US.", "--prices", utf16, good),
+                (2, f"{utf16}: It has no prices for Quillet US.", "--check", utf16),
+                (2, f'{twice}: It has the key "FINAL" twice.', "--prices", twice, good),
                 (2, "--format: xml not in", "--format", "xml", good),
                 *((2, f'15%price), not "{bad}"', "--goal", bad, good)
                   for bad in ("", "20x", "-5%", "100%price", "$5", "nan")),
@@ -214,19 +214,19 @@ SCHEDULES = {US: "UpdateUS_v0101.dat", UK: "UpdateUK_v0101.dat"}
 # lines in its place) pairs, findings. "@Key" stands for the line of that key, "$" for the last line.
 FINDINGS = (
     (US, [("FeatureBold,1.00", "FeatureBold,1.00\nFEATUREBOLD,2")],
-     ['@FEATUREBOLD: "FEATUREBOLD" stands in line @FeatureBold already; loading stops here']),
+     ['@FEATUREBOLD: "FEATUREBOLD" is already on line @FeatureBold; loading stops here']),
     (US, [("FeatureBold,1.00", "FeatureBold,1.00,extra")],
-     ["@FeatureBold: the line is skipped: 3 fields between its commas, not a key and a value",
+     ["@FeatureBold: the line is ignored: it has 3 fields, not a key and a value",
       '$: "FeatureBold" is missing']),
     (US, [("LocalTax,0", "LocalTax,0\n,,\n# a heading, with, commas\nLocalTax is 0")],
-     ["#2: the line is skipped: nothing but commas",
-      '#4: the line is skipped: no comma parts "LocalTax" from a value']),
+     ["#2: the line is ignored: it holds nothing but commas",
+      '#4: the line is ignored: there is no comma between "LocalTax" and a value']),
     (US, [("LocalTax,0", "LocalTax,0\n" + "x" * 32767)],
      ["#2: the line is longer than 32766 characters; loading stops here"]),
     (US, [("LocalTax,0", "LocalTax,0\n# as of 2007, by hand")],
-     ['#2: nothing in Quillet US asks for "# as of 2007"']),
+     ['#2: Quillet US never asks for "# as of 2007"']),
     (US, [("LocalTax,0", "LocalTax ,0")],
-     ['@LocalTax: nothing in Quillet US asks for "LocalTax "; the blanks count',
+     ['@LocalTax: Quillet US never asks for "LocalTax "; its blanks are part of the key',
       '$: "LocalTax" is missing']),
     (US, [("ReserveMax,100.00", "ReserveMax,$100")],
      ['@ReserveMax: "ReserveMax" isn\'t a number: "$100"']),
@@ -236,7 +236,7 @@ FINDINGS = (
     (US, [("OpeningRanges,7", "OpeningRanges,32767")],
      ['@OpeningRanges: "Opening": tiers 8 to 32767 are missing']),
     (US, [("OpeningRanges,7", "OpeningRanges,6")],
-     [f'@OpeningRange{part}7: "OpeningRange{part}7" stands beyond the count of 6 in line '
+     [f'@OpeningRange{part}7: "OpeningRange{part}7" is beyond the 6 tiers counted on line '
       "@OpeningRanges" for part in ("Start", "End", "Value")]),
     (US, [("OpeningRangeValue3,0.60", "")],
      ['@OpeningRanges: "OpeningRangeValue3" is missing']),
@@ -251,10 +251,10 @@ FINDINGS = (
      ['@ReserveRangeStart2: "Reserve": gap between tier 1 to 49.99 and tier 2 from 50.01']),
     (US, [("OpeningRangeStart3,10.00", "OpeningRangeStart3,9.995")], []),  # the lower tier wins
     (US, [("ReserveRangeEnd2,199.99", "ReserveRangeEnd2,9")],
-     ['@ReserveRangeEnd2: "Reserve": tier 2 ends at 9 before its start at 50.00',
+     ['@ReserveRangeEnd2: "Reserve": tier 2 ends at 9, before it starts at 50.00',
       '@ReserveRangeStart3: "Reserve": gap between tier 2 to 9 and tier 3 from 200.00']),
     (US, [("OpeningRangeEnd3,24.995", "OpeningRangeEnd3,-1")],
-     ['@OpeningRangeStart4: "Opening": tier 4 overlaps with tier 3 without an upper limit']),
+     ['@OpeningRangeStart4: "Opening": tier 4 overlaps tier 3, which has no upper limit']),
     (US, [("FinalRangeEnd1,25", "FinalRangeEnd1,25.01")],
      ['@FinalRangeStart2: "Final": overlap between tier 1 to 25.01 and tier 2 from 25']),
     (UK, [("SecondClassRangeStart2,0.1", "SecondClassRangeStart2,0.101")], []),  # a gram
@@ -269,8 +269,8 @@ FINDINGS = (
      ['@ReserveRangeValue3: "ReserveRangeValue3" is a percentage below 0: -1',
       '@FinalRangeValue1: "FinalRangeValue1" is a percentage below 0: -5.25']),
     (US, [("BusinessRateBand5Value,2000000", "BusinessRateBand5Value,-5")],
-     [f'@BusinessRateBand5Value: "BusinessRatePounds{part}": no tier holds '
-      '"BusinessRateBand5Value" of -5' for part in ("%", "Fixed")]),
+     [f'@BusinessRateBand5Value: "BusinessRatePounds{part}": no tier covers the '
+      '-5 of "BusinessRateBand5Value"' for part in ("%", "Fixed")]),
 )
 
 

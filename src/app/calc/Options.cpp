@@ -105,14 +105,14 @@ std::optional<Options> ReadOptions(int nArguments, char** asArguments, int& nSta
     nStatus = oApp.exit(oAnswered);
     return std::nullopt;
   } catch (const CLI::ParseError& oError) {
-    Complain(std::string(oError.what()) + "; --help tells the usage");
+    Complain(std::string(oError.what()) + "; see --help");
     nStatus = kUnusable;
     return std::nullopt;
   }
   oOptions.eFormat = kFormats.at(sFormat);
   if (oOptions.asFiles.empty() && !oOptions.sCheck) {
     if (IsTerminal(kStandardInput)) {
-      Complain("no auction file; --help tells the usage");
+      Complain("no auction file; see --help");
       nStatus = kUnusable;
       return std::nullopt;
     }

@@ -47,7 +47,7 @@ void SetError(Result& oResult, std::string sError) {
 
 void Calculate(std::string& sText, const Options& oOptions, CalcHost& oHost, Result& oResult) {
   if (sText.find_first_not_of(" \t\r\n") == std::string::npos) {
-    SetError(oResult, "There is no auction in it; it is empty.");
+    SetError(oResult, "It is empty.");
     return;
   }
   clsCalculate oAuction;

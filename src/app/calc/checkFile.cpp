@@ -16,7 +16,7 @@ namespace quillet {
 bool HoldsAPrice(const clsPrices& oPrices, const std::string& sPath) {
   const bool bHolds = Catalogue::Of(RegionCode()).HoldsAnyOf(oPrices.Table());
   if (!bHolds) {
-    Complain(sPath + ": There is no price of " + EditionName() + " in it.");
+    Complain(sPath + ": It has no prices for " + EditionName() + ".");
   }
   return bHolds;
 }
