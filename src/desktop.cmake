@@ -85,7 +85,6 @@ if(WIN32)
   target_link_libraries(quillet_desktop PUBLIC winmm)
 else()
   target_sources(quillet_desktop PRIVATE platform/posix/EndSignals.cpp platform/posix/IniStore.cpp
-                                         platform/posix/IniText.cpp
                                          platform/qt/PlatformSound.cpp)
   find_package(Qt6 QUIET OPTIONAL_COMPONENTS Multimedia)
   if(TARGET Qt6::Multimedia)

@@ -19,10 +19,11 @@ constexpr std::string_view kTail = ".tmp";
 constexpr std::string_view kDigits = "0123456789abcdef";
 constexpr std::size_t kLetters = 16;
 
-bool IsTemporary(const std::string& sName) {
-  return sName.size() == kHead.size() + kLetters + kTail.size() && sName.starts_with(kHead) &&
-         sName.ends_with(kTail) &&
-         sName.find_first_not_of(kDigits, kHead.size()) == kHead.size() + kLetters;
+/// Also of what QSettings puts beside one, whose name goes on behind the tail.
+bool IsTemporary(std::string_view sName) {
+  return sName.starts_with(kHead) &&
+         sName.find_first_not_of(kDigits, kHead.size()) == kHead.size() + kLetters &&
+         sName.substr(kHead.size() + kLetters).starts_with(kTail);
 }
 
 /// What stands before the file's own name, its separator included.

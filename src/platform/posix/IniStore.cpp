@@ -1,11 +1,14 @@
 #include "platform/posix/IniStore.h"
 
+#include <QDateTime>
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSettings>
 #include <QStandardPaths>
 #include <QThread>
+#include <algorithm>
 #include <cerrno>
 #include <limits>
 #include <utility>
@@ -62,6 +65,67 @@ std::string StampOf(const QString& sFile) {
   return sStamp;
 }
 
+/// A file that is there for as long as this is.
+class ScratchFile {
+ public:
+  explicit ScratchFile(const QString& sBeside)
+      : m_sPath(QString::fromStdString(TemporaryBeside(sBeside.toStdString()))) {}
+  ScratchFile(const ScratchFile&) = delete;
+  ScratchFile& operator=(const ScratchFile&) = delete;
+  ~ScratchFile() { QFile::remove(m_sPath); }
+
+  [[nodiscard]] const QString& Path() const { return m_sPath; }
+
+ private:
+  QString m_sPath;
+};
+
+/// What a file holds; nothing if one is there that can't be read. A text that was typed with commas
+/// and without quotes is a list to QSettings, and one text here.
+std::optional<IniValues> ValuesOf(const QString& sFile) {
+  if (QFile oFile(sFile); oFile.exists() && !oFile.open(QIODevice::ReadOnly)) {
+    return std::nullopt;
+  }
+  const QSettings oFile(sFile, QSettings::IniFormat);  // locks and writes nothing without changes
+  IniValues asValues;
+  for (const QString& sKey : oFile.allKeys()) {
+    const QVariant oValue = oFile.value(sKey);
+    asValues[sKey] = oValue.typeId() == QMetaType::QStringList ? oValue.toStringList().join(',')
+                                                               : oValue.toString();
+  }
+  return oFile.status() == QSettings::AccessError ? std::nullopt : std::optional(asValues);
+}
+
+/// The text that QSettings writes of these values; nothing if that fails, or doesn't give them
+/// back.
+std::optional<std::string> TextOf(const IniValues& asValues, const QString& sBeside) {
+  const ScratchFile oWritten(sBeside);
+  const ScratchFile oRead(sBeside);  // QSettings would answer for the first from memory
+  std::string sText;
+  if (asValues.empty()) {
+    return sText;
+  }
+  {
+    QSettings oFile(oWritten.Path(), QSettings::IniFormat);
+    for (const auto& [sKey, sValue] : asValues) {
+      oFile.setValue(sKey, sValue);
+    }
+  }
+  const bool bProven =
+      QFile::rename(oWritten.Path(), oRead.Path()) && ValuesOf(oRead.Path()) == asValues &&
+      !ReadWholeFile(oRead.Path().toStdString(), std::numeric_limits<std::size_t>::max(), sText);
+  return bProven ? std::optional(sText) : std::nullopt;
+}
+
+/// To QSettings, a file of the same size and time is the one that it has read.
+void OutliveTimeOf(const QString& sFile) {
+  constexpr qint64 kStep = 20;  // milliseconds; files' clocks tick up to every tenth
+  if (const QFileInfo oFile(sFile); oFile.exists()) {
+    const qint64 nAge = oFile.lastModified().msecsTo(QDateTime::currentDateTime());
+    QThread::msleep(nAge < 0 ? 0 : static_cast<unsigned long>(std::max(kStep - nAge, qint64{0})));
+  }
+}
+
 }  // namespace
 
 std::unique_ptr<SettingsStore> PlatformStore(HiveRoot eRoot) {
@@ -105,12 +169,10 @@ bool IniStore::Follow() {
   if (sStamp == m_sStamp) {
     return true;
   }
-  std::string sText;
-  const std::error_code oError =
-      ReadWholeFile(m_sFile.toStdString(), std::numeric_limits<std::size_t>::max(), sText);
-  const bool bRead = !oError || oError == std::errc::no_such_file_or_directory;
+  std::optional<IniValues> asValues = ValuesOf(m_sFile);
+  const bool bRead = asValues.has_value();
   m_sStamp = bRead ? std::move(sStamp) : "";
-  m_asValues = ReadIniText(sText);
+  m_asValues = std::move(asValues).value_or(IniValues());
   return bRead;
 }
 
@@ -144,7 +206,9 @@ void IniStore::Store(const Changes& asChanges) {
       asValues.erase(sKey);
     }
   }
-  if (!ReplaceFile(m_sFile.toStdString(), IniText(asValues))) {
+  const std::optional<std::string> sText = TextOf(asValues, m_sFile);
+  OutliveTimeOf(m_sFile);
+  if (sText && !ReplaceFile(m_sFile.toStdString(), *sText)) {
     m_asValues = std::move(asValues);
     m_sStamp = StampOf(m_sFile);
   }

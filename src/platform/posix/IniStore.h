@@ -1,16 +1,22 @@
 // Settings in a file of sections and values, velmor/quillet.ini in a configuration folder.
 #pragma once
 
+#include <QString>
 #include <map>
+#include <optional>
 #include <string>
 
-#include "platform/posix/IniText.h"
 #include "platform/qt/SettingsStore.h"
 
 namespace quillet {
 
-/// A file that can't be written (no leave, no folder, no room), or can't be read, costs the change
-/// and nothing else: the file stays whole, and reading gives what it holds.
+/// Values by their keys, which are joined by "/".
+using IniValues = std::map<QString, QString>;
+
+/// QSettings reads the file. It writes a file beside it, and what that gives back as it was meant
+/// takes the place of the old one. A file that can't be written (no leave, no folder, no room), or
+/// can't be read, costs the change and nothing else: it stays whole, and reading gives what it
+/// holds.
 ///
 /// Replacing a file takes longer than a drag may pause, so changes are gathered until Flush. Change
 /// tries beforehand whether that will work; if the disk fills up in between, or another program

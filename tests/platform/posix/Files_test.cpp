@@ -66,6 +66,7 @@ TEST_F(Files, ReplacingKeepsTheLinkTheOwnerAndTheMode) {
 TEST_F(Files, TheLongestNamesCanBeSavedAndWhatAKilledSaveLeftGoesAfterADay) {
   const std::string sLong = m_oFolder / std::string(255, 'x');
   const std::pair<const char*, int> aoLeft[] = {{".quillet-0123456789abcdef.tmp", 25},
+                                                {".quillet-0123456789abcdef.tmp.lock", 25},
                                                 {".quillet-fedcba9876543210.tmp", 23},
                                                 {".quillet-0123456789abcdeg.tmp", 25},
                                                 {"other.tmp", 25}};
