@@ -32,9 +32,9 @@ add_library(quillet_desktop STATIC
   sections/GrandTotal.cpp
   sections/PanelDesign.cpp
   sections/SectionPanel.cpp
+  sections/auctionOptions.cpp
   sections/controlHelpers.cpp
   sections/ctlAuctionType.cpp
-  sections/ctlMotorOptions.cpp
   sections/ctlNumericText.cpp
   sections/ctlOutlay.cpp
   sections/ctlPayPal.cpp
@@ -42,12 +42,8 @@ add_library(quillet_desktop STATIC
   sections/ctlPostage.cpp
   sections/ctlPostageParcelInsurance.cpp
   sections/ctlRealEstateOptions.cpp
-  sections/ctlRealEstateOptionsLand.cpp
-  sections/ctlRealEstateOptionsSale.cpp
   sections/ctlSellingCosts.cpp
   sections/ctlSellingFeatures.cpp
-  sections/ctlShopDurations.cpp
-  sections/ctlSubControlExample.cpp
   shell/DesktopApplication.cpp
   shell/KeptAuction.cpp
   shell/MissingPriceLine.cpp

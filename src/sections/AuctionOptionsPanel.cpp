@@ -4,13 +4,8 @@
 
 namespace quillet {
 
-bool IsRealEstate(const clsAuctionType& oAuctionType) {
-  return oAuctionType.m_eAuctionType == kAuctionRealEstate;
-}
-
-AuctionOptionsPanel::AuctionOptionsPanel(const PanelDesign& oDesign, const AuctionOptions& oOptions,
-                                         QWidget* pParent)
-    : SectionPanel(oDesign, pParent), m_oOptions(oOptions) {}
+AuctionOptionsPanel::AuctionOptionsPanel(const AuctionOptions& oOptions, QWidget* pParent)
+    : SectionPanel(oOptions.oDesign, pParent), m_oOptions(oOptions) {}
 
 /// No write is guarded: a click that it raises comes back here, until nothing changes any more.
 /// So a grey check box is never ticked: greying would untick it, and its click tick it again.
@@ -29,7 +24,7 @@ void AuctionOptionsPanel::ApplyAuctionType(clsAuctionType& oAuctionType) {
 }
 
 void AuctionOptionsPanel::UpdateModel() {
-  if (m_bApplying || m_oAuctionType == nullptr) {
+  if (m_oAuctionType == nullptr) {
     return;
   }
   for (const OptionRow& oRow : m_oOptions.aoRows) {

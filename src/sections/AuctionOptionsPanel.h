@@ -1,9 +1,7 @@
-// The small panels of options that refine the kind of listing. Each is one table: which options
-// there are, and which code of the model each of them stands for.
+// The small panels of options that refine the kind of listing: one class, and a table for each of
+// which options there are, and which code of the model each of them stands for.
 #pragma once
 
-#include <array>
-#include <cstddef>
 #include <cstdint>
 #include <span>
 
@@ -25,6 +23,7 @@ struct OptionRow {
 
 /// What a panel shows and edits of the listing.
 struct AuctionOptions {
+  PanelDesign oDesign;
   std::int32_t clsAuctionType::*m_lField;
   bool (*fnActive)(const clsAuctionType& oAuctionType);  ///< false: the inputs are grey
   std::span<const OptionRow> aoRows;
@@ -34,14 +33,14 @@ class AuctionOptionsPanel : public SectionPanel {
   Q_OBJECT
 
  public:
+  /// `oOptions` must live as long as the panel.
+  AuctionOptionsPanel(const AuctionOptions& oOptions, QWidget* pParent);
+
   /// Shows a listing, and writes into it from then on. It must outlive the panel. An input whose
   /// value changes by it writes into the listing at once and raises Changed.
   void ApplyAuctionType(clsAuctionType& oAuctionType);
 
  protected:
-  /// Both designs must live as long as the panel.
-  AuctionOptionsPanel(const PanelDesign& oDesign, const AuctionOptions& oOptions, QWidget* pParent);
-
   void UpdateModel() override;
 
  private:
@@ -49,22 +48,19 @@ class AuctionOptionsPanel : public SectionPanel {
   clsAuctionType* m_oAuctionType = nullptr;
 };
 
-[[nodiscard]] bool IsRealEstate(const clsAuctionType& oAuctionType);
-
-/// The controls of a panel that has nothing but rows of options.
-template <std::size_t nRows>
-constexpr std::array<ControlDesign, 2 * nRows> OptionControls(
-    const std::array<OptionRow, nRows>& aoRows, ControlKind eKind, int nBoxLeft, int nBoxWidth) {
-  constexpr int kHeight = 255;
-  std::array<ControlDesign, 2 * nRows> aoControls{};
-  for (std::size_t i = 0; i < nRows; ++i) {
-    const OptionRow& oRow = aoRows[i];
-    aoControls[2 * i] = {oRow.sName, eKind, oRow.sCaption, 0, oRow.nTop, oRow.nWidth, kHeight};
-    aoControls[2 * i + 1] = {
-        oRow.sShowBox, ControlKind::kCheckBox, "Show", nBoxLeft, oRow.nTop, nBoxWidth, kHeight,
-        oRow.sTag};
-  }
-  return aoControls;
+/// Makes a member's panel.
+template <const AuctionOptions& oOptions>
+SectionPanel* MakeOptions(QWidget* pParent) {
+  return new AuctionOptionsPanel(oOptions, pParent);
 }
+
+// The members, by the names of their types.
+extern const AuctionOptions ctlMotorOptions;           ///< the vehicle of a motor listing
+extern const AuctionOptions ctlRealEstateOptionsLand;  ///< which real estate is on offer
+extern const AuctionOptions ctlRealEstateOptionsSale;  ///< by auction or by advertisement
+extern const AuctionOptions ctlShopDurations;          ///< how long it stays in the shop
+extern const AuctionOptions ctlSubControlExample;      ///< the pattern for new ones, in no window
+
+[[nodiscard]] bool IsRealEstate(const clsAuctionType& oAuctionType);
 
 }  // namespace quillet

@@ -4,6 +4,7 @@
 #include <QShowEvent>
 #include <algorithm>
 
+#include "base/FlagGuard.h"
 #include "base/failure.h"
 #include "look/font.h"
 #include "look/palette.h"

@@ -103,7 +103,9 @@ class SectionPanel : public QWidget, public Control {
   void paintEvent(QPaintEvent* pEvent) override;
   void Placed() override;
 
-  bool m_bApplying = false;  ///< UpdateModel has nothing to do: the inputs are being set
+  /// UpdateModel has nothing to do: the inputs are being set. The members whose clicks are to come
+  /// back to their Apply routine leave it alone.
+  bool m_bApplying = false;
 
  private:
   void MakeControl(const ControlDesign& oControl);
@@ -136,18 +138,6 @@ class SectionPanel : public QWidget, public Control {
   bool m_bLoading = false;  ///< the Show boxes are being set: nothing is stored
   float m_fDragX = 0;
   float m_fDragY = 0;
-};
-
-/// Sets a flag for as long as it lives.
-class FlagGuard {
- public:
-  explicit FlagGuard(bool& bFlag) : m_bFlag(bFlag) { m_bFlag = true; }
-  FlagGuard(const FlagGuard&) = delete;
-  FlagGuard& operator=(const FlagGuard&) = delete;
-  ~FlagGuard() { m_bFlag = false; }
-
- private:
-  bool& m_bFlag;
 };
 
 }  // namespace quillet

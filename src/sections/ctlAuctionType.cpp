@@ -3,10 +3,9 @@
 #include <array>
 #include <string_view>
 
+#include "sections/AuctionOptionsPanel.h"
 #include "sections/controlHelpers.h"
-#include "sections/ctlMotorOptions.h"
 #include "sections/ctlRealEstateOptions.h"
-#include "sections/ctlShopDurations.h"
 
 namespace quillet {
 namespace {
@@ -15,11 +14,11 @@ using enum ControlKind;
 
 constexpr std::array kControls = std::to_array<ControlDesign>({
     {"ctlShopDuration", kSubControl, "", 360, 5685, 2895, 1335, "", nullptr,
-     [](QWidget* p) -> SectionPanel* { return new ctlShopDurations(p); }},
+     MakeOptions<ctlShopDurations>},
     {"ctlRealEstateOption", kSubControl, "", 360, 2880, 2655, 1935, "", nullptr,
      [](QWidget* p) -> SectionPanel* { return new ctlRealEstateOptions(p); }},
     {"ctlMotorAuction", kSubControl, "", 360, 915, 2655, 1680, "", nullptr,
-     [](QWidget* p) -> SectionPanel* { return new ctlMotorOptions(p); }},
+     MakeOptions<ctlMotorOptions>},
     {"chkShowBusinessAuction", kCheckBox, "Show", 2160, 4840, 975, 255, "BusinessAuction"},
     {"optBusinessAuction", kOption, "Business && Industrial", 0, 4840, 1815, 255},
     {"chkShowShopInventory", kCheckBox, "Show", 2160, 5400, 975, 255, "Shop"},
@@ -66,10 +65,10 @@ void ctlAuctionType::ApplyAuctionType(clsAuctionType& oAuctionType) {
   m_oAuctionType = &oAuctionType;
   SetChosen(kKinds, oAuctionType.m_eAuctionType);
   SetValueOf("chkBuyItNow", oAuctionType.m_bBuyItNowOnly ? 1 : 0);
-  The<ctlMotorOptions>("ctlMotorAuction").ApplyAuctionType(oAuctionType);
+  The<AuctionOptionsPanel>("ctlMotorAuction").ApplyAuctionType(oAuctionType);
   The<ctlRealEstateOptions>("ctlRealEstateOption").ApplyAuctionType(oAuctionType);
   SetValueOf("chkShopInventory", oAuctionType.m_bShopInventory ? 1 : 0);
-  The<ctlShopDurations>("ctlShopDuration").ApplyAuctionType(oAuctionType);
+  The<AuctionOptionsPanel>("ctlShopDuration").ApplyAuctionType(oAuctionType);
   ShowTotal(oAuctionType);
 }
 
@@ -103,7 +102,7 @@ void ctlAuctionType::SyncShopInventory(bool bShopClicked) {
 }
 
 void ctlAuctionType::UpdateModel() {
-  if (m_bApplying || m_oAuctionType == nullptr) {
+  if (m_oAuctionType == nullptr) {
     return;
   }
   m_oAuctionType->m_eAuctionType = ChosenOf(kKinds, m_oAuctionType->m_eAuctionType);

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "base/FlagGuard.h"
 #include "base/conversions.h"
 #include "sections/controlHelpers.h"
 

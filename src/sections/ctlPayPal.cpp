@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "base/FlagGuard.h"
 #include "base/failure.h"
 #include "sections/controlHelpers.h"
 #include "sections/ctlPaypalBusinessTypes.h"

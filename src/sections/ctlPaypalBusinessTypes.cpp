@@ -54,7 +54,7 @@ void ctlPaypalBusinessTypes::ApplyFeatures(clsPayPal& oPayPal) {
 }
 
 void ctlPaypalBusinessTypes::UpdateModel() {
-  if (m_bApplying || m_oPayPal == nullptr) {
+  if (m_oPayPal == nullptr) {
     return;
   }
   m_oPayPal->m_nBusinessBand = ChosenOf(kBands, m_oPayPal->m_nBusinessBand);

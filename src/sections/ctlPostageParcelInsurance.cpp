@@ -56,7 +56,7 @@ void ctlPostageParcelInsurance::ApplyAuctionType(clsPostage& oPostage) {
 }
 
 void ctlPostageParcelInsurance::UpdateModel() {
-  if (m_bApplying || m_oPostage == nullptr) {
+  if (m_oPostage == nullptr) {
     return;
   }
   std::int32_t& eBand = m_oPostage->m_eInsuranceBand;

@@ -2,9 +2,8 @@
 
 #include <array>
 
+#include "sections/AuctionOptionsPanel.h"
 #include "sections/controlHelpers.h"
-#include "sections/ctlRealEstateOptionsLand.h"
-#include "sections/ctlRealEstateOptionsSale.h"
 
 namespace quillet {
 namespace {
@@ -15,9 +14,9 @@ constexpr std::array kInnerPanels = {"ctlRealEstateOptionsLand1", "ctlRealEstate
 
 constexpr std::array kControls = std::to_array<ControlDesign>({
     {"ctlRealEstateOptionsLand1", kSubControl, "", 0, 0, 2775, 560, "", nullptr,
-     [](QWidget* p) -> SectionPanel* { return new ctlRealEstateOptionsLand(p); }},
+     MakeOptions<ctlRealEstateOptionsLand>},
     {"ctlRealEstateOptionsSale1", kSubControl, "", 0, 560, 2775, 1120, "", nullptr,
-     [](QWidget* p) -> SectionPanel* { return new ctlRealEstateOptionsSale(p); }},
+     MakeOptions<ctlRealEstateOptionsSale>},
     {"chkRealEstateBinding", kCheckBox, "Binding", 0, 1680, 1575, 255},
     {"chkShowRealEstateBinding", kCheckBox, "Show", 1800, 1680, 855, 255, "RealEstateBinding"},
 });
@@ -49,7 +48,7 @@ void ctlRealEstateOptions::ApplyAuctionType(clsAuctionType& oAuctionType) {
 }
 
 void ctlRealEstateOptions::UpdateModel() {
-  if (m_bApplying || m_oAuctionType == nullptr) {
+  if (m_oAuctionType == nullptr) {
     return;
   }
   m_oAuctionType->m_bRealEstateBinding = ValueOf("chkRealEstateBinding") != 0;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "base/FlagGuard.h"
 #include "base/conversions.h"
 #include "base/failure.h"
 #include "engine/featureNames.h"

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/FlagGuard.h"
 #include "base/failure.h"
 #include "shell/KeptAuction.h"
 

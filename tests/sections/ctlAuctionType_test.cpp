@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include "sections/ctlSubControlExample.h"
+#include "sections/AuctionOptionsPanel.h"
 #include "support/PanelTest.h"
 #include "support/Screen.h"
 
@@ -240,7 +240,7 @@ TEST_F(AuctionTypeSection, NoCaptionIsClippedAndEveryInputHasAName) {
 TEST(SubControlExample, TheLaterOfTwoTicksWinsAndGreyBoxesAreUnticked) {
   clsAuctionType oListing;
   oListing.m_eAuctionType = kAuctionRealEstate;
-  ctlSubControlExample oPanel(nullptr);
+  AuctionOptionsPanel oPanel(ctlSubControlExample, nullptr);
   oPanel.show();
   oPanel.SetShowConfig(false);
   oPanel.ApplyAuctionType(oListing);
