@@ -1,0 +1,30 @@
+// A disk that is full, as far as this process sees it.
+#pragma once
+
+#include <csignal>
+
+#include <sys/resource.h>
+
+namespace quillet {
+
+/// Lets no file of this process grow beyond `nBytes`, as on a full disk.
+class FullDisk {
+ public:
+  explicit FullDisk(rlim_t nBytes) : m_pBefore(std::signal(SIGXFSZ, SIG_IGN)) {
+    ::getrlimit(RLIMIT_FSIZE, &m_oBefore);
+    const rlimit oSmall{nBytes, m_oBefore.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &oSmall);
+  }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+  ~FullDisk() {
+    ::setrlimit(RLIMIT_FSIZE, &m_oBefore);
+    std::signal(SIGXFSZ, m_pBefore);
+  }
+
+ private:
+  rlimit m_oBefore{};
+  void (*m_pBefore)(int);
+};
+
+}  // namespace quillet
