@@ -1,23 +1,17 @@
 // The sample auctions against the shipped fee schedules, fee by fee: docs/sample-auctions.md has
 // their figures, worked out by hand.
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 
 #include <gtest/gtest.h>
 
 #include "engine/clsCalculate.h"
+#include "support/Log.h"
 #include "support/Prices.h"
 #include "support/TestHost.h"
 
 namespace quillet {
 namespace {
-
-std::string ContentOf(const std::filesystem::path& oPath) {
-  std::ifstream oFile(oPath, std::ios::binary);
-  return {std::istreambuf_iterator<char>(oFile), {}};
-}
 
 /// What the program makes of an auction, as a row of the page's table.
 std::string RowOf(const std::string& sName, const clsCalculate& oAuction) {
@@ -40,45 +34,30 @@ TEST_P(SampleAuctions, StandAsTheyAreSavedAndGiveTheFiguresOfTheirPageWhereverTh
   oHost.sDecimalSeparator = GetParam();
   UseShippedSchedule();
   const std::filesystem::path oSource(QUILLET_SOURCE_DIR);
-  const std::string sPage = ContentOf(oSource / "docs/sample-auctions.md");
+  const std::string sPage = ReadTestFile((oSource / "docs/sample-auctions.md").string());
   int nSamples = 0;
   for (const auto& oEntry : std::filesystem::directory_iterator(oSource / "data/samples")) {
     const std::string sName = oEntry.path().stem().string();
     SCOPED_TRACE(sName);
     ++nSamples;
     clsCalculate oAuction;
-    std::string sText = ContentOf(oEntry.path());
+    std::string sText = ReadTestFile(oEntry.path().string());
     oHost.sDecimalSeparator = GetParam();
     oAuction.Serialize(sText, false);
-    if (sName.starts_with("uk-") == (RegionCode() == 0)) {
+    const bool bOfThisRegion = sName.starts_with("uk-") == (RegionCode() == 0);
+    if (bOfThisRegion) {
       oAuction.DoCalc();
     }
     oHost.sDecimalSeparator = ".";
     std::string sSaved;
     oAuction.Serialize(sSaved, true);
     EXPECT_EQ(sSaved + "\n", sText);
-    if (sName.starts_with("uk-") == (RegionCode() == 0)) {
+    if (bOfThisRegion) {
       const std::string sRow = RowOf(sName, oAuction);
       EXPECT_NE(sPage.find(sRow), std::string::npos) << "not on the page: " << sRow;
     }
   }
   EXPECT_GT(nSamples, 16);
-}
-
-TEST(ShippedSchedule, ChargesEveryLotByItsTier) {
-  UseShippedSchedule();
-  const std::tuple<int, double, double> aoUs[] = {
-      {21, 1.19, .6}, {37, .27, .4}, {111, .09, .4}, {1, .99, .2},     {1, 1, .4},
-      {1, 9.99, .4},  {10, 1, .6},   {250, .1, 1.2}, {1, 499.99, 3.6}, {1000, .5, 4.8}};
-  const std::tuple<int, double, double> aoUk[] = {
-      {3, 33.33, 1.5}, {11, 9.09, 1.5}, {303, .33, 1.5}, {1111, .09, 1.5}, {1, .99, .15},
-      {100, .01, .2},  {1, 29.99, .75}, {300, .1, 1.5},  {1, 99.99, 1.5},  {1000, .1, 2}};
-  for (const auto& [lQuantity, fPrice, fFee] : RegionCode() == 1 ? aoUs : aoUk) {
-    clsOutlay oOutlay;
-    oOutlay.m_lQuantity = lQuantity;
-    oOutlay.m_fStartingPrice = fPrice;
-    EXPECT_EQ(clsAuctionType().DoCalcListingFee(oOutlay), Single(fFee)) << lQuantity << fPrice;
-  }
 }
 
 // A new auction reads the features of thirty days until its type is set; it must not read others

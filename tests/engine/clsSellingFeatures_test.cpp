@@ -107,15 +107,11 @@ TEST_F(SellingFeatures, ThePrefixFollowsTheKindOfListingInTheUnitedStates) {
   UseSchedule(
       "FeatureBold,1\nFeatureMotorBold,2\nFeatureMotorPoketBikesBold,3\nFeatureMotorPartsBold,4\n"
       "FeatureRealEstateBold,5\nFeatureBold60,6\n");
-  struct Row {
-    std::int32_t eType, eMotor;
-    double fUs;
-  };
-  for (const Row& oRow : {Row{0, 3, 1}, Row{1, 0, 2}, Row{1, 3, 3}, Row{1, 5, 4}, Row{1, 9, 2},
-                          Row{2, 5, 5}, Row{3, 0, 1}, Row{9, 0, 1}}) {
-    m_oType.m_eAuctionType = oRow.eType;
-    m_oType.m_eMotorType = oRow.eMotor;
-    EXPECT_EQ(Fee(0x10), ByRegion(1.0, oRow.fUs)) << oRow.eType << ", " << oRow.eMotor;
+  for (const auto& [eType, eMotor, fUs] :
+       {std::tuple{0, 3, 1}, {1, 0, 2}, {1, 3, 3}, {1, 5, 4}, {1, 9, 2}, {2, 5, 5}, {3, 0, 1}}) {
+    m_oType.m_eAuctionType = eType;
+    m_oType.m_eMotorType = eMotor;
+    EXPECT_EQ(Fee(0x10), ByRegion(1, fUs)) << eType << ", " << eMotor;
   }
   m_oType = clsAuctionType();
   m_oType.m_eShopDuration = kShop60Days;

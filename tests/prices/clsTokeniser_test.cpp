@@ -10,13 +10,8 @@ namespace quillet {
 namespace {
 
 TEST(Tokeniser, SplitsAndDropsEmptyFields) {
-  struct Row {
-    const char* sText;
-    const char* sSeparator;
-    std::vector<std::string> asFields;
-    bool bBlank;
-  };
-  const Row aoRows[] = {
+  using Fields = std::vector<std::string>;
+  const std::tuple<const char*, const char*, Fields, bool> aoRows[] = {
       {"a,b", ",", {"a", "b"}, false},
       {"a,", ",", {"a"}, false},  // a separator at the end yields nothing more, not even a blank
       {"a,,b", ",", {"a", "b"}, true},
@@ -26,18 +21,15 @@ TEST(Tokeniser, SplitsAndDropsEmptyFields) {
       {"xa--b--c", "--", {"a", "b", "c"}, false},  // a long separator skips part of the start
       {"aXbxc", "x", {"aXb", "c"}, false},
   };
-  for (const Row& oRow : aoRows) {
-    SCOPED_TRACE(std::string(oRow.sText) + " by " + oRow.sSeparator);
+  for (const auto& [sText, sSeparator, asFields, bBlank] : aoRows) {
+    SCOPED_TRACE(std::string(sText) + " by " + sSeparator);
     clsTokeniser oTokens;
-    const auto nCount = static_cast<std::int32_t>(oRow.asFields.size());
-    EXPECT_EQ(oTokens.Tokenise(oRow.sText, oRow.sSeparator), nCount);
-    EXPECT_EQ(oTokens.ParsedBlank(), oRow.bBlank);
-    EXPECT_FALSE(oTokens.IsEmpty());
-    for (std::int32_t i = 0; i < nCount; ++i) {
-      EXPECT_EQ(oTokens.Element(i), oRow.asFields[static_cast<std::size_t>(i)]);
-    }
-    EXPECT_THROW((void)oTokens.Element(std::max(nCount, 1)), Failure);
-    EXPECT_THROW((void)oTokens.Element(-1), Failure);
+    Fields asFound(static_cast<std::size_t>(oTokens.Tokenise(sText, sSeparator)));
+    std::generate(asFound.begin(), asFound.end(),
+                  [&, i = 0]() mutable { return oTokens.Element(i++); });
+    EXPECT_EQ(asFound, asFields);
+    EXPECT_EQ(oTokens.ParsedBlank(), bBlank);
+    EXPECT_THROW((void)oTokens.Element(std::max(oTokens.Count(), 1)), Failure);
   }
 }
 

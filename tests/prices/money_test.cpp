@@ -9,20 +9,13 @@ namespace quillet {
 namespace {
 
 TEST(Money, IsTheSymbolAndTheAmountByTheSchedulesFormat) {
-  struct Row {
-    const char* sSchedule;
-    float fAmount;
-    const char* sExpected;
-  };
-  const char* const sDollars = "CurrencySymbol,$\nCurrencyFormat,0.00\n";
-  const Row aoRows[] = {
-      {"", 12.5F, "£12.50"},       {"CurrencyFormat,0\n", 2.5F, "£3"},
-      {sDollars, -5.0F, "$-5.00"}, {sDollars, -0.004F, "$0.00"},
-      {sDollars, 0.125F, "$0.13"}, {"CurrencySymbol,€ \nCurrencyFormat,#.000\n", 0.0625F, "€ .063"},
-  };
-  for (const Row& oRow : aoRows) {
-    UseSchedule(oRow.sSchedule);
-    EXPECT_EQ(FormatMoney(double{oRow.fAmount}), oRow.sExpected) << oRow.sSchedule << oRow.fAmount;
+  const std::tuple<const char*, double, const char*> aoRows[] = {
+      {"", 12.5, "£12.50"},
+      {"CurrencySymbol,$\nCurrencyFormat,0.00\n", -5, "$-5.00"},
+      {"CurrencySymbol,€ \nCurrencyFormat,#.000\n", 0.0625, "€ .063"}};
+  for (const auto& [sSchedule, fAmount, sExpected] : aoRows) {
+    UseSchedule(sSchedule);
+    EXPECT_EQ(FormatMoney(fAmount), sExpected) << sSchedule;
   }
   UseSchedule("");
   EXPECT_EQ(CurrencySymbolText(), "");
@@ -31,7 +24,6 @@ TEST(Money, IsTheSymbolAndTheAmountByTheSchedulesFormat) {
 TEST(Money, SmallestUnitsFollowTheCharactersBehindTheFirstPoint) {
   const std::pair<const char*, std::int32_t> aoRows[] = {
       {"", 1},
-      {"CurrencyFormat,0.", 1},
       {"CurrencyFormat,0.00", 100},
       {"CurrencyFormat,0.00 £", 10000},
       {"CurrencyFormat,0.000000000", 1000000000}};
