@@ -2,8 +2,6 @@
 #include "answers/PriceFor.h"
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <random>
 #include <string>
 #include <vector>
@@ -12,6 +10,7 @@
 
 #include "answers/Trial.h"
 #include "support/Auctions.h"
+#include "support/Log.h"
 #include "support/Prices.h"
 
 namespace quillet {
@@ -88,8 +87,7 @@ TEST(PriceFor, IsTheLowestThatTryingEveryCentFinds) {
     if (oEntry.path().stem().string().starts_with("uk-") == (RegionCode() == 1)) {
       continue;
     }
-    std::ifstream oFile(oEntry.path(), std::ios::binary);
-    std::string sText{std::istreambuf_iterator<char>(oFile), {}};
+    std::string sText = ReadTestFile(oEntry.path().string());
     clsCalculate oAuction;
     oAuction.Serialize(sText, false);
     ExpectTheLowest(oAuction);
