@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include "support/ByRegion.h"
 #include "support/TestHost.h"
 
 namespace quillet {
@@ -12,14 +11,9 @@ namespace {
 
 using namespace std::string_literals;
 
-TEST(Common, NamesFollowTheRegion) {
+TEST(Common, ABackslashInTheNameOfTheProgramsFolderIsNoSeparatorHere) {
   ScopedHost oHost;
   oHost.sProgramFolder = "/opt/a\\b";
-  EXPECT_EQ(EditionName(), ByRegion("Quillet UK", "Quillet US"));
-  EXPECT_EQ(RegistryRoot(),
-            ByRegion("Software\\Velmor\\Quillet UK", "Software\\Velmor\\Quillet US"));
-  EXPECT_EQ(UpdateFileName(true), ByRegion("UpdateUK_v0101.dat", "UpdateUS_v0101.dat"));
-  // A "\" in the folder's own name is no separator here.
   EXPECT_EQ(UpdateFileName(false), "/opt/a\\b" + NativePath("\\" + UpdateFileName(true)));
 }
 

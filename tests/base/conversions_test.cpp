@@ -73,7 +73,6 @@ TEST(Conversions, TheSeparatorIsTheUsers) {
   ScopedHost oHost;
   oHost.sDecimalSeparator = ",";
   EXPECT_EQ(ToSingle("1,25E+1"), Single(12.5));
-  EXPECT_EQ(ToSingle("1,123456789012345678901"), Single(1.1234568));
   EXPECT_EQ(ToSingle("1.5"), nullopt);
   for (const char* sOfFile : {"1.5", "1,5", " 15e-1", "1.50000000000"}) {
     EXPECT_EQ(ToFileSingle(sOfFile), Single(1.5)) << sOfFile;
@@ -150,7 +149,7 @@ TEST(Conversions, SingleToTextOfSevenDigits) {
   for (const auto& [fValue, sExpected] : aoRows) {
     EXPECT_EQ(SingleText(double{fValue}), sExpected);
   }
-  for (int nCents = -100'000; nCents <= 9'999'999; nCents += nCents < 100'000 ? 1 : 997) {
+  for (int nCents = -100'000; nCents <= 9'999'999; nCents += 7) {
     const Single fAmount = nCents / 100.0;
     ASSERT_EQ(ToSingle(SingleText(fAmount)), fAmount) << nCents << " cents";
   }
