@@ -52,16 +52,8 @@ class Walk {
         m_oHost(oHost),
         m_oFolder(oFolder),
         m_oDice(nSeed),
-        m_asSamples(Samples()) {
-    for (SectionPanel* const pSection : oWindow.Calculator().Set().Sections()) {
-      m_aoPanels.push_back(pSection);
-      for (Control* const pControl : AllControls(*pSection)) {
-        if (auto* const pPanel = dynamic_cast<SectionPanel*>(pControl)) {
-          m_aoPanels.push_back(pPanel);
-        }
-      }
-    }
-  }
+        m_aoPanels(AllPanels(oWindow.Calculator().Set())),
+        m_asSamples(Samples()) {}
 
   /// Takes a step.
   const WalkStep& Step() {

@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QTest>
 #include <cstring>
+#include <set>
 
 #include <gtest/gtest.h>
 
@@ -14,6 +15,8 @@
 #include "base/region.h"
 #include "look/palette.h"
 #include "look/scale.h"
+#include "sections/VisibleList.h"
+#include "sections/controlHelpers.h"
 #include "shell/ctlWizard.h"
 #include "shell/tabOrder.h"
 #include "support/Auctions.h"
@@ -32,6 +35,17 @@ std::string Stored(const std::string& sSection, const std::string& sName) {
   const bool bFound =
       Registry().GetRegSettingString(HiveRoot::User, sText, sName, "Controls\\" + sSection, "");
   return bFound ? sText : "none";
+}
+
+/// An input that a screen reader has no name for.
+bool IsUnnamedInput(const Control& oControl) {
+  if (const auto* const pBox = dynamic_cast<const ctlNumericText*>(&oControl)) {
+    return pBox->TextBox()->accessibleName().isEmpty();
+  }
+  const QString sName = oControl.Widget().accessibleName();
+  return IsShowCheck(oControl)
+             ? sName.isEmpty() || sName == "Show"
+             : dynamic_cast<const Choice*>(&oControl) != nullptr && oControl.Caption().isEmpty();
 }
 
 class Calculator : public ::testing::Test {
@@ -163,25 +177,79 @@ TEST_F(Calculator, WhatIsInFrontHasItsWholeEdge) {
   }
 }
 
-TEST_F(Calculator, FiguresEndBelowEachOtherAndLeaveAGapToTheNextBlock) {
-  ctlSellingCosts& oSummary = m_pView->Set().ctlSellingCostsSection;
-  ShowView(false, WorkingAuction());
-  const auto fnInkEnd = [&](const char* sName) {
-    const QWidget& oLabel = oSummary.The(sName);
-    const QImage oImage = oSummary.grab(oLabel.geometry()).toImage();
-    for (int x = oImage.width(); x-- > 0;) {
-      for (int y = 0; y < oImage.height(); ++y) {
-        if (oImage.pixel(x, y) != oImage.pixel(0, 0)) {
-          return oLabel.x() + x;
-        }
+TEST_F(Calculator, EachShowBoxStandsForItsRowAlone) {
+  ShowView(true, WorkingAuction());
+  std::set<std::string> asRows;
+  for (SectionPanel* const pPanel : AllPanels(m_pView->Set())) {
+    const auto fnShown = [&](const Control& o) {
+      return o.Visible() && o.Container() == pPanel && !IsShowCheck(o) && !IsHeaderImage(o);
+    };
+    for (const Control* const pBox : pPanel->Controls()) {
+      if (IsShowCheck(*pBox)) {
+        clsTokeniser oList;
+        oList.AddToArray(pBox->Tag());
+        SaveVisibleList(pPanel->SectionKey(), oList);
+        pPanel->SetShowConfig(true);
+        const std::string sBeside = NamesWhere(*pPanel, [&](const Control& o) {
+          return fnShown(o) && pBox->Visible() &&
+                 (o.Top() == pBox->Top() || o.Name().starts_with("ctl" + pBox->Tag()));
+        });
+        const bool bNew = asRows.insert(pPanel->SectionKey() + (" " + sBeside)).second;
+        EXPECT_EQ(bNew && !sBeside.empty(), pBox->Visible()) << pBox->Name();
+        pPanel->SetShowConfig(false);
+        EXPECT_EQ(NamesWhere(*pPanel, fnShown), sBeside) << pBox->Name();
       }
     }
-    return -1;
-  };
-  EXPECT_LE(fnInkEnd("lblInsertionFeeTotal"),
-            oSummary.The("lblSellingCostLabel").x() - Pixels(200));
-  oSummary.SetMode(1);
-  EXPECT_NEAR(fnInkEnd("lblProfitGrandTotal"), fnInkEnd("lblInsertionFeeTotal"), 1);
+  }
+  EXPECT_EQ(asRows.size(), ByRegion(69U, 74U));
+}
+
+TEST_F(Calculator, NoCaptionIsClippedAndEveryInputHasAName) {
+  std::string sAuction =
+      "[TYPE]000|False|False|3|0|0|0|False[TYPE][OUTLAY]1000000|0|0|100|1|False[OUTLAY]"
+      "[FEATURES]1048575|0[FEATURES][PAYPAL]True|0|1|False[PAYPAL]"
+      "[POSTAGE]True|1|2|50|3|False|False|False|0|False[POSTAGE]";
+  WorkingAuction().Serialize(sAuction, false);
+  for (const bool bConfig : {false, true}) {
+    ShowView(bConfig, WorkingAuction());
+    ShowSectionTotal(
+        dynamic_cast<Label&>(ControlOf(m_pView->Set().ctlAuctionTypeSection, "lblTotal")),
+        9999.99F);
+    for (const double fZoom : kZooms) {
+      SetZoom(fZoom);
+      RescaleAll(m_oWindow);
+      for (const SectionPanel* const pSection : m_pView->Set().Sections()) {
+        EXPECT_EQ(ClippedIn(*pSection), "") << pSection->SectionKey();
+      }
+    }
+  }
+  for (const SectionPanel* const pSection : m_pView->Set().Sections()) {
+    EXPECT_EQ(NamesWhere(*pSection, IsUnnamedInput), "") << pSection->SectionKey();
+  }
+}
+
+/// Figures stand beside their captions, one below the other in each block, and nothing on another.
+TEST_F(Calculator, TheSummaryIsAStripOrAColumn) {
+  ctlSellingCosts& oSummary = m_pView->Set().ctlSellingCostsSection;
+  for (const int nMode : {0, 1, 0}) {
+    SCOPED_TRACE(nMode);
+    oSummary.SetMode(nMode);
+    std::set<int> anRight;
+    QRegion oTaken;
+    const auto aoLabels = oSummary.findChildren<Label*>();
+    for (qsizetype i = 0; i < aoLabels.size(); ++i) {
+      const QRect oPlace = aoLabels[i]->geometry();
+      EXPECT_FALSE(oTaken.intersects(oPlace.adjusted(2, 2, -2, -2))) << aoLabels[i]->Name();
+      oTaken += oPlace;
+      if (i % 2 == 1) {
+        const QRect oCaption = aoLabels[i - 1]->geometry();
+        EXPECT_NEAR(oCaption.center().y(), oPlace.center().y(), 1) << aoLabels[i]->Name();
+        EXPECT_LE(oCaption.right(), oPlace.left() + 1) << aoLabels[i]->Name();
+        anRight.insert(oPlace.right());
+      }
+    }
+    EXPECT_EQ(anRight.size(), nMode == 0 ? 3U : 2U);
+  }
 }
 
 /// The line of a view, which lies on no figure at any zoom, be it as long as it will.

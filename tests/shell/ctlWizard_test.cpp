@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QSignalSpy>
 #include <QTest>
-#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -24,24 +23,6 @@ void ClearAuction() {
   WorkingAuction().Clear();
   WorkingAuction().m_oOutlay.m_lQuantity = 1;
   WorkingAuction().SetDirty(false);
-}
-
-/// Fills in a section as a user would.
-void Enter(const SectionPanel& oSection) {
-  const std::string sKey = oSection.SectionKey();
-  if (sKey == "AuctionType") {
-    ClickOn(oSection, "chkBuyItNow");
-  } else if (sKey == "Outlay") {
-    TypeInto(oSection, "txtOutlay", "40");
-    TypeInto(oSection, "txtEstimatedEndPrice", "149");
-  } else if (sKey == "SellingFeatures") {
-    ClickOn(oSection, "chkBold chkHighlight");
-  } else if (sKey == "PayPal") {
-    ClickOn(oSection, "chkUsePayPal optPremierAccount");
-  } else {
-    ClickOn(oSection, "chkUsePostage optManual");
-    TypeInto(oSection, "txtManual", "8.50");
-  }
 }
 
 class Wizard : public ::testing::Test {
@@ -81,12 +62,6 @@ class Wizard : public ::testing::Test {
   void Press(int nKey, Qt::KeyboardModifiers eWith = {}) {
     QWidget* const pFocus = QApplication::focusWidget();
     QTest::keyClick(pFocus != nullptr ? pFocus : m_pView, static_cast<Qt::Key>(nKey), eWith);
-  }
-  void TurnWheel(int nUnits) {
-    const QPointF oAt = The<Frame>("fraViewPort").geometry().center();
-    QWheelEvent oEvent(oAt, m_pView->mapToGlobal(oAt), {}, {0, nUnits}, {}, {}, Qt::NoScrollPhase,
-                       false);
-    QApplication::sendEvent(m_pView, &oEvent);
   }
 
   QWidget m_oWindow;
@@ -187,30 +162,18 @@ TEST_F(Wizard, TheInstructionOfAFrameCanBeReplacedInTheSettings) {
       << "what isn't there isn't created";
 }
 
-TEST_F(Wizard, WhatIsEnteredStepByStepIsTheAuctionAndItsFigures) {
-  Start();
-  for (int i = 0; i < 5; ++i, Click("imgNext")) {
-    Enter(Section());
-    if (std::string(Section().SectionKey()) == "SellingFeatures") {
-      EXPECT_TRUE(IsGrey(ControlOf(Section(), "chkBuyItNow"))) << "the price is fixed";
-    }
-  }
-  EXPECT_EQ(TextOf(WorkingAuction()),
-            "[TYPE]000|True|False|3|0|0|0|False[TYPE][OUTLAY]40|0|0|149|1|False[OUTLAY]"
-            "[FEATURES]20|0[FEATURES][PAYPAL]True|1|1|False[PAYPAL]"
-            "[POSTAGE]True|0|3|8.5|0|False|False|False|0|False[POSTAGE]");
-  EXPECT_EQ(
-      m_pView->Set().ctlSellingCostsSection.The("lblProfitGrandTotal").Caption().toStdString(),
-      ByRegion("£92.76 (164%)", "$90.39 (154%)"));
-}
-
 TEST_F(Wizard, CancelKeepsWhatWasEnteredAndTheNextShowBeginsAnew) {
   Start();
-  Enter(Section());
+  ClickOn(Section(), "chkBuyItNow");
   Click("imgNext");
-  Enter(Section());
+  TypeInto(Section(), "txtOutlay", "40");
+  TypeInto(Section(), "txtEstimatedEndPrice", "149");
   Press(Qt::Key_Return);
+  EXPECT_TRUE(IsGrey(ControlOf(Section(), "chkBuyItNow"))) << "the price is fixed";
   const std::string sText = TextOf(WorkingAuction());
+  EXPECT_NE(sText.find("[TYPE]000|True|False|3|0|0|0|False[TYPE][OUTLAY]40|0|0|149|1|False"),
+            std::string::npos)
+      << sText;
   Click("imgCancel");
   EXPECT_EQ(TextOf(WorkingAuction()), sText);
   m_pView->SetVisible(false);
@@ -252,21 +215,15 @@ TEST_F(Wizard, ThePageMovesWhenTheThumbIsLetGo) {
   EXPECT_EQ(Section().Top(), 120);
   oBar.setSliderDown(false);
   EXPECT_EQ(Section().Top(), -400);
-  TurnWheel(-120);
-  EXPECT_EQ(Section().Top(), -1120) << "three rows";
 }
 
-TEST_F(Wizard, NoButtonIsTooSmallForItsWords) {
+TEST_F(Wizard, NoCaptionIsClippedAtAnyZoom) {
   Start();
-  for (const double fZoom : {0.75, 1.0, 1.25, 1.5, 2.0, 3.0}) {
+  for (const double fZoom : kZooms) {
     SetZoom(fZoom);
     RescaleAll(m_oWindow);
     for (int i = 0; i < 5; ++i, Click("imgNext")) {
-      for (const char* const sName : {"imgBack", "imgNext", "imgCancel"}) {
-        const auto& oButton = The<ImageButton>(sName);
-        EXPECT_LE(oButton.sizeHint().width(), oButton.width()) << sName << " at " << fZoom;
-        EXPECT_LE(oButton.sizeHint().height(), oButton.height()) << sName << " at " << fZoom;
-      }
+      EXPECT_EQ(ClippedIn(*m_pView), "") << i;
     }
     m_pView->SetVisible(false);
     m_pView->SetVisible(true);

@@ -1,12 +1,10 @@
 #include "shell/frmSplash.h"
 
-#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 
 #include <gtest/gtest.h>
 
-#include "base/clsRegistryAccess.h"
 #include "look/ShockwaveFlash.h"
 
 namespace quillet {
@@ -59,17 +57,6 @@ TEST_F(Splash, AKeyOrAClickEndsItAtOnceAndOnlyOnceAndThenAsksToGoOn) {
   QTest::mouseClick(&Movie(), Qt::RightButton);
   EXPECT_EQ(Commands(), QStringList({"start", "stop"}));
   EXPECT_TRUE(m_oWindow->LoadComplete() && m_oWindow->MovieComplete());
-}
-
-TEST_F(Splash, StandsWithoutABorderInTheMiddleAtTheStoredZoomUnlessTheScreenIsTooSmall) {
-  Registry().Set(settings::kZoom, "125");
-  Open();
-  const QRect oScreen = m_oWindow->screen()->availableGeometry();
-  EXPECT_TRUE(m_oWindow->windowFlags().testFlag(Qt::FramelessWindowHint));
-  Registry().Set(settings::kZoom, "300");
-  Open();
-  EXPECT_TRUE(oScreen.contains(m_oWindow->geometry()));
-  EXPECT_EQ(Movie().size(), m_oWindow->size());
 }
 
 }  // namespace

@@ -2,9 +2,11 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QLabel>
 #include <QLineEdit>
 #include <QTest>
 #include <algorithm>
+#include <array>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -82,11 +84,6 @@ inline bool IsGrey(const Control& oControl) {
   return oControl.ForeColor() == kColourGreyText;
 }
 
-/// Out of config mode the Show boxes stand beyond the panel's edge, disabled.
-inline bool IsOnView(const Control& oControl) {
-  return oControl.Visible() && (oControl.Enabled() || !IsShowCheck(oControl));
-}
-
 /// How far a caption may reach, in its panel's pixels: to the next control of its row on view, or
 /// to the panel's edge.
 inline int RoomFor(const Control& oCaptioned) {
@@ -102,25 +99,36 @@ inline int RoomFor(const Control& oCaptioned) {
   return nRoom - oWidget.x();
 }
 
-/// Those captions on view that are cut off at any zoom that the program offers.
-inline std::string ClippedCaptionsIn(SectionPanel& oPanel) {
+/// What is cut off of the captions and amounts on view in a window or a part of it.
+inline std::string ClippedIn(const QWidget& oWindow) {
   std::string sClipped;
-  for (const double fZoom : {0.75, 1.0, 1.25, 1.5, 2.0, 3.0}) {
-    SetZoom(fZoom);
-    RescaleAll(*oPanel.window());
-    for (Control* const pControl : AllControls(oPanel)) {
-      const int nWanted = pControl->Widget().sizeHint().width();
-      const int nRoom = std::min(pControl->Widget().width(), RoomFor(*pControl));
-      if (!pControl->Caption().isEmpty() && !IsHeaderImage(*pControl) && IsOnView(*pControl) &&
-          nWanted > nRoom) {
-        sClipped += pControl->Name() + " at zoom " + std::to_string(fZoom) + ": " +
-                    std::to_string(nWanted) + " in " + std::to_string(nRoom) + "\n";
-      }
+  for (const QWidget* const pWidget : oWindow.findChildren<QWidget*>()) {
+    const auto* const pControl = dynamic_cast<const Control*>(pWidget);
+    const auto* const pLabel = qobject_cast<const QLabel*>(pWidget);
+    QSize oWanted;
+    QSize oRoom = pWidget->size();
+    if (const auto* const pText = qobject_cast<const QLineEdit*>(pWidget)) {
+      constexpr int kToolkitsMargin = 2;
+      oWanted = {pText->fontMetrics().horizontalAdvance(pText->text()),
+                 pText->fontMetrics().ascent() + pText->fontMetrics().descent()};
+      oRoom =
+          oRoom.shrunkBy(pText->textMargins() + QMargins(kToolkitsMargin, 0, kToolkitsMargin, 0));
+    } else if (pControl != nullptr && !pControl->Caption().isEmpty() && !IsHeaderImage(*pControl)) {
+      const bool bWraps = pLabel != nullptr && pLabel->wordWrap();
+      oWanted = bWraps ? QSize(0, pLabel->heightForWidth(pLabel->width()))
+                       : QSize(pWidget->sizeHint().width(), 0);
+      oRoom.setWidth(std::min(oRoom.width(), RoomFor(*pControl)));
+    }
+    if (pWidget->isVisible() && oWanted.boundedTo(oRoom) != oWanted) {
+      sClipped += pWidget->objectName().toStdString() + " of " +
+                  pWidget->parentWidget()->objectName().toStdString() + " at " +
+                  std::to_string(Zoom()) + ": " + std::to_string(oWanted.width()) + " in " +
+                  std::to_string(oRoom.width()) + "\n";
     }
   }
-  SetZoom(1.0);
-  RescaleAll(*oPanel.window());
   return sClipped;
 }
+
+inline constexpr std::array kZooms = {0.75, 1.0, 1.25, 1.5, 2.0, 3.0};
 
 }  // namespace quillet

@@ -41,6 +41,20 @@ inline std::string OverlapsIn(const SectionPanel& oPanel) {
   return sOverlaps;
 }
 
+/// The sections of a view and the panels within them.
+inline std::vector<SectionPanel*> AllPanels(const SectionSet& oSet) {
+  std::vector<SectionPanel*> aoPanels;
+  for (SectionPanel* const pSection : oSet.Sections()) {
+    aoPanels.push_back(pSection);
+    for (Control* const pControl : AllControls(*pSection)) {
+      if (auto* const pPanel = dynamic_cast<SectionPanel*>(pControl)) {
+        aoPanels.push_back(pPanel);
+      }
+    }
+  }
+  return aoPanels;
+}
+
 /// The height of each panel and the tops of its rows on view.
 inline std::string PlacesOf(const std::array<SectionPanel*, 5>& aoSections) {
   std::string sPlaces;

@@ -126,6 +126,18 @@ inline std::string WrongIn(const SectionPanel& oSection, clsCalculate& oAuction)
       sWrong += std::string(sBox) + " ";
     }
   }
+  const std::vector<std::pair<const char*, bool>> abInUse = {
+      {"ctlMotorAuction", oAuction.m_oAuctionType.m_eAuctionType == kAuctionMotor},
+      {"ctlRealEstateOption", oAuction.m_oAuctionType.m_eAuctionType == kAuctionRealEstate},
+      {"ctlShopDuration", oAuction.m_oAuctionType.m_bShopInventory},
+      {"ctlPaypalBusinessType", oAuction.m_oPayPal.m_eAccountType != kAccountPersonal}};
+  for (const auto& [sPanel, bInUse] : abInUse) {
+    if (auto* const pPanel = dynamic_cast<SectionPanel*>(oSection.Find(sPanel))) {
+      sWrong += NamesWhere(*pPanel, [bInUse = bInUse](const Control& o) {
+        return dynamic_cast<const Choice*>(&o) != nullptr && !IsShowCheck(o) && IsGrey(o) == bInUse;
+      });
+    }
+  }
   const std::vector<std::pair<std::string, Single>> aoTotals = {
       {"AuctionType", oAuction.m_oAuctionType.DoCalcAuto()},
       {"SellingFeatures", oAuction.m_oSellingFeatures.LastFee()},

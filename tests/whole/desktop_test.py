@@ -67,26 +67,6 @@ class WholeProgram(unittest.TestCase):
         self.assertEqual((screen.home / "Documents/camera.qlt").read_text(encoding="utf-8"), saved)
 
     @on_a_screen
-    def test_second_start_loads_what_the_first_has_saved(self):
-        screen = self.screen
-        screen.start()
-        screen.keys("ctrl+1")
-        self.focus_first_box()
-        self.enter_camera()
-        self.save_as("camera.qlt")
-        screen.keys("ctrl+q")
-        self.assertEqual(screen.gone(), 0)
-        screen.start()
-        screen.keys("ctrl+1", "ctrl+o")
-        screen.window("Open.*")
-        screen.type("camera.qlt")
-        screen.keys("Return")
-        screen.window("Quillet US - camera")
-        self.save_as("again.qlt")
-        documents = screen.home / "Documents"
-        self.assertEqual((documents / "again.qlt").read_text(), (documents / "camera.qlt").read_text())
-
-    @on_a_screen
     def test_a_dragged_section_stays_where_it_was_put(self):
         screen = self.screen
         screen.start()

@@ -70,41 +70,15 @@ class Desktop:
         walk(self.application, "")
         return controls if wanted in controls else None
 
-    def control(self, section, name, role, number=0):
+    def control(self, section, name, role):
         found = self.controls.get((section, name, role), [])
-        if len(found) != 1 and not number:
+        if len(found) != 1:
             raise AssertionError(f"{len(found)} controls are {role} {name!r} of {section!r}")
-        return found[number]
+        return found[0]
 
     def click(self, control):
         place = control.get_extents(Atspi.CoordType.SCREEN)
         self.screen.click(place.x + 8, place.y + place.height // 2)
-
-    @staticmethod
-    def is_chosen(control):
-        return control.get_state_set().contains(Atspi.StateType.CHECKED)
-
-    def tick(self, section, name, wanted):
-        box = self.controls.get((section, name, "check box"))
-        if not box and not wanted:
-            return  # a row of the other region
-        box = self.control(section, name, "check box")
-        if self.is_chosen(box) != wanted:
-            self.click(box)
-            wait_for(f"{name} to be {wanted}", lambda: self.is_chosen(box) == wanted)
-
-    def choose(self, section, name):
-        option = self.control(section, name, "radio button")
-        self.click(option)
-        wait_for(f"{name} to be chosen", lambda: self.is_chosen(option))
-
-    def choose_nth(self, section, number):
-        """For options that the fee schedule names."""
-        options = [control for (group, _, role), found in self.controls.items()
-                   for control in found if group == section and role == "radio button"]
-        options.sort(key=lambda control: control.get_extents(Atspi.CoordType.SCREEN).y)
-        self.click(options[number])
-        wait_for(f"{section} {number}", lambda: self.is_chosen(options[number]))
 
     def type(self, section, name, text):
         box = self.control(section, name, "text")

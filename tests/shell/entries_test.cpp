@@ -1,0 +1,307 @@
+// What a seller enters into the calculator: clicks and typing, and the text of the auction then.
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+#include "base/clsRegistryAccess.h"
+#include "shell/frmMain.h"
+#include "support/ByRegion.h"
+#include "support/Prices.h"
+#include "support/Screen.h"
+#include "support/TestHost.h"
+
+namespace quillet {
+namespace {
+
+/// Clicks "name" and types "name=text", the fields of the section as they are saved then, and its
+/// total, which is null where the region lacks a row.
+struct Entry {
+  const char* sScript;
+  const char* sFields;
+  const char* sUnitedStates = "";
+  const char* sUnitedKingdom = "";
+};
+
+class Entries : public ::testing::Test {
+ protected:
+  Entries() {
+    ClearAuctions();
+    Registry().Set(settings::kStartMode, "1");
+    Registry().Set(settings::kZoom, "100");
+    m_oWindow.Show();
+    m_oWindow.activateWindow();  // else a box isn't left
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&m_oWindow));
+    StartAnew();
+  }
+
+  void StartAnew() {
+    std::string sAuction =
+        "[TYPE]000|False|False|3|0|0|0|False[TYPE][OUTLAY]0|10|0|30|1|False[OUTLAY]"
+        "[FEATURES]0|0[FEATURES][PAYPAL]False|0|1|False[PAYPAL]"
+        "[POSTAGE]False|0|0|0|0|False|False|False|0|False[POSTAGE]";
+    WorkingAuction().Serialize(sAuction, false);
+    WorkingAuction().SetDirty(false);
+    m_oWindow.Calculator().RefreshSums(true);
+  }
+
+  /// Where a name stands twice, the one in that section is meant.
+  void Play(const SectionPanel& oSection, const std::string& sScript) {
+    std::istringstream oScript(sScript);
+    for (std::string sStep; oScript >> sStep;) {
+      const std::size_t nEquals = sStep.find('=');
+      const std::string sName = sStep.substr(0, nEquals);
+      const SectionPanel* pPanel = &oSection;
+      for (const SectionPanel* const pOther : m_oSet.Sections()) {
+        pPanel = HasControl(*pPanel, sName) ? pPanel : pOther;
+      }
+      if (nEquals == std::string::npos) {
+        ClickOn(*pPanel, sName);
+      } else {
+        TypeInto(*pPanel, sName, sStep.substr(nEquals + 1));
+      }
+    }
+  }
+
+  static bool HasControl(const SectionPanel& oPanel, const std::string& sName) {
+    return !NamesWhere(oPanel, [&](const Control& o) { return o.Name() == sName; }).empty();
+  }
+
+  void Expect(const SectionPanel& oSection, const std::string& sMarker,
+              const std::vector<Entry>& aoEntries) {
+    for (const Entry& oEntry : aoEntries) {
+      const char* const sTotal = ByRegion(oEntry.sUnitedKingdom, oEntry.sUnitedStates);
+      if (sTotal == nullptr) {
+        continue;
+      }
+      SCOPED_TRACE(oEntry.sScript);
+      StartAnew();
+      Play(oSection, oEntry.sScript);
+      const std::string sText = TextOf(WorkingAuction());
+      EXPECT_NE(sText.find(sMarker + oEntry.sFields + sMarker), std::string::npos) << sText;
+      EXPECT_TRUE(WorkingAuction().IsDirty());
+      EXPECT_EQ(WrongOnScreen(m_oSet, WorkingAuction()), "");
+      if (*sTotal != '\0') {
+        EXPECT_EQ(Caption(oSection, "lblTotal"), std::string("Section Total ") + sTotal);
+      }
+    }
+  }
+
+  static bool IsInput(const Control& o) {
+    return dynamic_cast<const ctlNumericText*>(&o) != nullptr ||
+           (dynamic_cast<const Choice*>(&o) != nullptr && !IsShowCheck(o));
+  }
+
+  static std::string Caption(const SectionPanel& oSection, const char* sName) {
+    return ControlOf(oSection, sName).Caption().toStdString();
+  }
+
+  ScopedHost m_oHost;
+  frmMain m_oWindow;
+  const SectionSet& m_oSet = m_oWindow.Calculator().Set();
+};
+
+// Fixed price and shop put each other out; the shop goes with a standard auction only, and without
+// it there is no duration. What a grey option is clicked to is kept; a grey box doesn't stay
+// ticked.
+TEST_F(Entries, TheKindOfListingIsTheOneClickedLast) {
+  Expect(
+      m_oSet.ctlAuctionTypeSection, "[TYPE]",
+      {{"chkBuyItNow chkBuyItNow", "000|False|False|3|0|0|0|False"},
+       {"chkShopInventory optShop30Days", "000|False|True|0|0|0|0|False"},
+       {"chkShopInventory optShop90Days", "000|False|True|1|0|0|0|False"},
+       {"chkShopInventory optShop90Days optShopGoodTillCancelled", "000|False|True|2|0|0|0|False"},
+       {"chkShopInventory optShop90Days chkShopInventory", "000|False|False|3|0|0|0|False"},
+       {"chkShopInventory optShop90Days chkBuyItNow", "000|True|False|3|0|0|0|False"},
+       {"chkShopInventory optShop90Days optMotorAuction", "001|False|False|3|0|0|0|False"},
+       {"chkBuyItNow chkShopInventory optShop30Days", "000|False|True|0|0|0|0|False"},
+       {"optRealEstateAuction chkShopInventory optShop30Days", "000|False|True|0|0|0|0|False"},
+       {"chkBuyItNow optRealEstateAuction", "002|True|False|3|0|0|0|False"},
+       {"chkBuyItNow optMotorAuction optStandardAution", "000|True|False|3|0|0|0|False"},
+       {"optShop90Days", "000|False|False|3|0|0|0|False"},
+       {"chkShopInventory optBusinessAuction", "003|False|False|3|0|0|0|False", "", nullptr},
+       {"chkShopInventory optShop60Days", "000|False|True|4|0|0|0|False", "", nullptr},
+       {"chkShopInventory optShop120Days", "000|False|True|5|0|0|0|False", "", nullptr},
+       {"optMotorAuction optMotorcycle", "001|False|False|3|1|0|0|False", "", nullptr},
+       {"optMotorAuction optPowersports", "001|False|False|3|2|0|0|False", "", nullptr},
+       {"optMotorAuction optPocketBikes", "001|False|False|3|3|0|0|False", "", nullptr},
+       {"optMotorAuction optOtherVehicle", "001|False|False|3|4|0|0|False", "", nullptr},
+       {"optMotorAuction optParts optPassenger", "001|False|False|3|0|0|0|False", "", nullptr},
+       {"optParts", "000|False|False|3|5|0|0|False", "", nullptr},
+       {"optRealEstateAuction optRealEstate30DayAuction", "002|False|False|3|0|0|1|False", "",
+        nullptr},
+       {"optRealEstateAuction optRealEstate30DayAd", "002|False|False|3|0|0|2|False", "", nullptr},
+       {"optRealEstateAuction optRealEstate90DayAd", "002|False|False|3|0|0|3|False", "", nullptr},
+       {"optRealEstateAuction chkRealEstateBinding optRealEstateOther",
+        "002|False|False|3|0|1|0|True", "", nullptr},
+       {"optRealEstateAuction chkRealEstateBinding optMotorAuction optRealEstateAuction",
+        "002|False|False|3|0|0|0|False", "", nullptr},
+       {"chkRealEstateBinding", "000|False|False|3|0|0|0|False", "", nullptr}});
+}
+
+TEST_F(Entries, EachAmountGoesIntoItsField) {
+  Expect(m_oSet.ctlOutlaySection, "[OUTLAY]",
+         {{"txtOutlay=40 txtStartingPrice=1 txtReservePrice=2.5 txtEstimatedEndPrice=149 "
+           "txtQuantity=3",
+           "40|1|2.5|149|3|False"},
+          {"chkOutlayInclTax", "0|10|0|30|1|True", nullptr, ""}});
+  Play(m_oSet.ctlAuctionTypeSection, "chkBuyItNow");
+  EXPECT_EQ(Caption(m_oSet.ctlOutlaySection, "lblEstimatedEndPrice"), "Buy it Now Price");
+}
+
+TEST_F(Entries, EachFeatureIsABitAndItsFeeTheTotal) {
+  Expect(m_oSet.ctlSellingFeaturesSection, "[FEATURES]",
+         {{"chkHomePageFeatured", "1|0", "$39.95", "£49.95"},
+          {"chkFeaturePlus", "2|0", "$19.95", "£9.95"},
+          {"chkHighlight", "4|0", "$5.00", "£2.50"},
+          {"chkItemSubtitle", "8|0", "$0.50", "£0.35"},
+          {"chkBold", "16|0", "$1.00", "£0.75"},
+          {"chkBold chkBold", "0|0", "$0.00", "£0.00"},
+          {"chkGallery", "32|0", "$0.35", "£0.15"},
+          {"chkFeaturedGallery", "64|0", "$19.95", "£15.95"},
+          {"chkBuyItNow", "128|0", "$0.20", "£0.05"},  // United States: the tier of 30.00
+          {"chkScheduledListing", "256|0", "$0.10", "£0.06"},
+          {"chkListIn2Categories", "512|0", "$0.00", "£0.00"},  // twice nothing
+          {"chkSlideShow", "1024|0", "$0.25", "£0.15"},
+          {"chkSuperSizedPicures", "2048|0", "$0.75", "£0.60"},
+          {"chkListingDesigner", "8192|0", "$0.10", "£0.07"},
+          {"chkShopInventory optShop30Days chkFeaturedInSearch", "16384|0", "$9.95", "£4.95"},
+          {"chk10DayDuration", "32768|0", "$0.40", nullptr},
+          {"chkGiftServices", "65536|0", "$0.25", nullptr},
+          {"chkPreviewPicture", "131072|0", "$0.15", nullptr},
+          {"chkBorder", "262144|0", "$3.00", nullptr},
+          {"optMotorAuction chkListingItem", "524288|0", "$1.00", nullptr},
+          {"optMotorAuction chkCarAd", "1048576|0", "$9.95", nullptr},
+          // The picture pack takes one picture at least, and as many as its last tier.
+          {"chkPicturePack", "4096|1", "$1.00", "£0.90"},
+          {"txtExtraPictures=4 chkPicturePack", "4096|4"},
+          {"txtExtraPictures=40 chkPicturePack", "4096|12"},
+          {"txtExtraPictures=40 chkPicturePack chkPicturePack txtExtraPictures=100", "0|100"}});
+}
+
+TEST_F(Entries, PayPalIsChargedByTheAccountAndThePayments) {
+  // United States: 2.9 % + 0.30 for a personal account and band 1, 2.2 % for band 3.
+  // United Kingdom: 3.4 % + 0.20, and 2.4 %.
+  Expect(m_oSet.ctlPayPalSection, "[PAYPAL]",
+         {{"txtEstimatedEndPrice=100 chkUsePayPal", "True|0|1|False", "$3.20", "£3.60"},
+          {"txtEstimatedEndPrice=100 chkUsePayPal optBand3 optPremierAccount", "True|1|3|False",
+           "$2.50", "£2.60"},
+          {"txtEstimatedEndPrice=100 optBusinessAccount optBand5 optPersonalAccount chkUsePayPal",
+           "True|0|5|False", "$3.20", "£3.60"},
+          // Two payments: the fixed charge comes twice. One can't be split.
+          {"txtEstimatedEndPrice=50 txtQuantity=2 chkUsePayPal chkPayInduvidually", "True|0|1|True",
+           "$3.50", "£3.80"},
+          {"txtQuantity=2 chkPayInduvidually txtQuantity=1 optPremierAccount", "False|1|1|False"},
+          {"chkPayInduvidually optPremierAccount", "False|1|1|False"}});
+}
+
+TEST_F(Entries, PostageGoesOnToTheServiceThatTakesTheParcel) {
+  Expect(m_oSet.ctlPostageSection, "[POSTAGE]",
+         {{"chkUsePostage txtWeight=0.2 optSecondClass", "True|0.2|1|0|0|False|False|False|0|False",
+           nullptr, "£1.09"},
+          // Beyond the second class: on to the parcel, and beyond that to manual.
+          {"chkUsePostage txtWeight=1.1 optSecondClass", "True|1.1|2|0|0|False|False|False|0|False",
+           nullptr, "£3.85"},
+          {"chkUsePostage optParcelService txtWeight=20.5",
+           "True|20.5|3|0|0|False|False|False|0|False", nullptr, "£0.00"},
+          // The first class never ends: 4.74 and 0.85 for each of three quarters of a kilogram.
+          {"chkUsePostage txtWeight=2", "True|2|0|0|0|False|False|False|0|False", nullptr, "£7.29"},
+          {"chkUsePostage optManual txtManual=8.5", "True|0|3|8.5|0|False|False|False|0|False",
+           "$8.50", "£8.50"},
+          {"chkUsePostage optManual txtManual=8.5 txtManual=abc",
+           "True|0|3|8.5|0|False|False|False|0|False", "$8.50", "£8.50"},
+          {"txtQuantity=3 chkUsePostage optManual txtManual=8.5 chkSendInduvidually",
+           "True|0|3|8.5|0|False|False|False|0|True", "$25.50", "£25.50"},
+          {"chkProfit txtProfit=2 optManual", "False|0|3|0|0|False|False|True|2|False"},
+          // Only a parcel is insured above the first band. The band stays with another class,
+          // without a premium, until the bands are clicked.
+          {"chkUsePostage optParcelService optBand3", "True|0|2|0|2|False|False|False|0|False",
+           nullptr, "£6.10"},
+          {"chkUsePostage optBand3", "True|0|0|0|0|False|False|False|0|False", nullptr, "£1.00"},
+          {"chkUsePostage optParcelService optBand3 optFirstClass",
+           "True|0|0|0|2|False|False|False|0|False", nullptr, "£1.00"},
+          {"chkUsePostage optParcelService optBand3 optFirstClass optBand2",
+           "True|0|0|0|0|False|False|False|0|False", nullptr, "£1.00"},
+          // Proof of delivery goes with recorded delivery, and that with letters.
+          {"chkUsePostage chkRecordedDelivery chkProofOfDelivery",
+           "True|0|0|0|0|True|True|False|0|False", nullptr, "£3.88"},
+          {"chkUsePostage chkRecordedDelivery chkProofOfDelivery chkRecordedDelivery",
+           "True|0|0|0|0|False|False|False|0|False", nullptr, "£1.00"},
+          {"txtQuantity=2 chkUsePostage chkRecordedDelivery optParcelService chkSendInduvidually",
+           "True|0|2|0|0|False|False|False|0|True", nullptr, "£7.70"}});
+}
+
+TEST_F(Entries, AScheduleWithoutTheTiersLeavesTheSectionUsable) {
+  UseSchedule("");
+  Play(m_oSet.ctlPostageSection, "chkUsePostage");
+  UseShippedSchedule();
+  Play(m_oSet.ctlPostageSection, "chkUsePostage");
+  EXPECT_EQ(WrongOnScreen(m_oSet, WorkingAuction()), "");
+}
+
+TEST_F(Entries, TheScheduleNamesThePostAndTheBandsAndPricesTheServices) {
+  const SectionPanel& oPostage = m_oSet.ctlPostageSection;
+  EXPECT_EQ(Caption(oPostage, "chkUsePostage"), ByRegion("Use Royal Mail Postage", "Use Postage"));
+  EXPECT_EQ(ControlOf(oPostage, "chkShowUsePostage").Widget().accessibleName().toStdString(),
+            ByRegion("Show Use Royal Mail Postage", "Show Use Postage"));
+  EXPECT_EQ(Caption(oPostage, "optBand4"), ByRegion("up to £2500", "not offered"));
+  EXPECT_EQ(Caption(m_oSet.ctlPayPalSection, "optBand2"), ByRegion("to £6000", "to $10000"));
+  Play(oPostage, "optParcelService optBand4 txtWeight=0.3");
+  const std::string sInsurance = Caption(oPostage, "lblParcelInsuranceCost");
+  Play(oPostage, "optFirstClass chkRecordedDelivery chkProofOfDelivery");
+  std::string sPrices = sInsurance;
+  for (const char* const sLabel : {"lblSecondClass", "lblFirstClass", "lblParcelService",
+                                   "lblRecordedDelivery", "lblProofOfDelivery"}) {
+    sPrices += " " + Caption(oPostage, sLabel);
+  }
+  EXPECT_EQ(sPrices,
+            ByRegion("£8.00 £1.44 £1.70 £3.85 £0.68 £2.20", "$0.00 $0.00 $0.00 $0.00 $0.00 $0.00"));
+}
+
+TEST_F(Entries, WhatCannotBeChosenIsGreyAndInAFrameDisabled) {
+  const SectionPanel& oFeatures = m_oSet.ctlSellingFeaturesSection;
+  const SectionPanel& oPostage = m_oSet.ctlPostageSection;
+  const std::string sOffered = ByRegion("chkGiftServices chkCarAd chkPreviewPicture", "chkCarAd");
+  const std::string sNoShop =
+      "chkHomePageFeatured chkFeaturePlus chkItemSubtitle chkFeaturedGallery chkBuyItNow "
+      "chkScheduledListing chkListingItem ";
+  const std::string sLetters =
+      "txtProfit chkProofOfDelivery chkRecordedDelivery optBand2 optBand3 optBand4 "
+      "optParcelService optFirstClass optSecondClass chkSendInduvidually lblProofOfDelivery "
+      "lblRecordedDelivery lblParcelService lblFirstClass lblSecondClass";
+  const struct {
+    const SectionPanel& oSection;
+    const char* sScript;
+    std::string sGrey;
+  } aoRows[] = {
+      {m_oSet.ctlOutlaySection, "", ""},
+      {m_oSet.ctlOutlaySection, "chkBuyItNow",
+       "txtReservePrice txtStartingPrice lblReservePrice lblStartingPrice"},
+      {oFeatures, "", "chkFeaturedInSearch chkListingItem " + sOffered},
+      {oFeatures, "chkBuyItNow", "chkBuyItNow chkFeaturedInSearch chkListingItem " + sOffered},
+      {oFeatures, "chkShopInventory", sNoShop + sOffered},
+      {oFeatures, "optMotorAuction",
+       ByRegion("chkFeaturedInSearch chkGiftServices chkCarAd chkPreviewPicture",
+                "chkFeaturedInSearch chkGiftServices")},
+      {oFeatures, "optMotorAuction optParts",
+       ByRegion("chkFeaturedInSearch chkListingItem chkGiftServices chkCarAd chkPreviewPicture",
+                "chkFeaturedInSearch chkListingItem")},
+      {oPostage, "chkUsePostage",
+       ByRegion<std::string>("txtProfit chkProofOfDelivery optBand2 optBand3 optBand4 "
+                             "chkSendInduvidually lblProofOfDelivery",
+                             sLetters)},
+  };
+  for (const auto& [oSection, sScript, sGrey] : aoRows) {
+    SCOPED_TRACE(sScript);
+    StartAnew();
+    Play(m_oSet.ctlAuctionTypeSection, sScript);
+    EXPECT_EQ(NamesWhere(oSection, IsGrey), sGrey);
+    EXPECT_EQ(NamesWhere(oSection,
+                         [](const Control& o) { return IsInput(o) && !o.Widget().isEnabled(); }),
+              &oSection == &oPostage
+                  ? "txtProfit chkSendInduvidually"
+                  : NamesWhere(oSection, [](const Control& o) { return IsInput(o) && IsGrey(o); }));
+  }
+}
+
+}  // namespace
+}  // namespace quillet
