@@ -12,9 +12,9 @@ add_library(quillet_desktop STATIC
   look/ShockwaveFlash.cpp
   look/Theme.cpp
   look/ThemeStyle.cpp
-  look/card.cpp
   look/font.cpp
   look/icons.cpp
+  look/marks.cpp
   look/movies/AboutMovie.cpp
   look/movies/ButtonMovie.cpp
   look/movies/MovieButton.cpp

@@ -2,12 +2,10 @@
 
 #include <QKeyEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <QStyle>
-#include <algorithm>
-#include <array>
 
 #include "look/icons.h"
+#include "look/marks.h"
 #include "look/palette.h"
 #include "look/scale.h"
 
@@ -19,26 +17,6 @@ constexpr int kPageIconSize = 240;
 constexpr int kPictureGap = 120;
 constexpr int kPageIndent = 120;
 constexpr int kEdge = 45;  // around the face, for the line that shows the focus
-
-/// In units of the picture's square.
-QPainterPath PathOf(ButtonPicture ePicture, const QRectF& oSquare) {
-  constexpr std::array kBack = {QPointF(0.68, 0.1), QPointF(0.28, 0.5), QPointF(0.68, 0.9)};
-  constexpr std::array kNext = {QPointF(0.32, 0.1), QPointF(0.72, 0.5), QPointF(0.32, 0.9)};
-  constexpr std::array kFinish = {QPointF(0.02, 0.52), QPointF(0.36, 0.86), QPointF(0.98, 0.16)};
-  const auto& aoPoints = ePicture == ButtonPicture::Back   ? kBack
-                         : ePicture == ButtonPicture::Next ? kNext
-                                                           : kFinish;
-  QPainterPath oPath;
-  for (const QPointF& oPoint : aoPoints) {
-    const QPointF oAt = oSquare.topLeft() + oPoint * oSquare.width();
-    if (oPath.elementCount() == 0) {
-      oPath.moveTo(oAt);
-    } else {
-      oPath.lineTo(oAt);
-    }
-  }
-  return oPath;
-}
 
 bool IsIcon(ButtonPicture ePicture) {
   return ePicture == ButtonPicture::About || ePicture == ButtonPicture::Settings;
@@ -136,24 +114,22 @@ QColor ImageButton::WordsColour() const {
 
 void ImageButton::paintEvent(QPaintEvent* /*pEvent*/) {
   constexpr double kRadius = 5.0;
-  constexpr double kRing = 2.5;  // how far the focus line lies outside
+  constexpr double kRingRadius = 7.5;
+  constexpr double kRing = 2.0;  // how far the focus line lies outside
   const QRectF oFace = Face();
   QPainter oPainter(this);
   oPainter.setRenderHint(QPainter::Antialiasing);
-  oPainter.setPen(m_bPrimary || m_bPage ? QPen(Qt::NoPen) : QPen(InkColour(Ink::FieldEdge), 1.0));
-  oPainter.setBrush(FaceColour());
-  oPainter.drawRoundedRect(oFace.adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
+  DrawRounded(oPainter, oFace.adjusted(0.5, 0.5, -0.5, -0.5), kRadius,
+              m_bPrimary || m_bPage ? QPen(Qt::NoPen) : QPen(InkColour(Ink::FieldEdge), 1.0),
+              FaceColour());
   if (hasFocus()) {
-    oPainter.setPen(QPen(InkColour(Ink::Accent), 1.5));
-    oPainter.setBrush(Qt::NoBrush);
-    oPainter.drawRoundedRect(oFace.adjusted(-kRing + 0.5, -kRing + 0.5, kRing - 0.5, kRing - 0.5),
-                             kRadius + kRing, kRadius + kRing);
+    DrawRing(oPainter, oFace.adjusted(-kRing, -kRing, kRing, kRing), kRingRadius);
   }
-  DrawWords(oPainter, oFace);
+  DrawLabel(oPainter, oFace);
 }
 
 /// The words and the picture, as one in the middle of the face, or at its left.
-void ImageButton::DrawWords(QPainter& oPainter, const QRectF& oFace) const {
+void ImageButton::DrawLabel(QPainter& oPainter, const QRectF& oFace) const {
   const int nMnemonic = style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) != 0
                             ? Qt::TextShowMnemonic
                             : Qt::TextHideMnemonic;
@@ -167,22 +143,26 @@ void ImageButton::DrawWords(QPainter& oPainter, const QRectF& oFace) const {
   const double fLeft =
       m_bPage ? oFace.left() + Pixels(kPageIndent) : oFace.center().x() - (nWords + fBeside) / 2;
   const QRectF oWords(fLeft + (bBehind ? 0 : fBeside), oFace.top(), nWords, oFace.height());
-  oPainter.setPen(WordsColour());
-  oPainter.drawText(oWords, int{Qt::AlignVCenter} | int{Qt::AlignLeft} | nMnemonic, text());
+  DrawWords(oPainter, oWords, text(), WordsColour(), nMnemonic);
   DrawPicture(oPainter, {bBehind ? fLeft + nWords + fBeside - fSize : fLeft,
                          oFace.center().y() - fSize / 2, fSize, fSize});
 }
 
 void ImageButton::DrawPicture(QPainter& oPainter, const QRectF& oSquare) const {
   constexpr double kIconStroke = 1.9;
-  if (IsIcon(m_ePicture)) {
-    DrawIcon(oPainter, m_ePicture == ButtonPicture::About ? Icon::About : Icon::Configure, oSquare,
-             isChecked() ? InkColour(Ink::Accent) : WordsColour(), kIconStroke);
-  } else if (m_ePicture != ButtonPicture::None) {
-    oPainter.setBrush(Qt::NoBrush);
-    oPainter.setPen(QPen(WordsColour(), std::max(1.6, oSquare.width() * 0.2), Qt::SolidLine,
-                         Qt::RoundCap, Qt::RoundJoin));
-    oPainter.drawPath(PathOf(m_ePicture, oSquare));
+  switch (m_ePicture) {
+    case ButtonPicture::None:
+      return;
+    case ButtonPicture::Back:
+      return DrawChevron(oPainter, oSquare, Towards::Left, WordsColour());
+    case ButtonPicture::Next:
+      return DrawChevron(oPainter, oSquare, Towards::Right, WordsColour());
+    case ButtonPicture::Finish:
+      return DrawTick(oPainter, oSquare, WordsColour());
+    case ButtonPicture::About:
+    case ButtonPicture::Settings:
+      return DrawIcon(oPainter, m_ePicture == ButtonPicture::About ? Icon::About : Icon::Configure,
+                      oSquare, isChecked() ? InkColour(Ink::Accent) : WordsColour(), kIconStroke);
   }
 }
 

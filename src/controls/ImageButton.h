@@ -55,7 +55,7 @@ class ImageButton : public QAbstractButton, public Control {
   [[nodiscard]] QColor PageColour() const;
   [[nodiscard]] QColor WordsColour() const;
   void DrawPicture(QPainter& oPainter, const QRectF& oSquare) const;
-  void DrawWords(QPainter& oPainter, const QRectF& oFace) const;
+  void DrawLabel(QPainter& oPainter, const QRectF& oFace) const;
 
   ButtonPicture m_ePicture = ButtonPicture::None;
   bool m_bPrimary = false;

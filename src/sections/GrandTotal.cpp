@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "look/font.h"
+#include "look/marks.h"
 #include "look/palette.h"
 #include "look/scale.h"
 
@@ -65,11 +66,9 @@ void GrandTotal::paintEvent(QPaintEvent* /*pEvent*/) {
   }
 
   QPainter oPainter(this);
-  oPainter.setPen(ColourOf(ForeColor()));
   const auto fnDraw = [&](const QString& sText, const QFont& oFont, double fFrom) {
     oPainter.setFont(oFont);
-    oPainter.drawText(QRectF(rect()).adjusted(fFrom, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft,
-                      sText);
+    DrawWords(oPainter, QRectF(rect()).adjusted(fFrom, 0, 0, 0), sText, ColourOf(ForeColor()));
   };
   fnDraw(sAmount, FontOf(kGrandTotalPoints * fShrink), fLeft);
   fnDraw(sPercent, PercentFontOf(kGrandTotalPoints * fShrink), fLeft + fAmount * fShrink);

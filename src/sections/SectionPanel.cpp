@@ -7,6 +7,7 @@
 #include "base/FlagGuard.h"
 #include "base/failure.h"
 #include "look/font.h"
+#include "look/marks.h"
 #include "look/palette.h"
 #include "look/scale.h"
 #include "sections/VisibleList.h"
@@ -235,9 +236,8 @@ void SectionPanel::paintEvent(QPaintEvent* /*pEvent*/) {
   oFont.setLetterSpacing(QFont::PercentageSpacing, 112);
   oFont.setCapitalization(QFont::AllUppercase);
   oPainter.setFont(oFont);
-  oPainter.setPen(InkColour(Ink::FaintText));
-  oPainter.drawText(QRect(Pixels(ContentLeft()), 0, width(), Pixels(kTitleHeight)),
-                    Qt::AlignVCenter | Qt::AlignLeft, QString::fromUtf8(Title()));
+  DrawWords(oPainter, QRect(Pixels(ContentLeft()), 0, width(), Pixels(kTitleHeight)),
+            QString::fromUtf8(Title()), InkColour(Ink::FaintText));
 }
 
 void SectionPanel::Placed() {

@@ -10,6 +10,7 @@
 #include "base/conversions.h"
 #include "base/text.h"
 #include "controls/SpinButton.h"
+#include "look/marks.h"
 #include "look/palette.h"
 #include "look/scale.h"
 
@@ -283,24 +284,17 @@ void ctlNumericText::wheelEvent(QWheelEvent* pEvent) {
 }
 
 void ctlNumericText::paintEvent(QPaintEvent* /*pEvent*/) {
-  constexpr double kRadius = 3.0;
-  const bool bFocus = m_pText->hasFocus();
-  const Ink eEdge = m_bRefused ? Ink::Error : bFocus ? Ink::Accent : Ink::FieldEdge;
-  const double fLine = bFocus || m_bRefused ? 2.0 : 1.0;
+  const Ink eEdge = m_bRefused ? Ink::Error : m_pText->hasFocus() ? Ink::Accent : Ink::FieldEdge;
   QPainter oPainter(this);
   oPainter.setRenderHint(QPainter::Antialiasing);
-  oPainter.setPen(QPen(InkColour(eEdge), fLine));
-  oPainter.setBrush(InputGround(m_nBackColor));
   // A panel ends with the label of its last row, which can be less high than the box.
   const int nRoom = isWindow() ? height() : parentWidget()->height() - y();
   const int nBottom = std::min(height() - Pixels(kFreeBelow), nRoom);
-  const QRectF oBox =
-      QRectF(0, 0, width(), nBottom).adjusted(fLine / 2, fLine / 2, -fLine / 2, -fLine / 2);
-  oPainter.drawRoundedRect(oBox, kRadius, kRadius);
+  const double fLine =
+      DrawField(oPainter, QRectF(0, 0, width(), nBottom), eEdge, InputGround(m_nBackColor));
   oPainter.setPen(QPen(InkColour(Ink::FieldEdge), 1.0));
   const double fBetween = m_pText->width() + 0.5;
-  oPainter.drawLine(QPointF(fBetween, oBox.top() + fLine / 2),
-                    QPointF(fBetween, oBox.bottom() - fLine / 2));
+  oPainter.drawLine(QPointF(fBetween, fLine), QPointF(fBetween, nBottom - fLine));
 }
 
 void ctlNumericText::Placed() {

@@ -1,10 +1,9 @@
 #include "shell/WizardSteps.h"
 
 #include <QPainter>
-#include <QPainterPath>
-#include <algorithm>
 
 #include "look/font.h"
+#include "look/marks.h"
 #include "look/palette.h"
 #include "look/scale.h"
 
@@ -18,6 +17,7 @@ constexpr int kRule = 360;  // between two steps
 constexpr int kRuleGap = 120;
 
 constexpr double kNumberPoints = 7.0;
+constexpr double kTickInset = 0.29;  // of the dot's size
 
 QFont NameFont() {
   return ThemeFont(kTextPoints, QFont::Medium);
@@ -25,19 +25,6 @@ QFont NameFont() {
 
 double Between() {
   return Pixels(kRule + 2 * kRuleGap);
-}
-
-void DrawTick(QPainter& oPainter, const QRectF& oDot) {
-  const auto fnAt = [&](double fX, double fY) {
-    return oDot.topLeft() + QPointF(oDot.width() * fX, oDot.height() * fY);
-  };
-  QPainterPath oTick(fnAt(0.3, 0.53));
-  oTick.lineTo(fnAt(0.45, 0.67));
-  oTick.lineTo(fnAt(0.71, 0.36));
-  oPainter.setPen(QPen(InkColour(Ink::Accent), std::max(1.4, oDot.width() * 0.09), Qt::SolidLine,
-                       Qt::RoundCap, Qt::RoundJoin));
-  oPainter.setBrush(Qt::NoBrush);
-  oPainter.drawPath(oTick);
 }
 
 }  // namespace
@@ -92,10 +79,9 @@ void WizardSteps::DrawStep(QPainter& oPainter, int nStep, double fLeft) const {
   const double fDot = Pixels(kDot);
   DrawDot(oPainter, nStep, {fLeft, fMiddle - fDot / 2, fDot, fDot});
   oPainter.setFont(NameFont());
-  oPainter.setPen(InkColour(nStep == m_nCurrent ? Ink::Text : Ink::FaintText));
   const double fName = fLeft + Pixels(kDot + kNameGap);
-  oPainter.drawText(QRectF(fName, 0, width() - fName, height()), Qt::AlignVCenter | Qt::AlignLeft,
-                    m_asNames.value(nStep));
+  DrawWords(oPainter, QRectF(fName, 0, width() - fName, height()), m_asNames.value(nStep),
+            InkColour(nStep == m_nCurrent ? Ink::Text : Ink::FaintText));
   if (nStep + 1 < m_asNames.size()) {
     const double fRule = fLeft + WidthOf(nStep) + Pixels(kRuleGap);
     oPainter.setPen(QPen(InkColour(nStep < m_nCurrent ? Ink::Accent : Ink::FieldEdge), 1.0));
@@ -111,7 +97,8 @@ void WizardSteps::DrawDot(QPainter& oPainter, int nStep, const QRectF& oDot) con
   oPainter.setBrush(InkColour(bCurrent ? Ink::Accent : Ink::Panel));
   oPainter.drawEllipse(oRing);
   if (bDone) {
-    DrawTick(oPainter, oDot);
+    const double fInset = oDot.width() * kTickInset;
+    DrawTick(oPainter, oDot.adjusted(fInset, fInset, -fInset, -fInset), InkColour(Ink::Accent));
     return;
   }
   oPainter.setFont(ThemeFont(kNumberPoints, QFont::Bold));

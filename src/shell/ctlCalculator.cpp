@@ -10,7 +10,7 @@
 #include "base/clsRegistryAccess.h"
 #include "base/conversions.h"
 #include "base/failure.h"
-#include "look/card.h"
+#include "look/marks.h"
 #include "look/palette.h"
 #include "look/scale.h"
 #include "shell/MissingPriceLine.h"

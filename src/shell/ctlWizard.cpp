@@ -15,7 +15,7 @@
 #include "base/failure.h"
 #include "controls/ImageButton.h"
 #include "controls/ScrollBar.h"
-#include "look/card.h"
+#include "look/marks.h"
 #include "look/palette.h"
 #include "look/scale.h"
 #include "sections/controlHelpers.h"

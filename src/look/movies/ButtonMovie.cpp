@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "look/font.h"
+#include "look/marks.h"
 #include "look/scale.h"
 
 namespace quillet {
@@ -24,14 +25,6 @@ constexpr double kIconStroke = 1.8;
 /// The captions, in the order of the icons.
 constexpr std::array<const char*, 7> kCaptions = {"New",  "Calculator", "Wizard", "Save",
                                                   "Load", "Configure",  "About"};
-
-void DrawFocus(QPainter& oPainter) {
-  const double fInset = kFocusWidth / 2.0;
-  oPainter.setPen(QPen(InkColour(Ink::Accent), kFocusWidth));
-  oPainter.setBrush(Qt::NoBrush);
-  oPainter.drawRoundedRect(kTile.adjusted(fInset, fInset, -fInset, -fInset), kTileRadius - fInset,
-                           kTileRadius - fInset);
-}
 
 }  // namespace
 
@@ -81,12 +74,10 @@ void ButtonMovie::paintEvent(QPaintEvent* /*pEvent*/) {
   oPainter.save();
   oPainter.scale(fScale, fScale);
   if (oLook.eTile) {
-    oPainter.setPen(Qt::NoPen);
-    oPainter.setBrush(InkColour(*oLook.eTile));
-    oPainter.drawRoundedRect(kTile, kTileRadius, kTileRadius);
+    DrawRounded(oPainter, kTile, kTileRadius, Qt::NoPen, InkColour(*oLook.eTile));
   }
   if (hasFocus() && m_bShowFocus) {
-    DrawFocus(oPainter);
+    DrawRing(oPainter, kTile.adjusted(1, 1, -1, -1), kTileRadius - 1, kFocusWidth);
   }
   DrawIcon(oPainter, m_eIcon, kIcon, InkColour(oLook.eIcon), kIconStroke);
   oPainter.restore();

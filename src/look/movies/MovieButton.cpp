@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "look/font.h"
+#include "look/marks.h"
 #include "look/movies/drawing.h"
 
 namespace quillet {
@@ -53,14 +54,10 @@ void MovieButton::paintEvent(QPaintEvent* /*pEvent*/) {
   const QRectF oFace = QRectF(rect()).adjusted(1, 1, -1, -1);
   const double fRadius = kRadius * m_fScale;
   if (const std::optional<Ink> eFace = Face()) {
-    oPainter.setPen(Qt::NoPen);
-    oPainter.setBrush(InkColour(*eFace));
-    oPainter.drawRoundedRect(oFace, fRadius, fRadius);
+    DrawRounded(oPainter, oFace, fRadius, Qt::NoPen, InkColour(*eFace));
   }
   if (hasFocus()) {
-    oPainter.setPen(QPen(InkColour(Ink::Accent), 1.5));
-    oPainter.setBrush(Qt::NoBrush);
-    oPainter.drawRoundedRect(oFace, fRadius, fRadius);
+    DrawRing(oPainter, oFace, fRadius);
   }
   const QColor oInk = InkColour(isChecked()                ? Ink::Accent
                                 : underMouse() || isDown() ? Ink::Text
@@ -68,9 +65,8 @@ void MovieButton::paintEvent(QPaintEvent* /*pEvent*/) {
   const double fIcon = kIcon * m_fScale;
   const QRectF oIcon((width() - WidthOfWords()) / 2.0, (height() - fIcon) / 2.0, fIcon, fIcon);
   DrawIcon(oPainter, m_eIcon, oIcon, oInk, kStroke);
-  oPainter.setPen(oInk);
-  oPainter.drawText(QRectF(rect()).adjusted(oIcon.right() + kGap * m_fScale, 0, 0, 0),
-                    Qt::AlignVCenter | Qt::AlignLeft, text());
+  DrawWords(oPainter, QRectF(rect()).adjusted(oIcon.right() + kGap * m_fScale, 0, 0, 0), text(),
+            oInk);
 }
 
 void MovieButton::keyPressEvent(QKeyEvent* pEvent) {

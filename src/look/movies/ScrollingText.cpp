@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "look/marks.h"
 #include "look/movies/drawing.h"
 #include "look/palette.h"
 
@@ -114,8 +115,7 @@ void ScrollingText::paintEvent(QPaintEvent* /*pEvent*/) {
   }
   if (hasFocus()) {
     oPainter.setRenderHint(QPainter::Antialiasing);
-    oPainter.setPen(QPen(InkColour(Ink::Accent), 1.5));
-    oPainter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
+    DrawRing(oPainter, QRectF(rect()).adjusted(1, 1, -1, -1), 4);
   }
 }
 
