@@ -3,67 +3,16 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <QSignalBlocker>
 #include <algorithm>
-#include <cmath>
 
 #include "controls/OptionInterface.h"
 #include "look/font.h"
+#include "look/marks.h"
 #include "look/palette.h"
 #include "look/scale.h"
 
 namespace quillet {
-namespace {
-
-QColor MarkColour(const Control& oControl, Ink eInk) {
-  return oControl.ForeColor() == kColourGreyText ? InkColour(Ink::GreyText) : InkColour(eInk);
-}
-
-QRectF MarkRect(const QWidget& oWidget) {
-  const double fSize = MarkPlacesAtZoom().fSize;
-  return {0.5, std::floor((oWidget.height() - fSize) / 2.0) + 0.5, fSize, fSize};
-}
-
-/// The caption, and the line around it that shows where the keyboard is.
-void DrawCaption(QPainter& oPainter, const QAbstractButton& oButton, const Control& oControl) {
-  const QRect oText = oButton.rect().adjusted(MarkPlacesAtZoom().nTextLeft, 0, 0, 0);
-  oPainter.setPen(ColourOf(oControl.ForeColor()));
-  oPainter.drawText(oText, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextShowMnemonic, oButton.text());
-}
-
-void DrawFocus(QPainter& oPainter, const QRectF& oMark, double fRadius) {
-  constexpr double kGap = 2.0;
-  oPainter.setBrush(Qt::NoBrush);
-  oPainter.setPen(QPen(InkColour(Ink::Accent), 1.5));
-  oPainter.drawRoundedRect(oMark.adjusted(-kGap + 1.5, -kGap, kGap, kGap), fRadius + kGap,
-                           fRadius + kGap);
-}
-
-void DrawTick(QPainter& oPainter, const QRectF& oMark, const QColor& oColour) {
-  QPainterPath oPath;
-  oPath.moveTo(oMark.left() + oMark.width() * 0.24, oMark.top() + oMark.height() * 0.53);
-  oPath.lineTo(oMark.left() + oMark.width() * 0.43, oMark.top() + oMark.height() * 0.71);
-  oPath.lineTo(oMark.left() + oMark.width() * 0.77, oMark.top() + oMark.height() * 0.32);
-  oPainter.setBrush(Qt::NoBrush);
-  oPainter.setPen(QPen(oColour, std::max(1.4, oMark.width() * 0.14), Qt::SolidLine, Qt::RoundCap,
-                       Qt::RoundJoin));
-  oPainter.drawPath(oPath);
-}
-
-QSize CaptionSize(const QAbstractButton& oButton) {
-  const QSize oText = oButton.fontMetrics().size(Qt::TextShowMnemonic, oButton.text());
-  return {oText.width() + MarkPlacesAtZoom().nTextLeft, oText.height()};
-}
-
-}  // namespace
-
-MarkPlaces MarkPlacesAtZoom() {
-  constexpr double kSizeInTwips = 165;
-  constexpr double kTextLeftInTwips = 255;
-  return {static_cast<double>(Pixels(kSizeInTwips)), Pixels(kTextLeftInTwips)};
-}
-
 Label::Label(QWidget* pParent)
     : QLabel(pParent), Control(static_cast<QWidget&>(*this)), m_fPoints(kTextPoints) {
   setTextFormat(Qt::PlainText);
@@ -99,72 +48,11 @@ void Label::Rescale() {
   SetWidth(Width());
 }
 
-CheckBox::CheckBox(QWidget* pParent) : QCheckBox(pParent), Choice(static_cast<QWidget&>(*this)) {}
-
-void CheckBox::SetCaption(const QString& sCaption) {
-  setText(sCaption);
-  SetWidth(Width());
-}
-
-QSize CheckBox::sizeHint() const {
-  return CaptionSize(*this);
-}
-
-void CheckBox::paintEvent(QPaintEvent* /*pEvent*/) {
-  constexpr double kRadius = 0.22;  // of the mark's size, or a small one would look like an option
-  QPainter oPainter(this);
-  oPainter.setRenderHint(QPainter::Antialiasing);
-  const QRectF oMark = MarkRect(*this);
-  const double fRadius = oMark.width() * kRadius;
-  oPainter.setPen(QPen(MarkColour(*this, isChecked() ? Ink::Accent : Ink::FaintText), 1.0));
-  oPainter.setBrush(isChecked() ? MarkColour(*this, Ink::Accent) : InkColour(Ink::Field));
-  oPainter.drawRoundedRect(oMark, fRadius, fRadius);
-  if (isChecked()) {
-    DrawTick(oPainter, oMark, InkColour(Ink::OnAccent));
-  }
-  if (hasFocus()) {
-    DrawFocus(oPainter, oMark, fRadius);
-  }
-  DrawCaption(oPainter, *this, *this);
-}
-
-OptionButton::OptionButton(QWidget* pParent)
-    : QRadioButton(pParent), Choice(static_cast<QWidget&>(*this)) {
+OptionButton::OptionButton(QWidget* pParent) : MarkedButton(pParent) {
   setAutoExclusive(false);
   OptionInterface::Install();
   // Before any other listener, so that a click finds one option chosen at the most.
   connect(this, &QAbstractButton::toggled, this, &OptionButton::PutOutOthers);
-}
-
-void OptionButton::SetCaption(const QString& sCaption) {
-  setText(sCaption);
-  SetWidth(Width());
-}
-
-QSize OptionButton::sizeHint() const {
-  return CaptionSize(*this);
-}
-
-void OptionButton::paintEvent(QPaintEvent* /*pEvent*/) {
-  QPainter oPainter(this);
-  oPainter.setRenderHint(QPainter::Antialiasing);
-  const QRectF oMark = MarkRect(*this);
-  if (isChecked()) {
-    oPainter.setPen(Qt::NoPen);
-    oPainter.setBrush(MarkColour(*this, Ink::Accent));
-    oPainter.drawEllipse(oMark);
-    const double fInset = oMark.width() * 0.32;
-    oPainter.setBrush(InkColour(Ink::OnAccent));
-    oPainter.drawEllipse(oMark.adjusted(fInset, fInset, -fInset, -fInset));
-  } else {
-    oPainter.setPen(QPen(MarkColour(*this, Ink::FaintText), 1.0));
-    oPainter.setBrush(InkColour(Ink::Field));
-    oPainter.drawEllipse(oMark);
-  }
-  if (hasFocus()) {
-    DrawFocus(oPainter, oMark, oMark.width() / 2.0);
-  }
-  DrawCaption(oPainter, *this, *this);
 }
 
 void OptionButton::keyPressEvent(QKeyEvent* pEvent) {
@@ -230,12 +118,9 @@ void Image::paintEvent(QPaintEvent* /*pEvent*/) {
   constexpr double kRadius = 5.0;
   QPainter oPainter(this);
   oPainter.setRenderHint(QPainter::Antialiasing);
-  oPainter.setPen(Qt::NoPen);
-  oPainter.setBrush(InkColour(Ink::HeaderBar));
-  oPainter.drawRoundedRect(rect(), kRadius, kRadius);
-  oPainter.setPen(InkColour(Ink::OnHeaderBar));
-  oPainter.drawText(rect().adjusted(Pixels(120), 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft,
-                    m_sCaption);
+  DrawRounded(oPainter, rect(), kRadius, Qt::NoPen, InkColour(Ink::HeaderBar));
+  DrawWords(oPainter, rect().adjusted(Pixels(120), 0, 0, 0), m_sCaption,
+            InkColour(Ink::OnHeaderBar));
 }
 
 void Image::mousePressEvent(QMouseEvent* pEvent) {

@@ -5,6 +5,7 @@
 #include <QFrame>
 #include <QLabel>
 #include <QRadioButton>
+#include <QStyleOptionButton>
 
 #include "controls/Control.h"
 
@@ -32,43 +33,50 @@ class Label : public QLabel, public Control {
   QFont::Weight m_eWeight = QFont::Medium;
 };
 
-/// Raises toggled() as its click, whether the mouse, the keyboard or the code changed it.
-class CheckBox : public QCheckBox, public Choice {
+/// One of the toolkit's buttons with a mark before its words, which takes clicks in all of its
+/// place.
+template <typename Kind>
+class MarkedButton : public Kind, public Choice {
  public:
-  explicit CheckBox(QWidget* pParent);
-  [[nodiscard]] const char* TypeName() const override { return "CheckBox"; }
-  [[nodiscard]] QString Caption() const override { return text(); }
-  void SetCaption(const QString& sCaption) override;
-  [[nodiscard]] int Value() const override { return isChecked() ? 1 : 0; }
-  void SetValue(int nValue) override { setChecked(nValue != 0); }
-  [[nodiscard]] QSize sizeHint() const override;
+  explicit MarkedButton(QWidget* pParent) : Kind(pParent), Choice(static_cast<QWidget&>(*this)) {}
+  [[nodiscard]] QString Caption() const override { return Kind::text(); }
+  void SetCaption(const QString& sCaption) override {
+    Kind::setText(sCaption);
+    SetWidth(Width());
+  }
+  [[nodiscard]] int Value() const override { return Kind::isChecked() ? 1 : 0; }
+  void SetValue(int nValue) override { Kind::setChecked(nValue != 0); }
 
  protected:
-  [[nodiscard]] int PixelsForCaption() const override { return sizeHint().width(); }
-  void paintEvent(QPaintEvent* pEvent) override;
-  [[nodiscard]] bool hitButton(const QPoint& oAt) const override { return rect().contains(oAt); }
+  [[nodiscard]] int PixelsForCaption() const override { return Kind::sizeHint().width(); }
+  [[nodiscard]] bool hitButton(const QPoint& oAt) const override {
+    return Kind::rect().contains(oAt);
+  }
+  void initStyleOption(QStyleOptionButton* pOption) const override {
+    Kind::initStyleOption(pOption);
+    pOption->palette.setColor(QPalette::WindowText, ColourOf(ForeColor()));
+  }
+};
+
+/// Raises toggled() as its click, whether the mouse, the keyboard or the code changed it.
+class CheckBox : public MarkedButton<QCheckBox> {
+ public:
+  using MarkedButton::MarkedButton;
+  [[nodiscard]] const char* TypeName() const override { return "CheckBox"; }
 };
 
 /// One of the options of its container. Unlike the toolkit's it can be unset by code, so that none
 /// is chosen. Raises toggled() as its click; an option that another one puts out raises nothing.
-class OptionButton : public QRadioButton, public Choice {
+class OptionButton : public MarkedButton<QRadioButton> {
   Q_OBJECT
 
  public:
   explicit OptionButton(QWidget* pParent);
   [[nodiscard]] const char* TypeName() const override { return "OptionButton"; }
-  [[nodiscard]] QString Caption() const override { return text(); }
-  void SetCaption(const QString& sCaption) override;
-  [[nodiscard]] int Value() const override { return isChecked() ? 1 : 0; }
-  void SetValue(int nValue) override { setChecked(nValue != 0); }
-  [[nodiscard]] QSize sizeHint() const override;
 
  protected:
-  [[nodiscard]] int PixelsForCaption() const override { return sizeHint().width(); }
-  void paintEvent(QPaintEvent* pEvent) override;
   void keyPressEvent(QKeyEvent* pEvent) override;
   void nextCheckState() override { setChecked(true); }
-  [[nodiscard]] bool hitButton(const QPoint& oAt) const override { return rect().contains(oAt); }
 
  private:
   [[nodiscard]] QList<OptionButton*> Group() const;
@@ -109,12 +117,5 @@ class Image : public QWidget, public Control {
  private:
   QString m_sCaption;
 };
-
-/// The places of a box or option: how wide its mark is, and where its words begin, in pixels.
-struct MarkPlaces {
-  double fSize;
-  int nTextLeft;
-};
-[[nodiscard]] MarkPlaces MarkPlacesAtZoom();
 
 }  // namespace quillet

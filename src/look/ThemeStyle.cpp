@@ -11,6 +11,7 @@
 #include <optional>
 
 #include "look/icons.h"
+#include "look/marks.h"
 #include "look/palette.h"
 #include "look/scale.h"
 
@@ -24,6 +25,8 @@ constexpr double kTwipsOfMargin = 240.0;
 constexpr double kTwipsOfSpacing = 120.0;
 constexpr double kTwipsOfScrollBar = 165.0;
 constexpr double kTwipsOfLeastThumb = 360.0;
+constexpr double kTwipsOfMark = 165.0;
+constexpr double kTwipsOfMarkAndGap = 255.0;  // to where its words begin
 constexpr double kIconStroke = 1.8;
 
 struct MessageIcon {
@@ -89,6 +92,44 @@ void DrawButton(QPainter& oPainter, const QStyleOption& oOption) {
   oPainter.restore();
 }
 
+/// The mark of a box or an option, grey with the words of what can't be chosen.
+void DrawMark(QPainter& oPainter, const QStyleOption& oOption, const QRectF& oMark, bool bRound) {
+  constexpr double kCorner = 0.22;  // of the mark's size, or a small box would look like an option
+  constexpr double kTickInset = 0.22;
+  constexpr double kDotInset = 0.32;
+  const bool bOn = (oOption.state & QStyle::State_On) != 0;
+  const bool bGrey = oOption.palette.color(QPalette::WindowText) == InkColour(Ink::GreyText);
+  const QColor oEdge = InkColour(bGrey ? Ink::GreyText : bOn ? Ink::Accent : Ink::FaintText);
+  const double fSize = oMark.width();
+  const double fRadius = fSize * (bRound ? 0.5 : kCorner);
+  const auto fnInset = [&](double fPart) {
+    return oMark.adjusted(fSize * fPart, fSize * fPart, -fSize * fPart, -fSize * fPart);
+  };
+  oPainter.save();
+  oPainter.setRenderHint(QPainter::Antialiasing);
+  DrawRounded(oPainter, oMark, fRadius, bOn && bRound ? QPen(Qt::NoPen) : oEdge,
+              bOn ? oEdge : InkColour(Ink::Field));
+  if (bOn && bRound) {
+    DrawRounded(oPainter, fnInset(kDotInset), fSize, Qt::NoPen, InkColour(Ink::OnAccent));
+  } else if (bOn) {
+    DrawTick(oPainter, fnInset(kTickInset), InkColour(Ink::OnAccent));
+  }
+  if ((oOption.state & QStyle::State_HasFocus) != 0) {
+    DrawRing(oPainter, oMark.adjusted(-0.5, -2, 2, 2), fRadius + 2);
+  }
+  oPainter.restore();
+}
+
+/// A box or an option: its mark, and its words.
+void DrawMarkedButton(QPainter& oPainter, const QStyleOptionButton& oButton, bool bRound) {
+  const double fSize = Pixels(kTwipsOfMark);
+  const double fTop = std::floor((oButton.rect.height() - fSize) / 2.0);
+  const QPointF oAt = oButton.rect.topLeft() + QPointF(0.5, fTop + 0.5);
+  DrawMark(oPainter, oButton, {oAt, QSizeF(fSize, fSize)}, bRound);
+  DrawWords(oPainter, oButton.rect.adjusted(Pixels(kTwipsOfMarkAndGap), 0, 0, 0), oButton.text,
+            oButton.palette.color(QPalette::WindowText), Qt::TextShowMnemonic);
+}
+
 /// The places of a scroll bar's parts: its thumb, and the ways on both sides of it.
 QRect PartOfScrollBar(const QStyleOptionSlider& oBar, QStyle::SubControl ePart) {
   const bool bAcross = oBar.orientation == Qt::Horizontal;
@@ -140,10 +181,15 @@ ThemeStyle::ThemeStyle() : QProxyStyle("Fusion") {}
 
 void ThemeStyle::drawPrimitive(PrimitiveElement eElement, const QStyleOption* pOption,
                                QPainter* pPainter, const QWidget* pWidget) const {
-  if (eElement == PE_PanelButtonCommand) {
-    DrawButton(*pPainter, *pOption);
-  } else {
-    QProxyStyle::drawPrimitive(eElement, pOption, pPainter, pWidget);
+  switch (eElement) {
+    case PE_PanelButtonCommand:
+      return DrawButton(*pPainter, *pOption);
+    case PE_IndicatorCheckBox:
+    case PE_IndicatorRadioButton:
+      return DrawMark(*pPainter, *pOption, QRectF(pOption->rect).adjusted(0.5, 0.5, -0.5, -0.5),
+                      eElement == PE_IndicatorRadioButton);
+    default:
+      QProxyStyle::drawPrimitive(eElement, pOption, pPainter, pWidget);
   }
 }
 
@@ -153,6 +199,9 @@ void ThemeStyle::drawControl(ControlElement eElement, const QStyleOption* pOptio
     QStyleOptionButton oOption = *qstyleoption_cast<const QStyleOptionButton*>(pOption);
     oOption.palette.setColor(QPalette::ButtonText, InkColour(Ink::OnAccent));
     QProxyStyle::drawControl(eElement, &oOption, pPainter, pWidget);
+  } else if (eElement == CE_CheckBox || eElement == CE_RadioButton) {
+    DrawMarkedButton(*pPainter, *qstyleoption_cast<const QStyleOptionButton*>(pOption),
+                     eElement == CE_RadioButton);
   } else {
     QProxyStyle::drawControl(eElement, pOption, pPainter, pWidget);
   }
@@ -178,6 +227,12 @@ QRect ThemeStyle::subControlRect(ComplexControl eControl, const QStyleOptionComp
 
 QSize ThemeStyle::sizeFromContents(ContentsType eType, const QStyleOption* pOption,
                                    const QSize& oSize, const QWidget* pWidget) const {
+  if (const auto* const pButton = qstyleoption_cast<const QStyleOptionButton*>(pOption);
+      pButton != nullptr && (eType == CT_CheckBox || eType == CT_RadioButton)) {
+    // Its words are measured as they are drawn: what the toolkit measures can be a pixel more.
+    return pButton->fontMetrics.size(Qt::TextShowMnemonic, pButton->text) +
+           QSize(Pixels(kTwipsOfMarkAndGap), 0);
+  }
   const QSize oFitting = QProxyStyle::sizeFromContents(eType, pOption, oSize, pWidget);
   return eType == CT_PushButton
              ? oFitting.expandedTo({Pixels(kTwipsOfButtonWidth), Pixels(kTwipsOfButtonHeight)})
@@ -189,6 +244,11 @@ int ThemeStyle::pixelMetric(PixelMetric eMetric, const QStyleOption* pOption,
   switch (eMetric) {
     case PM_MessageBoxIconSize:
       return Pixels(kTwipsOfMessageIcon);
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+      return Pixels(kTwipsOfMark);
     case PM_ScrollBarExtent:
       return Pixels(kTwipsOfScrollBar);
     case PM_LayoutLeftMargin:
