@@ -64,7 +64,9 @@ TEST(AuctionText, AValueThatDoesNotConvertLeavesItsFieldAlone) {
     const std::size_t nFrom = kFull.find(sMarker);
     const std::string sOld =
         kFull.substr(nFrom, kFull.find(sMarker, nFrom + 1) + sMarker.size() - nFrom);
+    ScopedHost oHost;
     EXPECT_EQ(AfterReading(With(kFull, sOld, sSection)), With(kFull, sOld, sAfter)) << sSection;
+    EXPECT_TRUE(oHost.aoShown.empty()) << sSection;
   }
 }
 

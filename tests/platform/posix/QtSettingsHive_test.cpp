@@ -51,28 +51,19 @@ bool WaitUntil(const std::function<bool()>& oCondition) {
 }
 
 TEST_F(QtSettingsHiveTest, EveryTextComesBackExactlyInTheNextProgram) {
-  const std::string asTexts[] = {"",
-                                 "  both ends  ",
-                                 "a,b",
-                                 "@Invalid()",
-                                 "100%",
-                                 "two\nlines\r\nbegin with \x01 f",
-                                 "\"quoted\" back\\slash\\",
-                                 "a;b#c=d",
-                                 "£ € 価格 \xF0\x9F\x98\x80 \xC2\x9F",
-                                 std::string("nul\0nul", 7),
-                                 std::string(20000, 'x')};
-  const auto fnPath = [](std::size_t n) { return n % 2 == 0 ? kPath : "General\\£ € [" + kPath; };
-  {
-    const auto oHive = Open();
-    for (std::size_t n = 0; n < std::size(asTexts); ++n) {
-      EXPECT_TRUE(oHive->Write(kUser, fnPath(n), "Value/" + std::to_string(n), asTexts[n]));
-    }
+  const std::pair<std::string, std::string> asTexts[] = {
+      {"Empty", ""},
+      {"Blanks/a,b", "  both ends, two\nlines\r\n\x01 f "},
+      {"£ € [", "£ € 価格 \xF0\x9F\x98\x80 \"back\\slash\\"},
+      {"At", "@Invalid()"},
+      {"Nul", std::string("nul\0nul", 7)},
+      {"Long", std::string(20000, 'x')}};
+  for (const auto& [sName, sText] : asTexts) {
+    EXPECT_TRUE(Open()->Write(kUser, kPath, sName, sText));
   }
-  const auto oHive = Open();
-  for (std::size_t n = 0; n < std::size(asTexts); ++n) {
-    EXPECT_EQ(oHive->Read(kUser, fnPath(n), "Value/" + std::to_string(n)), asTexts[n]);
-    EXPECT_EQ(oHive->Read(kMachine, fnPath(n), "Value/" + std::to_string(n)), std::nullopt);
+  for (const auto& [sName, sText] : asTexts) {
+    EXPECT_EQ(Open()->Read(kUser, kPath, sName), sText);
+    EXPECT_EQ(Open()->Read(kMachine, kPath, sName), std::nullopt);
   }
 }
 
