@@ -25,32 +25,23 @@ def on_a_screen(test):
 
 
 class WholeProgram(unittest.TestCase):
-    def enter_camera(self):
-        """Outlay 40, starting price 1, end price 149, quantity 1: from the first box on."""
-        screen = self.screen
-        for text in ("40", "1", None, "149", "1"):
-            if text:
-                screen.type(text)
-            screen.keys("Tab")
-
-    def save_as(self, name):
-        screen = self.screen
-        screen.keys("ctrl+s")
-        screen.window("Save.*")
-        screen.keys("ctrl+a")
-        screen.type(str(screen.home / "Documents" / name))
-        screen.keys("Return")
-        screen.window(f"Quillet US - {name.removesuffix('.qlt')}")
-
     @on_a_screen
     def test_first_start_enters_saves_and_is_asked_before_leaving(self):
         screen = self.screen
         screen.start()
         screen.keys("ctrl+1")
         self.focus_first_box()
-        self.enter_camera()
+        for text in ("40", "1", None, "149", "1"):
+            if text:
+                screen.type(text)
+            screen.keys("Tab")
         screen.window(r"Quillet US\*")
-        self.save_as("camera.qlt")
+        screen.keys("ctrl+s")
+        screen.window("Save.*")
+        screen.keys("ctrl+a")
+        screen.type(str(screen.home / "Documents/camera.qlt"))
+        screen.keys("Return")
+        screen.window("Quillet US - camera")
         saved = (screen.home / "Documents/camera.qlt").read_text(encoding="utf-8")
         self.assertRegex(saved, r"\[OUTLAY\]40\|1\|0\|149\|1\|False\[OUTLAY\]")
         self.focus_first_box()
