@@ -13,7 +13,6 @@ class ComboBox : public QComboBox, public Control {
   [[nodiscard]] const char* TypeName() const override { return "ComboBox"; }
 
  protected:
-  void paintEvent(QPaintEvent* pEvent) override;
   /// Goes through the list while it has the focus; else the wheel is the page's.
   void wheelEvent(QWheelEvent* pEvent) override;
 };

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QPixmap>
 #include <QStyleOptionButton>
+#include <QStyleOptionComboBox>
 #include <QStyleOptionSlider>
 #include <QWidget>
 #include <algorithm>
@@ -27,6 +28,9 @@ constexpr double kTwipsOfScrollBar = 165.0;
 constexpr double kTwipsOfLeastThumb = 360.0;
 constexpr double kTwipsOfMark = 165.0;
 constexpr double kTwipsOfMarkAndGap = 255.0;  // to where its words begin
+constexpr double kTwipsOfTextMargin = 90.0;
+constexpr double kTwipsOfArrow = 112.5;
+constexpr double kTwipsOfArrowRight = 165.0;  // from its middle to the edge
 constexpr double kIconStroke = 1.8;
 
 struct MessageIcon {
@@ -130,6 +134,21 @@ void DrawMarkedButton(QPainter& oPainter, const QStyleOptionButton& oButton, boo
             oButton.palette.color(QPalette::WindowText), Qt::TextShowMnemonic);
 }
 
+/// The box of a list to choose from, and its arrow; as the numeric boxes are drawn.
+void DrawCombo(QPainter& oPainter, const QStyleOptionComboBox& oCombo) {
+  const bool bFocus = (oCombo.state & QStyle::State_HasFocus) != 0;
+  const bool bHover = (oCombo.state & QStyle::State_MouseOver) != 0;
+  const double fArrow = Pixels(kTwipsOfArrow);
+  const QRectF oBox = oCombo.rect;
+  const QPointF oMiddle(oBox.right() - Pixels(kTwipsOfArrowRight), oBox.center().y());
+  oPainter.save();
+  oPainter.setRenderHint(QPainter::Antialiasing);
+  DrawField(oPainter, oBox, bFocus ? Ink::Accent : Ink::FieldEdge, InkColour(Ink::Field));
+  DrawChevron(oPainter, {oMiddle - QPointF(fArrow, fArrow) / 2, QSizeF(fArrow, fArrow)},
+              Towards::Down, InkColour(bHover ? Ink::Text : Ink::FaintText));
+  oPainter.restore();
+}
+
 /// The places of a scroll bar's parts: its thumb, and the ways on both sides of it.
 QRect PartOfScrollBar(const QStyleOptionSlider& oBar, QStyle::SubControl ePart) {
   const bool bAcross = oBar.orientation == Qt::Horizontal;
@@ -212,6 +231,9 @@ void ThemeStyle::drawComplexControl(ComplexControl eControl, const QStyleOptionC
   if (const auto* const pBar = qstyleoption_cast<const QStyleOptionSlider*>(pOption);
       pBar != nullptr && eControl == CC_ScrollBar) {
     DrawScrollBar(*pPainter, *pBar);
+  } else if (const auto* const pCombo = qstyleoption_cast<const QStyleOptionComboBox*>(pOption);
+             pCombo != nullptr && !pCombo->editable) {
+    DrawCombo(*pPainter, *pCombo);
   } else {
     QProxyStyle::drawComplexControl(eControl, pOption, pPainter, pWidget);
   }
@@ -219,6 +241,11 @@ void ThemeStyle::drawComplexControl(ComplexControl eControl, const QStyleOptionC
 
 QRect ThemeStyle::subControlRect(ComplexControl eControl, const QStyleOptionComplex* pOption,
                                  SubControl ePart, const QWidget* pWidget) const {
+  if (eControl == CC_ComboBox && ePart == SC_ComboBoxEditField) {
+    // The toolkit leaves a pixel on either side of the words.
+    return pOption->rect.adjusted(Pixels(kTwipsOfTextMargin) - 1, 0,
+                                  1 - Pixels(2 * kTwipsOfArrowRight), 0);
+  }
   const auto* const pBar = qstyleoption_cast<const QStyleOptionSlider*>(pOption);
   return pBar != nullptr && eControl == CC_ScrollBar
              ? PartOfScrollBar(*pBar, ePart)
