@@ -113,9 +113,9 @@ std::optional<Integer> ConvertInteger(std::string_view sText) {
   return static_cast<Integer>(nValue);
 }
 
-/// SingleText of a number from a ten-thousandth to below ten millions, where seven digits scale
+/// AppendSingle of a number from a ten-thousandth to below ten millions, where seven digits scale
 /// exactly in a double. False for any other.
-bool WritePlain(Single fValue, std::string& sText) {
+bool AppendPlain(std::string& sText, Single fValue) {
   constexpr double kLeast = 1e-4;
   constexpr double kEightDigits = 9'999'999.5;  // what rounds to them
   double fScaled = std::abs(double{fValue});
@@ -135,7 +135,7 @@ bool WritePlain(Single fValue, std::string& sText) {
   std::array<char, 16> acDigits{};
   const auto oEnd = std::to_chars(acDigits.data(), acDigits.data() + acDigits.size(), uDigits);
   const std::string_view sDigits(acDigits.data(), oEnd.ptr);
-  sText = fValue < 0 ? "-" : "";
+  sText.append(fValue < 0 ? "-" : "");
   if (nDecimals == 0) {
     sText += sDigits;
     return true;
@@ -235,8 +235,12 @@ std::optional<std::uint8_t> ToByte(std::string_view sText) {
 
 std::optional<bool> ToBoolean(std::string_view sText) {
   for (const bool bValue : {false, true}) {
-    const std::string_view sWord = BooleanText(bValue);
-    if (sText == sWord || EqualIgnoringCase(Trim(sText), sWord)) {
+    if (sText == BooleanText(bValue)) {
+      return bValue;  // nearly every one of them
+    }
+  }
+  for (const bool bValue : {false, true}) {
+    if (EqualIgnoringCase(Trim(sText), BooleanText(bValue))) {
       return bValue;
     }
   }
@@ -254,21 +258,27 @@ std::int32_t RoundToLong(double fValue) {
 }
 
 std::string SingleText(Single fValue) {
-  if (fValue == 0) {
-    return "0";
-  }
   std::string sText;
-  if (WritePlain(fValue, sText)) {
-    return sText;
+  AppendSingle(sText, fValue);
+  return sText;
+}
+
+void AppendSingle(std::string& sText, Single fValue) {
+  if (fValue == 0) {
+    sText += '0';
+    return;
+  }
+  if (AppendPlain(sText, fValue)) {
+    return;
   }
   std::array<char, 32> acText{};
   const auto oResult = std::to_chars(acText.data(), acText.data() + acText.size(), double{fValue},
                                      std::chars_format::general, 7);
-  sText = UpperCase({acText.data(), oResult.ptr});
-  if (const std::size_t nPoint = sText.find('.'); nPoint != std::string::npos) {
-    sText.replace(nPoint, 1, TheHost().DecimalSeparator());
+  std::string sRare = UpperCase({acText.data(), oResult.ptr});
+  if (const std::size_t nPoint = sRare.find('.'); nPoint != std::string::npos) {
+    sRare.replace(nPoint, 1, TheHost().DecimalSeparator());
   }
-  return sText;
+  sText += sRare;
 }
 
 std::string FormatNumber(Single fValue, std::string_view sPattern) {

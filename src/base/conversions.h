@@ -41,6 +41,7 @@ namespace quillet {
 /// At most seven significant digits without trailing zeros, as "12.5", "1E+07" or "1E-05"; a tie
 /// at the seventh digit goes to the even one, and -0 is "0".
 [[nodiscard]] std::string SingleText(Single fValue);
+void AppendSingle(std::string& sText, Single fValue);
 
 [[nodiscard]] constexpr std::string_view BooleanText(bool bValue) {
   return bValue ? "True" : "False";

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <optional>
 
 #include "base/conversions.h"
 #include "base/failure.h"
+#include "base/text.h"
 
 namespace quillet {
 namespace {
@@ -24,6 +26,13 @@ std::string_view Between(std::string_view sData, std::string_view sMarker) {
   return sData.substr(nStart, nNext - nStart);
 }
 
+template <typename Field, typename Value>
+void Assign(Field& oField, const std::optional<Value>& oValue) {
+  if (oValue) {
+    oField = *oValue;
+  }
+}
+
 }  // namespace
 
 SectionWriter::SectionWriter(std::string& sData, std::string_view sMarker)
@@ -33,78 +42,66 @@ SectionWriter::SectionWriter(std::string& sData, std::string_view sMarker)
   m_sData += m_sMarker;
 }
 
-SectionWriter& SectionWriter::Add(Single fValue) {
-  Separate();
-  m_sData += SingleText(fValue);
-  return *this;
+void SectionWriter::Amount(Single fField) {
+  AppendSingle(m_sData, fField);
+  m_sData += kSeparator;
 }
 
-SectionWriter& SectionWriter::Add(std::int32_t nValue) {
-  return AddPadded(nValue, 1);
+void SectionWriter::Switch(bool bField) {
+  m_sData += BooleanText(bField);
+  m_sData += kSeparator;
 }
 
-SectionWriter& SectionWriter::Add(bool bValue) {
-  Separate();
-  m_sData += BooleanText(bValue);
-  return *this;
-}
-
-SectionWriter& SectionWriter::AddPadded(std::int32_t nValue, std::size_t nDigits) {
-  Separate();
-  if (nDigits == 1 && nValue >= 0 && nValue <= 9) {
-    m_sData += static_cast<char>('0' + nValue);  // nearly every one of them
-    return *this;
+void SectionWriter::Byte(std::int32_t nField, std::size_t nDigits) {
+  if (nDigits == 1 && nField >= 0 && nField <= 9) {
+    m_sData += static_cast<char>('0' + nField);  // nearly every one of them
+  } else {
+    std::array<char, 12> acDigits{};
+    const auto oEnd = std::to_chars(acDigits.data(), acDigits.data() + acDigits.size(), nField);
+    const std::string_view sDigits(acDigits.data(), oEnd.ptr);
+    m_sData.append(nDigits - std::min(nDigits, sDigits.size()), '0').append(sDigits);
   }
-  std::array<char, 12> acDigits{};
-  const auto oEnd = std::to_chars(acDigits.data(), acDigits.data() + acDigits.size(), nValue);
-  const std::string_view sDigits(acDigits.data(), oEnd.ptr);
-  m_sData.append(nDigits - std::min(nDigits, sDigits.size()), '0').append(sDigits);
-  return *this;
+  m_sData += kSeparator;
 }
 
 void SectionWriter::Close() {
+  m_sData.pop_back();  // a separator stands between values only
   m_sData += m_sMarker;
 }
 
-void SectionWriter::Separate() {
-  if (!m_bFirst) {
-    m_sData += kSeparator;
-  }
-  m_bFirst = false;
-}
-
-SectionReader::SectionReader(std::string_view sData, std::string_view sMarker) {
-  const std::string_view sValues = Between(sData, sMarker);
-  // A section too long to split leaves every field as it was.
-  IgnoreFailure([&] { m_oValues.Tokenise(sValues, std::string_view(&kSeparator, 1)); });
-}
-
-template <typename Field, typename Converter>
-void SectionReader::ReadAs(std::int32_t nPlace, Field& oField, Converter&& fnConvert) const {
-  if (nPlace < m_oValues.Count()) {
-    const auto oValue = fnConvert(m_oValues.Element(nPlace));
-    oField = oValue ? static_cast<Field>(*oValue) : oField;
+SectionReader::SectionReader(std::string_view sData, std::string_view sMarker)
+    : m_sLeft(Between(sData, sMarker)) {
+  if (m_sLeft.size() > kLongestText && Utf16Length(m_sLeft) > kLongestText) {
+    m_sLeft = {};
   }
 }
 
-void SectionReader::Read(std::int32_t nPlace, Single& fField) const {
-  ReadAs(nPlace, fField, ToFileSingle);
+std::string_view SectionReader::Take() {
+  m_sLeft.remove_prefix(std::min(m_sLeft.find_first_not_of(kSeparator), m_sLeft.size()));
+  const auto oEnd = std::find(m_sLeft.begin(), m_sLeft.end(), kSeparator);
+  const std::string_view sValue(m_sLeft.begin(), oEnd);
+  m_sLeft.remove_prefix(sValue.size());
+  return sValue;
 }
 
-void SectionReader::Read(std::int32_t nPlace, bool& bField) const {
-  ReadAs(nPlace, bField, ToBoolean);
+void SectionReader::Amount(Single& fField) {
+  Assign(fField, ToFileSingle(Take()));
 }
 
-void SectionReader::ReadLong(std::int32_t nPlace, std::int32_t& nField) const {
-  ReadAs(nPlace, nField, ToLong);
+void SectionReader::Switch(bool& bField) {
+  Assign(bField, ToBoolean(Take()));
 }
 
-void SectionReader::ReadInteger(std::int32_t nPlace, std::int32_t& nField) const {
-  ReadAs(nPlace, nField, ToInteger);
+void SectionReader::Byte(std::int32_t& nField, std::size_t /*nDigits*/) {
+  Assign(nField, ToByte(Take()));
 }
 
-void SectionReader::ReadByte(std::int32_t nPlace, std::int32_t& nField) const {
-  ReadAs(nPlace, nField, ToByte);
+void SectionReader::Integer(std::int32_t& nField) {
+  Assign(nField, ToInteger(Take()));
+}
+
+void SectionReader::Long(std::int32_t& nField) {
+  Assign(nField, ToLong(Take()));
 }
 
 }  // namespace quillet

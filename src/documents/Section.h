@@ -6,48 +6,58 @@
 #include <string_view>
 
 #include "base/Single.h"
-#include "prices/clsTokeniser.h"
 
 namespace quillet {
 
-/// Writes a section onto the end of a text.
+/// Writes a section onto the end of a text, field by field.
 class SectionWriter {
  public:
   SectionWriter(std::string& sData, std::string_view sMarker);
 
-  SectionWriter& Add(Single fValue);
-  SectionWriter& Add(std::int32_t nValue);
-  SectionWriter& Add(bool bValue);
-  SectionWriter& AddPadded(std::int32_t nValue, std::size_t nDigits);  ///< with leading zeros
+  void Amount(Single fField);
+  void Switch(bool bField);
+  void Byte(std::int32_t nField, std::size_t nDigits = 1);  ///< with leading zeros
+  void Integer(std::int32_t nField) { Byte(nField); }
+  void Long(std::int32_t nField) { Byte(nField); }
 
   void Close();
 
  private:
-  void Separate();
-
   std::string& m_sData;
   std::string_view m_sMarker;
-  bool m_bFirst = true;
 };
 
-/// Reads a section's values by their place. A place that is missing, or whose text doesn't convert,
-/// leaves the field as it was.
+/// Reads a section's fields, in the order in which they were written. One that is missing, or whose
+/// text doesn't convert, stays as it was; empty values are passed over.
 class SectionReader {
  public:
   /// A section without both its markers is a Failure, "Failure loading section " and the marker.
+  /// One too long to split leaves every field as it was.
   SectionReader(std::string_view sData, std::string_view sMarker);
 
-  void Read(std::int32_t nPlace, Single& fField) const;
-  void Read(std::int32_t nPlace, bool& bField) const;
-  void ReadLong(std::int32_t nPlace, std::int32_t& nField) const;     ///< 32 bits
-  void ReadInteger(std::int32_t nPlace, std::int32_t& nField) const;  ///< 16 bits, widened
-  void ReadByte(std::int32_t nPlace, std::int32_t& nField) const;     ///< 0 to 255
+  void Amount(Single& fField);
+  void Switch(bool& bField);
+  void Byte(std::int32_t& nField, std::size_t nDigits = 1);  ///< 0 to 255
+  void Integer(std::int32_t& nField);                        ///< 16 bits, widened
+  void Long(std::int32_t& nField);                           ///< 32 bits
 
  private:
-  template <typename Field, typename Converter>
-  void ReadAs(std::int32_t nPlace, Field& oField, Converter&& fnConvert) const;
+  [[nodiscard]] std::string_view Take();
 
-  clsTokeniser m_oValues;
+  std::string_view m_sLeft;
 };
+
+/// Writes or reads a section by the one list of its fields: `fnFields` takes either of the two.
+template <typename Fields>
+void SerializeSection(std::string& sData, bool bSave, std::string_view sMarker, Fields&& fnFields) {
+  if (bSave) {
+    SectionWriter oSection(sData, sMarker);
+    fnFields(oSection);
+    oSection.Close();
+  } else {
+    SectionReader oSection(sData, sMarker);
+    fnFields(oSection);
+  }
+}
 
 }  // namespace quillet

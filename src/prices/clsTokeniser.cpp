@@ -9,7 +9,7 @@ namespace quillet {
 namespace {
 
 constexpr std::int32_t kGrowth = 50;
-constexpr std::size_t kRoomAtFirst = 16;  // more than any section of an auction has
+constexpr std::size_t kRoomAtFirst = 16;  // more than any line of a schedule has
 
 const std::string& EmptyText() {
   static const std::string sEmpty;

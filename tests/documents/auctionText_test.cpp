@@ -45,6 +45,10 @@ TEST(AuctionText, IsWrittenInFiveSectionsBehindWhatIsThere) {
 }
 
 TEST(AuctionText, AValueThatDoesNotConvertLeavesItsFieldAlone) {
+  std::string sAccents;  // not too many characters, in more bytes
+  while (sAccents.size() < 40000) {
+    sAccents += "é";
+  }
   const std::pair<std::string, const char*> aoRows[] = {
       // as it is read and as it is then written
       {"[TYPE]002[TYPE]", "[TYPE]002|True|False|5|4|1|3|True[TYPE]"},
@@ -55,7 +59,7 @@ TEST(AuctionText, AValueThatDoesNotConvertLeavesItsFieldAlone) {
       {"[OUTLAY] 1 |-0|1E-46|1,5|7|0|9|9[OUTLAY]", "[OUTLAY]1|0|0|1E+07|7|False[OUTLAY]"},
       {"[OUTLAY]" + std::string(40000, '1') + "[OUTLAY]",  // too long to split
        "[OUTLAY]12.5|0.99|0.1|1E+07|-4|True[OUTLAY]"},
-      {"[FEATURES]abc|3[FEATURES]", "[FEATURES]1114113|3[FEATURES]"},
+      {"[FEATURES]" + sAccents + "|3[FEATURES]", "[FEATURES]1114113|3[FEATURES]"},
       {"[PAYPAL]0|32767|-32768|0.0[PAYPAL]", "[PAYPAL]False|32767|-32768|False[PAYPAL]"},
       {"[PAYPAL]|32768|-32769|[PAYPAL]", "[PAYPAL]True|2|5|True[PAYPAL]"},
   };
