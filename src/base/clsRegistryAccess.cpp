@@ -2,7 +2,6 @@
 
 #include <cassert>
 #include <memory>
-#include <optional>
 
 #include "base/basCommon.h"
 #include "base/failure.h"
@@ -91,11 +90,17 @@ void clsRegistryAccess::DeleteValue(HiveRoot hKey, const std::string& sSection,
   m_oHive->Delete(hKey, Path(sSection, bAbsoluteSection), sSettingName);
 }
 
+std::optional<std::string> clsRegistryAccess::Find(const Setting& oSetting) const {
+  return m_oHive->Read(oSetting.eRoot, Path(oSetting.sSection, false), oSetting.sName);
+}
+
+std::optional<std::string> clsRegistryAccess::Find(const std::string& sSection,
+                                                   const char* sName) const {
+  return m_oHive->Read(HiveRoot::User, Path(sSection, false), sName);
+}
+
 std::string clsRegistryAccess::Get(const Setting& oSetting) const {
-  std::string sResult;
-  GetRegSettingString(oSetting.eRoot, sResult, oSetting.sName, oSetting.sSection,
-                      oSetting.sDefault);
-  return sResult;
+  return Find(oSetting).value_or(oSetting.sDefault);
 }
 
 std::string clsRegistryAccess::GetOrCreate(const Setting& oSetting) const {
@@ -107,6 +112,11 @@ std::string clsRegistryAccess::GetOrCreate(const Setting& oSetting) const {
 
 bool clsRegistryAccess::Set(const Setting& oSetting, const std::string& sValue) const {
   return SetRegSettingString(oSetting.eRoot, sValue, oSetting.sName, oSetting.sSection);
+}
+
+bool clsRegistryAccess::Set(const std::string& sSection, const char* sName,
+                            const std::string& sValue) const {
+  return SetRegSettingString(HiveRoot::User, sValue, sName, sSection);
 }
 
 clsRegistryAccess& Registry() {

@@ -1,6 +1,7 @@
 // The one door to the settings. Every value is text; nothing here raises to the caller.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "base/Settings.h"
@@ -47,11 +48,19 @@ class clsRegistryAccess {
 
   // The settings of the one table (Settings.h), by their row.
 
+  /// The stored text; nothing if there is none.
+  [[nodiscard]] std::optional<std::string> Find(const Setting& oSetting) const;
   /// The stored text or the row's default.
   [[nodiscard]] std::string Get(const Setting& oSetting) const;
   /// The same, and a missing value is stored with its default.
   [[nodiscard]] std::string GetOrCreate(const Setting& oSetting) const;
   bool Set(const Setting& oSetting, const std::string& sValue) const;
+
+  // The user's settings of one section or window, whose own section is worked out.
+
+  [[nodiscard]] std::optional<std::string> Find(const std::string& sSection,
+                                                const char* sName) const;
+  bool Set(const std::string& sSection, const char* sName, const std::string& sValue) const;
 
  private:
   [[nodiscard]] std::string Path(const std::string& sSection, bool bAbsoluteSection) const;

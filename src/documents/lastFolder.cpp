@@ -14,11 +14,10 @@ std::string g_sLastFolder;  // empty until it is first asked for
 
 std::string LastFolder() {
   if (g_sLastFolder.empty()) {
-    const std::string sDefault =
-        CleanString(TheHost().DocumentsFolder()) + NativePath("\\My Auctions");
-    const Setting& oSetting = settings::kLastFolder;
-    Registry().GetRegSettingString(oSetting.eRoot, g_sLastFolder, oSetting.sName, oSetting.sSection,
-                                   sDefault);
+    g_sLastFolder =
+        Registry()
+            .Find(settings::kLastFolder)
+            .value_or(CleanString(TheHost().DocumentsFolder()) + NativePath("\\My Auctions"));
   }
   return g_sLastFolder;
 }

@@ -107,14 +107,12 @@ bool DocumentLifecycle::LoadAuction(const std::string& sPath) {
 }
 
 void DocumentLifecycle::SaveOrLoadDefaultAuction(bool bSave) {
-  std::string sText;
   if (bSave) {
+    std::string sText;
     DefaultAuction().Serialize(sText, true);
     Registry().Set(settings::kDefaultAuction, sText);
-  } else if (Registry().GetRegSettingString(
-                 settings::kDefaultAuction.eRoot, sText, settings::kDefaultAuction.sName,
-                 settings::kDefaultAuction.sSection, settings::kDefaultAuction.sDefault)) {
-    DefaultAuction().Serialize(sText, false);
+  } else if (std::optional<std::string> sText = Registry().Find(settings::kDefaultAuction)) {
+    DefaultAuction().Serialize(*sText, false);
   }
   DefaultAuction().SetDirty(false);
   m_oView.SetWindowTitle(kDefaultAuctionTitle, false);

@@ -18,25 +18,22 @@ std::map<std::string, std::string>& UnstoredLists() {
 }  // namespace
 
 clsTokeniser LoadVisibleList(const std::string& sSectionKey) {
-  std::string sText;
-  bool bFound = Registry().GetRegSettingString(HiveRoot::User, sText, settings::kVisible,
-                                               settings::kControls + sSectionKey, "");
+  std::optional<std::string> sText =
+      Registry().Find(settings::kControls + sSectionKey, settings::kVisible);
   if (const auto oUnstored = UnstoredLists().find(sSectionKey);
-      !bFound && oUnstored != UnstoredLists().end()) {
+      !sText && oUnstored != UnstoredLists().end()) {
     sText = oUnstored->second;
-    bFound = true;
   }
   clsTokeniser oList;
-  if (bFound) {
-    IgnoreFailure([&] { oList.Tokenise(sText, ","); });
+  if (sText) {
+    IgnoreFailure([&] { oList.Tokenise(*sText, ","); });
   }
   return oList;
 }
 
 bool SaveVisibleList(const std::string& sSectionKey, const clsTokeniser& oList) {
   const std::string sText = oList.GetFlattenedSegments(0);
-  const bool bStored = Registry().SetRegSettingString(HiveRoot::User, sText, settings::kVisible,
-                                                      settings::kControls + sSectionKey);
+  const bool bStored = Registry().Set(settings::kControls + sSectionKey, settings::kVisible, sText);
   UnstoredLists().erase(sSectionKey);
   if (!bStored) {
     UnstoredLists()[sSectionKey] = sText;

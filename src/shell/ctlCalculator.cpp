@@ -43,7 +43,7 @@ constexpr int kMissingPriceGap = 225;  // to the view's right edge
 constexpr int kAbsent = -1;  // an entry of this value counts as none
 
 std::string SectionOf(const SectionPanel& oSection) {
-  return std::string("Controls\\") + oSection.SectionKey();
+  return settings::kControls + std::string(oSection.SectionKey());
 }
 
 QRect CardOf(const SectionPanel& oSection) {
@@ -262,10 +262,8 @@ void ctlCalculator::SaveSectionPositions() const {
            &m_oSet.ctlSellingFeaturesSection, &m_oSet.ctlAuctionTypeSection,
            &m_oSet.ctlOutlaySection, &m_oSet.ctlPayPalSection, &m_oSet.ctlPostageSection}) {
     const std::string sSection = SectionOf(*pSection);
-    Registry().SetRegSettingString(HiveRoot::User, std::to_string(pSection->Top()), "Top",
-                                   sSection);
-    Registry().SetRegSettingString(HiveRoot::User, std::to_string(pSection->Left()), "Left",
-                                   sSection);
+    Registry().Set(sSection, settings::kTop, std::to_string(pSection->Top()));
+    Registry().Set(sSection, settings::kLeft, std::to_string(pSection->Left()));
   }
 }
 
@@ -273,16 +271,14 @@ void ctlCalculator::SaveSectionPositions() const {
 /// as good as none.
 void ctlCalculator::LoadSectionPositions() {
   const auto fnStored = [](const SectionPanel& oSection, const char* sName, int nPlace) {
-    std::string sText;
-    Registry().GetRegSettingString(HiveRoot::User, sText, sName, SectionOf(oSection), "");
-    return ToLong(sText).value_or(nPlace);
+    return ToLong(Registry().Find(SectionOf(oSection), sName).value_or("")).value_or(nPlace);
   };
   for (SectionPanel* const pSection : PlacedInOrder()) {
     m_colDesignPositions.try_emplace(pSection->SectionKey() + std::string("_Left"),
                                      pSection->Left());
     m_colDesignPositions.try_emplace(pSection->SectionKey() + std::string("_Top"), pSection->Top());
-    pSection->SetTop(fnStored(*pSection, "Top", pSection->Top()));
-    pSection->SetLeft(fnStored(*pSection, "Left", pSection->Left()));
+    pSection->SetTop(fnStored(*pSection, settings::kTop, pSection->Top()));
+    pSection->SetLeft(fnStored(*pSection, settings::kLeft, pSection->Left()));
   }
 }
 

@@ -22,8 +22,7 @@ std::string SectionOf(const QWidget& oForm) {
 }
 
 std::optional<int> Stored(const QWidget& oForm, const char* sName) {
-  std::string sText;
-  Registry().GetRegSettingString(HiveRoot::User, sText, sName, SectionOf(oForm), "");
+  const std::string sText = Registry().Find(SectionOf(oForm), sName).value_or("");
   std::optional<int> nStored;
   IgnoreFailure([&] {  // a number beyond all places is as good as none
     if (const std::optional<Single> fValue = ToSingle(sText)) {
@@ -68,16 +67,14 @@ void SaveFormPosition(const QWidget& oForm) {
   const QRect oPlace = oNormal.isValid() ? oNormal : oForm.geometry();
   const std::string sSection = SectionOf(oForm);
   const auto fnStore = [&](const char* sName, int nPixels) {
-    Registry().SetRegSettingString(HiveRoot::User, SingleText(nPixels * kTwipsPerPixel), sName,
-                                   sSection);
+    Registry().Set(sSection, sName, SingleText(nPixels * kTwipsPerPixel));
   };
   fnStore(settings::kTop, oPlace.top());
   fnStore(settings::kLeft, oPlace.left());
   fnStore(settings::kHeight, oPlace.height());
   fnStore(settings::kWidth, oPlace.width());
   const int nState = oForm.isMinimized() ? 1 : oForm.isMaximized() ? 2 : 0;
-  Registry().SetRegSettingString(HiveRoot::User, std::to_string(nState), settings::kWindowState,
-                                 sSection);
+  Registry().Set(sSection, settings::kWindowState, std::to_string(nState));
 }
 
 void RestoreFormPosition(QWidget& oForm) {

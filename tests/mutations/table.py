@@ -106,8 +106,8 @@ MUTATIONS = [
     ("answers/Trial.cpp", "  Reset();\n  oChange", "  oChange", "core Alternatives.*"),
 
     # documents
-    ("documents/Section.cpp", "if (nPlace < m_oValues.Count()) {", "if (nPlace <= m_oValues.Count()) {",
-     "core AuctionText.*"),
+    ("documents/Section.cpp", " && Utf16Length(m_sLeft) > kLongestText", "",
+     "core AuctionText.AValueThatDoesNotConvert*"),
     ("documents/lifecycle.cpp", "    WorkingAuction().SetDirty(false);\n", "", "core Lifecycle.*"),
     ("documents/lifecycle.cpp", "      return SaveOrLoadAuction(true);\n",
      "      SaveOrLoadAuction(true);\n      return true;\n", "core Lifecycle.*"),
