@@ -147,6 +147,15 @@ class Streams(Temporary):
         program.returncode = 0
         return used.ru_maxrss
 
+    def test_any_number_of_jobs_gives_the_same_in_the_same_order(self):
+        lines = f"{CAMERA}\n\n{LATHE}\n{NO_RATE}\n{NO_PAYPAL}\n" * 300
+        names = [SAMPLES / "used-camera.qlt", "gone"] * 20 + ["-", SAMPLES / "lathe.qlt", "gone"]
+        for form in "csv", "json", "table":
+            one, *others = (calc("--format", form, "--goal", "20", "--jobs", jobs, *names,
+                                 stdin=lines) for jobs in (1, 2, 8))
+            self.assertIn("\nquillet-calc: gone: It can't be read", one[2])
+            self.assertEqual(others, [one] * 2)
+
     def test_results_come_before_the_next_line_is_awaited(self):
         with subprocess.Popen([PROGRAMS / "quillet-calc", "--format", "json"],
                               stdin=subprocess.PIPE, stdout=subprocess.PIPE) as program:
@@ -189,6 +198,7 @@ class BadInput(Temporary):
                 (2, "--format: xml not in", "--format", "xml", good),
                 *((2, f'15%price), not "{bad}"', "--goal", bad, good)
                   for bad in ("", "20x", "-5%", "100%price", "$5", "nan")),
+                (2, "--jobs: Value 0 not in range", "--jobs", "0", good),
                 (2, "not expected: --nonsense", "--nonsense"),
                 (2, "excludes", "--check", empty, good),
                 (2, "gone: No such file or directory", "--check", "gone"),

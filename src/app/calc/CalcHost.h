@@ -19,13 +19,13 @@ class CalcHost : public TerminalHost {
     return Answer::Ok;
   }
 
-  /// The message shown since the last call, if there was one.
-  [[nodiscard]] std::optional<std::string> TakeMessage() {
+  /// The message shown on this thread since the last call, if there was one.
+  [[nodiscard]] static std::optional<std::string> TakeMessage() {
     return std::exchange(m_sMessage, std::nullopt);
   }
 
  private:
-  std::optional<std::string> m_sMessage;
+  inline static thread_local std::optional<std::string> m_sMessage;
 };
 
 }  // namespace quillet

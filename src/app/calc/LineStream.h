@@ -14,53 +14,40 @@ inline constexpr std::size_t kLongestAuction = std::size_t{1} << 20U;
 
 class LineStream {
  public:
-  enum class Taken { Line, OverlongLine, End };
-
   explicit LineStream(int nHandle) : m_nHandle(nHandle) {}
 
-  /// Fills `sLine` with the next line, without its end (LF or CR LF; the last line needs none). Of
-  /// a line that is longer than kLongestAuction nothing is kept. Error() tells if the end came
-  /// early. Before it waits for more input it calls `fnBeforeWait`.
-  template <typename BeforeWait>
-  [[nodiscard]] Taken Take(std::string& sLine, BeforeWait&& fnBeforeWait);
+  /// True if the next line is there, so that nothing has to be waited for.
+  [[nodiscard]] bool IsReady();
+
+  /// Waits for the next line; false if there is none. Error() tells if the end came early.
+  [[nodiscard]] bool Await();
+
+  /// Waits until it is clear whether another line stands behind the next one.
+  [[nodiscard]] bool AwaitSecond();
+
+  /// The next line, which must be there, without its end (LF or CR LF; the last line needs none).
+  /// Valid until anything else is asked. Of a line that is longer than kLongestAuction nothing is
+  /// kept, and `bOverlong` is set.
+  [[nodiscard]] std::string_view Take(bool& bOverlong);
 
   [[nodiscard]] const std::error_code& Error() const { return m_oError; }
 
  private:
+  enum class State { Nothing, Begun, Whole, Taken };
+
   /// Replaces what is left by more input; false at the end.
   bool Fill();
-  /// Moves what is left of the current line to `sLine`; true if the line ended there.
-  bool TakePiece(std::string& sLine, bool& bOverlong);
+  /// Moves what is left of the current line to m_sLine.
+  void TakePiece();
 
   int m_nHandle;
   std::vector<char> m_acBlock = std::vector<char>(std::size_t{1} << 16U);
   std::string_view m_sLeft;  ///< what is left of the block
+  std::string m_sLine;       ///< the next line, as far as it has come
+  State m_eState = State::Nothing;
+  bool m_bOverlong = false;
+  bool m_bEnded = false;
   std::error_code m_oError;
 };
-
-template <typename BeforeWait>
-LineStream::Taken LineStream::Take(std::string& sLine, BeforeWait&& fnBeforeWait) {
-  sLine.clear();
-  bool bOverlong = false;
-  bool bStarted = false;
-  bool bEnded = false;
-  while (!bEnded) {
-    if (m_sLeft.empty()) {
-      fnBeforeWait();
-      if (!Fill()) {
-        break;
-      }
-    }
-    bStarted = true;
-    bEnded = TakePiece(sLine, bOverlong);
-  }
-  if (!bStarted) {
-    return Taken::End;
-  }
-  if (sLine.ends_with('\r')) {
-    sLine.pop_back();
-  }
-  return bOverlong ? Taken::OverlongLine : Taken::Line;
-}
 
 }  // namespace quillet

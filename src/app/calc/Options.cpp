@@ -1,8 +1,10 @@
 #include "app/calc/Options.h"
 
+#include <algorithm>
 #include <array>
 #include <limits>
 #include <map>
+#include <thread>
 
 #include <CLI/CLI.hpp>
 
@@ -19,6 +21,12 @@ const std::map<std::string, Format> kFormats = {{"", Format::Automatic},
                                                 {"table", Format::Table},
                                                 {"csv", Format::Csv},
                                                 {"json", Format::Json}};
+
+constexpr std::size_t kMostJobs = 256;
+
+std::size_t Cores() {
+  return std::clamp<std::size_t>(std::thread::hardware_concurrency(), 1, kMostJobs);
+}
 
 std::string Footer() {
   return "An auction file holds one auction. Standard input (-, or a pipe) holds one a line.\n"
@@ -80,13 +88,17 @@ void Describe(CLI::App& oApp, Options& oOptions, std::string& sFormat) {
               "--goal", [&oOptions](const std::string& sGoal) { oOptions.oGoal = GoalOf(sGoal); },
               "Add the lowest price for a profit: 20, 25% (of the cost), 15%price")
           ->check(WhyNoGoal);
+  auto* const pJobs =
+      oApp.add_option("--jobs", oOptions.nJobs, "Threads at work; by default the number of cores")
+          ->check(CLI::Range(std::size_t{1}, kMostJobs));
   pPrices->option_text("FILE");
   pFormat->option_text("FORMAT")->check(CLI::IsMember({"table", "csv", "json"}));
   pFiles->option_text("...");
   pBreakEven->option_text(" ");
   pGoal->option_text("GOAL");
+  pJobs->option_text("N");
   pCheck->option_text("FILE");
-  for (auto* const pOther : {pPrices, pFormat, pFiles, pBreakEven, pGoal}) {
+  for (auto* const pOther : {pPrices, pFormat, pFiles, pBreakEven, pGoal, pJobs}) {
     pCheck->excludes(pOther);
   }
 }
@@ -95,6 +107,7 @@ void Describe(CLI::App& oApp, Options& oOptions, std::string& sFormat) {
 
 std::optional<Options> ReadOptions(int nArguments, char** asArguments, int& nStatus) {
   Options oOptions;
+  oOptions.nJobs = Cores();
   std::string sFormat;
   CLI::App oApp("What an auction will leave its seller: every fee, the selling cost, the profit.",
                 std::string(ProgramName()));

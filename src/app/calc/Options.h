@@ -1,6 +1,7 @@
 // What the user asked for on the command line.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -20,6 +21,7 @@ struct Options {
   bool bBreakEven = false;             ///< asks for the price that breaks even
   std::optional<Goal> oGoal;           ///< asks for the price that meets it
   Format eFormat = Format::Automatic;
+  std::size_t nJobs = 1;             ///< how many threads work on it
   std::vector<std::string> asFiles;  ///< never empty unless sCheck is set
 };
 

@@ -4,18 +4,9 @@
 
 namespace quillet {
 
-void Output::Flush() {
-  const std::error_code oError = WriteAll(kStandardOutput, m_sText);
-  m_sText.clear();
-  if (oError) {
+void WriteOut(std::string_view sText) {
+  if (const std::error_code oError = WriteAll(kStandardOutput, sText)) {
     throw OutputFailure(oError);
-  }
-}
-
-void Output::FlushIfLarge() {
-  constexpr std::size_t kLarge = std::size_t{1} << 16U;
-  if (m_sText.size() >= kLarge) {
-    Flush();
   }
 }
 

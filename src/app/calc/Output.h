@@ -1,7 +1,7 @@
-// Standard output, written in large pieces.
+// Standard output.
 #pragma once
 
-#include <string>
+#include <string_view>
 #include <system_error>
 
 namespace quillet {
@@ -13,17 +13,7 @@ class OutputFailure : public std::system_error {
   [[nodiscard]] bool IsBrokenPipe() const { return code() == std::errc::broken_pipe; }
 };
 
-class Output {
- public:
-  /// Text put behind this one is written by the next Flush, or FlushIfLarge.
-  [[nodiscard]] std::string& Text() { return m_sText; }
-
-  /// Writes what is there; an OutputFailure if that can't be done.
-  void Flush();
-  void FlushIfLarge();
-
- private:
-  std::string m_sText;
-};
+/// An OutputFailure if that can't be done.
+void WriteOut(std::string_view sText);
 
 }  // namespace quillet

@@ -22,10 +22,9 @@ Progress::~Progress() {
   }
 }
 
-void Progress::Advance() {
-  constexpr std::int64_t kLooksAtClock = 64;  // auctions between two looks
-  ++m_nDone;
-  if (m_bWatched && m_nDone % kLooksAtClock == 0) {
+void Progress::Advance(std::int64_t nAuctions) {
+  m_nDone += nAuctions;
+  if (m_bWatched) {
     const std::int64_t nNow = TheHost().TickCount();
     if (nNow >= m_nNextShow) {
       Show(nNow);

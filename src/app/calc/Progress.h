@@ -14,8 +14,8 @@ class Progress {
   Progress& operator=(const Progress&) = delete;
   ~Progress();
 
-  /// One more auction is done.
-  void Advance();
+  /// So many more auctions are done.
+  void Advance(std::int64_t nAuctions);
 
  private:
   void Show(std::int64_t nNow);

@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "app/calc/Options.h"
 #include "app/calc/Result.h"
@@ -14,7 +15,10 @@ class Report {
   virtual ~Report() = default;
 
   /// What stands before the first result.
-  virtual void AddHeader(std::string& /*sOut*/) {}
+  [[nodiscard]] virtual std::string Header() const { return {}; }
+
+  /// What parts two results. Add puts it before each.
+  [[nodiscard]] virtual std::string_view Separator() const { return {}; }
 
   virtual void Add(const Result& oResult, std::string& sOut) = 0;
 
@@ -23,6 +27,9 @@ class Report {
 };
 
 // The options must live as long as their report.
+
+/// Of the form that they ask for; the automatic one is none.
+[[nodiscard]] std::unique_ptr<Report> MakeReport(const Options& oOptions);
 
 /// A table for people: the labels of the summary and what stands behind them, in colour if asked,
 /// and the prices that were asked for.

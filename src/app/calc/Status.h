@@ -14,6 +14,9 @@ enum Status : int {
 /// Writes a line to standard error, with the program's name in front and no control characters.
 void Complain(std::string_view sText);
 
+/// In a handler: complains of what was caught, and tells how the program then ends.
+[[nodiscard]] Status StatusOfCaught();
+
 /// "quillet-calc", or the name of the other region's program.
 [[nodiscard]] std::string_view ProgramName();
 

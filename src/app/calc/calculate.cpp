@@ -3,6 +3,7 @@
 #include <system_error>
 
 #include "answers/PriceFor.h"
+#include "app/calc/CalcHost.h"
 #include "app/calc/LineStream.h"
 #include "base/failure.h"
 #include "base/text.h"
@@ -45,7 +46,7 @@ void SetError(Result& oResult, std::string sError) {
   oResult.sError = std::move(sError);
 }
 
-void Calculate(std::string& sText, const Options& oOptions, CalcHost& oHost, Result& oResult) {
+void Calculate(std::string& sText, const Options& oOptions, Result& oResult) {
   if (sText.find_first_not_of(" \t\r\n") == std::string::npos) {
     SetError(oResult, "It is empty.");
     return;
@@ -53,7 +54,7 @@ void Calculate(std::string& sText, const Options& oOptions, CalcHost& oHost, Res
   clsCalculate oAuction;
   sText = DecodeText(std::move(sText));
   oAuction.Serialize(sText, false);
-  oResult.sMessage = oHost.TakeMessage();
+  oResult.sMessage = CalcHost::TakeMessage();
   oResult.sAuction.emplace();
   oAuction.Serialize(*oResult.sAuction, true);
   oResult.sError.reset();
@@ -65,13 +66,13 @@ void Calculate(std::string& sText, const Options& oOptions, CalcHost& oHost, Res
   }
 }
 
-void CalculateFile(const Options& oOptions, CalcHost& oHost, Result& oResult) {
+void CalculateFile(const Options& oOptions, Result& oResult) {
   std::string sText;
   if (const std::error_code oError = ReadWholeFile(oResult.sFile, kLongestAuction, sText)) {
     SetError(oResult, "It can't be read: " + oError.message());
     return;
   }
-  Calculate(sText, oOptions, oHost, oResult);
+  Calculate(sText, oOptions, oResult);
 }
 
 }  // namespace quillet

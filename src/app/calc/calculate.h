@@ -3,7 +3,6 @@
 
 #include <string>
 
-#include "app/calc/CalcHost.h"
 #include "app/calc/Options.h"
 #include "app/calc/Result.h"
 
@@ -11,10 +10,10 @@ namespace quillet {
 
 /// Fills all of `oResult` but its name from the text of an auction, which is used up. A text
 /// without anything in it is an error.
-void Calculate(std::string& sText, const Options& oOptions, CalcHost& oHost, Result& oResult);
+void Calculate(std::string& sText, const Options& oOptions, Result& oResult);
 
 /// The same for the auction in the file that `oResult` names.
-void CalculateFile(const Options& oOptions, CalcHost& oHost, Result& oResult);
+void CalculateFile(const Options& oOptions, Result& oResult);
 
 /// Empties `oResult` but for its name, and sets the error.
 void SetError(Result& oResult, std::string sError);

@@ -33,13 +33,12 @@ Status CheckScheduleFile(const std::string& sPath) {
   if (!HoldsAPrice(oPrices, sPath)) {
     return kUnusable;
   }
-  Output oOutput;
+  std::string sLines;
   const std::vector<Finding> aoFindings = CheckSchedule(sText);
   for (const Finding& oFinding : aoFindings) {
-    oOutput.Text() += FindingLine(sPath, oFinding) + "\n";
-    oOutput.FlushIfLarge();
+    sLines += FindingLine(sPath, oFinding) + "\n";
   }
-  oOutput.Flush();
+  WriteOut(sLines);
   return aoFindings.empty() ? kEveryAuctionCalculated : kSomeFailed;
 }
 

@@ -28,11 +28,12 @@ class CsvReport : public Report {
  public:
   explicit CsvReport(const Options& oOptions) : m_aoColumns(ColumnsFor(oOptions)) {}
 
-  void AddHeader(std::string& sOut) override {
+  [[nodiscard]] std::string Header() const override {
+    std::string sOut;
     for (const Column& oColumn : m_aoColumns) {
       sOut.append(&oColumn == m_aoColumns.data() ? "" : ",").append(oColumn.sName);
     }
-    sOut += '\n';
+    return sOut + '\n';
   }
 
   void Add(const Result& oResult, std::string& sOut) override {

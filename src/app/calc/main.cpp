@@ -1,9 +1,7 @@
 // quillet-calc: the figures of auctions on a terminal.
-#include <exception>
-
 #include "app/calc/CalcHost.h"
 #include "app/calc/Options.h"
-#include "app/calc/Output.h"
+#include "app/calc/Status.h"
 #include "app/calc/checkFile.h"
 #include "app/calc/run.h"
 #include "platform/Descriptors.h"
@@ -20,19 +18,11 @@ int Run(int nArguments, char** asArguments) {
   if (!oOptions) {
     return nStatus;
   }
-  try {
-    if (oOptions->sCheck) {
-      return CheckScheduleFile(*oOptions->sCheck);
-    }
-    nStatus = LoadSchedule(*oOptions);
-    return nStatus == kEveryAuctionCalculated ? RunAuctions(*oOptions, oHost) : nStatus;
-  } catch (const OutputFailure& oFailure) {
-    if (oFailure.IsBrokenPipe()) {
-      return kEveryAuctionCalculated;
-    }
-    Complain("the results can't be written: " + oFailure.code().message());
-    return kSomeFailed;
+  if (oOptions->sCheck) {
+    return CheckScheduleFile(*oOptions->sCheck);
   }
+  nStatus = LoadSchedule(*oOptions);
+  return nStatus == kEveryAuctionCalculated ? RunAuctions(*oOptions) : nStatus;
 }
 
 }  // namespace
@@ -41,8 +31,7 @@ int Run(int nArguments, char** asArguments) {
 int main(int nArguments, char** asArguments) {
   try {
     return quillet::Run(nArguments, asArguments);
-  } catch (const std::exception& oError) {
-    quillet::Complain(oError.what());
-    return quillet::kSomeFailed;
+  } catch (...) {
+    return quillet::StatusOfCaught();
   }
 }

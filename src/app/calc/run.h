@@ -1,7 +1,6 @@
 // Calculates what the command line names and prints the results.
 #pragma once
 
-#include "app/calc/CalcHost.h"
 #include "app/calc/Options.h"
 #include "app/calc/Status.h"
 
@@ -11,7 +10,7 @@ namespace quillet {
 /// be used.
 [[nodiscard]] Status LoadSchedule(const Options& oOptions);
 
-/// An OutputFailure ends it early.
-[[nodiscard]] Status RunAuctions(const Options& oOptions, CalcHost& oHost);
+/// Complains of what fails on the way.
+[[nodiscard]] Status RunAuctions(Options oOptions);
 
 }  // namespace quillet

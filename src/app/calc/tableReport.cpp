@@ -44,15 +44,13 @@ class TableReport : public Report {
  public:
   TableReport(const Options& oOptions, bool bColour) : m_oOptions(oOptions), m_bColour(bColour) {}
 
+  [[nodiscard]] std::string_view Separator() const override { return "\n"; }
+
   void Add(const Result& oResult, std::string& sOut) override {
     if (!oResult.oFigures) {
       return;
     }
-    if (!m_bFirst) {
-      sOut += '\n';
-    }
-    m_bFirst = false;
-    sOut.append(Coloured(ShowControls(oResult.Name()), kBold)).append("\n");
+    sOut.append(Separator()).append(Coloured(ShowControls(oResult.Name()), kBold)).append("\n");
     AddRows(*oResult.oFigures, sOut);
   }
 
@@ -97,7 +95,6 @@ class TableReport : public Report {
 
   const Options& m_oOptions;
   bool m_bColour;
-  bool m_bFirst = true;
 };
 
 }  // namespace
