@@ -152,11 +152,13 @@ MUTATIONS = [
 
     # quillet-calc
     ("app/calc/calculate.cpp", "  oResult.sError.reset();\n", "", "calc"),
-    ("app/calc/LineStream.cpp", "bOverlong = bOverlong || ", "bOverlong = ", "calc"),
+    ("app/calc/LineStream.cpp", "m_bOverlong = m_bOverlong || ", "m_bOverlong = ", "calc"),
     ("app/calc/columns.cpp", "{\"reserve_fee\", ReadFigure<&Figures::fReserveFee>}",
      "{\"reserve_fee\", ReadFigure<&Figures::fFinalValueFee>}", "calc"),
     ("app/calc/tableReport.cpp", "Utf16Length(oLine.sAmount)", "oLine.sAmount.size() + 1", "calc"),
-    ("app/calc/run.cpp", "fnVariable(\"TERM\") != \"dumb\"", "true", "calc"),
-    ("app/calc/run.cpp", "oResult.sError || oResult.sMessage ? kSomeFailed",
-     "oResult.sError ? kSomeFailed", "calc"),
+    ("app/calc/Report.cpp", "fnVariable(\"TERM\") != \"dumb\"", "true", "calc"),
+    ("app/calc/Renderer.cpp", "oBatch.bFailed || m_oResult.sError || m_oResult.sMessage",
+     "oBatch.bFailed || m_oResult.sError", "calc"),
+    ("app/calc/Jobs.cpp", "  oSlot.bReady = true;\n  if (m_bPrinting) {",
+     "  oSlot.bReady = true;\n  if (m_bPrinting && false) {", "calc"),
 ]
