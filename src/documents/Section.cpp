@@ -78,8 +78,8 @@ SectionReader::SectionReader(std::string_view sData, std::string_view sMarker)
 
 std::string_view SectionReader::Take() {
   m_sLeft.remove_prefix(std::min(m_sLeft.find_first_not_of(kSeparator), m_sLeft.size()));
-  const auto oEnd = std::find(m_sLeft.begin(), m_sLeft.end(), kSeparator);
-  const std::string_view sValue(m_sLeft.begin(), oEnd);
+  const std::string_view sValue(m_sLeft.begin(),
+                                std::find(m_sLeft.begin(), m_sLeft.end(), kSeparator));
   m_sLeft.remove_prefix(sValue.size());
   return sValue;
 }
