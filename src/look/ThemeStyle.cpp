@@ -85,13 +85,11 @@ void DrawButton(QPainter& oPainter, const QStyleOption& oOption) {
   const QRectF oEdge = QRectF(oOption.rect).adjusted(0.5, 0.5, -0.5, -0.5);
   oPainter.save();
   oPainter.setRenderHint(QPainter::Antialiasing);
-  oPainter.setPen(InkColour(IsDefault(&oOption) ? Ink::Accent : Ink::FieldEdge));
-  oPainter.setBrush(ButtonColour(oOption));
-  oPainter.drawRoundedRect(oEdge, fRadius, fRadius);
+  DrawRounded(oPainter, oEdge, fRadius,
+              InkColour(IsDefault(&oOption) ? Ink::Accent : Ink::FieldEdge), ButtonColour(oOption));
   if (bFocus) {
-    oPainter.setPen(InkColour(IsDefault(&oOption) ? Ink::OnAccent : Ink::Accent));
-    oPainter.setBrush(Qt::NoBrush);
-    oPainter.drawRoundedRect(oEdge.adjusted(2, 2, -2, -2), fRadius - 2, fRadius - 2);
+    DrawRounded(oPainter, oEdge.adjusted(2, 2, -2, -2), fRadius - 2,
+                InkColour(IsDefault(&oOption) ? Ink::OnAccent : Ink::Accent), Qt::NoBrush);
   }
   oPainter.restore();
 }
@@ -134,16 +132,24 @@ void DrawMarkedButton(QPainter& oPainter, const QStyleOptionButton& oButton, boo
             oButton.palette.color(QPalette::WindowText), Qt::TextShowMnemonic);
 }
 
-/// The box of a list to choose from, and its arrow; as the numeric boxes are drawn.
+/// As the numeric boxes are drawn.
+void DrawInput(QPainter& oPainter, const QStyleOption& oInput) {
+  const bool bFocus = (oInput.state & QStyle::State_HasFocus) != 0;
+  oPainter.save();
+  oPainter.setRenderHint(QPainter::Antialiasing);
+  DrawField(oPainter, oInput.rect, bFocus ? Ink::Accent : Ink::FieldEdge, InkColour(Ink::Field));
+  oPainter.restore();
+}
+
+/// The box of a list to choose from, and its arrow.
 void DrawCombo(QPainter& oPainter, const QStyleOptionComboBox& oCombo) {
-  const bool bFocus = (oCombo.state & QStyle::State_HasFocus) != 0;
   const bool bHover = (oCombo.state & QStyle::State_MouseOver) != 0;
   const double fArrow = Pixels(kTwipsOfArrow);
   const QRectF oBox = oCombo.rect;
   const QPointF oMiddle(oBox.right() - Pixels(kTwipsOfArrowRight), oBox.center().y());
+  DrawInput(oPainter, oCombo);
   oPainter.save();
   oPainter.setRenderHint(QPainter::Antialiasing);
-  DrawField(oPainter, oBox, bFocus ? Ink::Accent : Ink::FieldEdge, InkColour(Ink::Field));
   DrawChevron(oPainter, {oMiddle - QPointF(fArrow, fArrow) / 2, QSizeF(fArrow, fArrow)},
               Towards::Down, InkColour(bHover ? Ink::Text : Ink::FaintText));
   oPainter.restore();
@@ -188,9 +194,8 @@ void DrawScrollBar(QPainter& oPainter, const QStyleOptionSlider& oBar) {
   const double fRadius = std::min(oInk.width(), oInk.height()) / 2;
   oPainter.save();
   oPainter.setRenderHint(QPainter::Antialiasing);
-  oPainter.setPen(Qt::NoPen);
-  oPainter.setBrush(InkColour(bHot ? Ink::FaintText : Ink::FieldEdge));
-  oPainter.drawRoundedRect(oInk, fRadius, fRadius);
+  DrawRounded(oPainter, oInk, fRadius, Qt::NoPen,
+              InkColour(bHot ? Ink::FaintText : Ink::FieldEdge));
   oPainter.restore();
 }
 
@@ -203,6 +208,8 @@ void ThemeStyle::drawPrimitive(PrimitiveElement eElement, const QStyleOption* pO
   switch (eElement) {
     case PE_PanelButtonCommand:
       return DrawButton(*pPainter, *pOption);
+    case PE_FrameLineEdit:
+      return DrawInput(*pPainter, *pOption);
     case PE_IndicatorCheckBox:
     case PE_IndicatorRadioButton:
       return DrawMark(*pPainter, *pOption, QRectF(pOption->rect).adjusted(0.5, 0.5, -0.5, -0.5),
