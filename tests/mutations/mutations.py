@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """mutations.py FOLDER-OF-A-BUILD [WORD...]: do the tests catch the faults of table.py? Puts each into
 the sources in its turn, builds, runs the test that is to fail, and takes it out again. With words,
-only the rows that hold one of them. Not part of CI: eighty rows take some ten minutes."""
+only the rows that hold one of them. Not part of CI: all rows take some quarter of an hour."""
 import os
 import subprocess
 import sys
