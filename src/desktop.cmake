@@ -8,6 +8,7 @@ add_library(quillet_desktop STATIC
   controls/ImageButton.cpp
   controls/OptionInterface.cpp
   controls/ScrollBar.cpp
+  controls/SectionHeader.cpp
   controls/SpinButton.cpp
   look/ShockwaveFlash.cpp
   look/Theme.cpp
@@ -44,6 +45,7 @@ add_library(quillet_desktop STATIC
   sections/ctlRealEstateOptions.cpp
   sections/ctlSellingCosts.cpp
   sections/ctlSellingFeatures.cpp
+  sections/inputNames.cpp
   shell/DesktopApplication.cpp
   shell/KeptAuction.cpp
   shell/MissingPriceLine.cpp

@@ -1,7 +1,6 @@
 #include "controls/Controls.h"
 
 #include <QKeyEvent>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QSignalBlocker>
 #include <algorithm>
@@ -102,40 +101,6 @@ void OptionButton::ChooseNeighbour(int nStep) {
   OptionButton* const pNext = aoGroup.at((nAt + nStep + aoGroup.size()) % aoGroup.size());
   pNext->setFocus(Qt::TabFocusReason);
   pNext->SetValue(1);
-}
-
-Image::Image(QWidget* pParent) : QWidget(pParent), Control(static_cast<QWidget&>(*this)) {
-  setCursor(Qt::SizeAllCursor);
-}
-
-void Image::SetCaption(const QString& sCaption) {
-  m_sCaption = sCaption;
-  setAccessibleName(sCaption);
-  update();
-}
-
-void Image::paintEvent(QPaintEvent* /*pEvent*/) {
-  constexpr double kRadius = 5.0;
-  QPainter oPainter(this);
-  oPainter.setRenderHint(QPainter::Antialiasing);
-  DrawRounded(oPainter, rect(), kRadius, Qt::NoPen, InkColour(Ink::HeaderBar));
-  DrawWords(oPainter, rect().adjusted(Pixels(120), 0, 0, 0), m_sCaption,
-            InkColour(Ink::OnHeaderBar));
-}
-
-void Image::mousePressEvent(QMouseEvent* pEvent) {
-  const QPointF oAt = pEvent->position();
-  emit MouseDown(static_cast<float>(Twips(oAt.x())), static_cast<float>(Twips(oAt.y())));
-}
-
-void Image::mouseMoveEvent(QMouseEvent* pEvent) {
-  const QPointF oAt = pEvent->position();
-  emit MouseMove(static_cast<float>(Twips(oAt.x())), static_cast<float>(Twips(oAt.y())));
-}
-
-void Image::mouseReleaseEvent(QMouseEvent* pEvent) {
-  const QPointF oAt = pEvent->position();
-  emit MouseUp(static_cast<float>(Twips(oAt.x())), static_cast<float>(Twips(oAt.y())));
 }
 
 }  // namespace quillet

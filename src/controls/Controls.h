@@ -91,31 +91,4 @@ class Frame : public QFrame, public Control {
   [[nodiscard]] const char* TypeName() const override { return "Frame"; }
 };
 
-/// The bar by which a section is dragged. Raises what the mouse does on it, any button alike.
-class Image : public QWidget, public Control {
-  Q_OBJECT
-
- public:
-  explicit Image(QWidget* pParent);
-  [[nodiscard]] const char* TypeName() const override { return "Image"; }
-  /// The words on it, which the design leaves out: the section's name.
-  void SetCaption(const QString& sCaption) override;
-  [[nodiscard]] QString Caption() const override { return m_sCaption; }
-
- signals:
-  // Places in twips within the image.
-  void MouseDown(float fX, float fY);
-  void MouseMove(float fX, float fY);
-  void MouseUp(float fX, float fY);
-
- protected:
-  void paintEvent(QPaintEvent* pEvent) override;
-  void mousePressEvent(QMouseEvent* pEvent) override;
-  void mouseMoveEvent(QMouseEvent* pEvent) override;
-  void mouseReleaseEvent(QMouseEvent* pEvent) override;
-
- private:
-  QString m_sCaption;
-};
-
 }  // namespace quillet

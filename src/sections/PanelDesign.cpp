@@ -1,6 +1,7 @@
 #include "sections/PanelDesign.h"
 
 #include "controls/Controls.h"
+#include "controls/SectionHeader.h"
 #include "platform/Host.h"
 #include "sections/SectionPanel.h"
 #include "sections/ctlNumericText.h"
@@ -44,7 +45,7 @@ Control* MakeOfKind(const ControlDesign& oDesign, QWidget* pParent) {
     case ControlKind::kFrame:
       return new Frame(pParent);
     case ControlKind::kHeader:
-      return new Image(pParent);
+      return new SectionHeader(pParent);
     case ControlKind::kSubControl:
       return oDesign.fnMake(pParent);
   }

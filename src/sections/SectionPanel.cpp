@@ -6,12 +6,14 @@
 
 #include "base/FlagGuard.h"
 #include "base/failure.h"
+#include "controls/SectionHeader.h"
 #include "look/font.h"
 #include "look/marks.h"
 #include "look/palette.h"
 #include "look/scale.h"
 #include "sections/VisibleList.h"
 #include "sections/controlHelpers.h"
+#include "sections/inputNames.h"
 
 namespace quillet {
 namespace {
@@ -24,8 +26,9 @@ bool Contains(const std::string& sText, const std::string& sPart) {
   return sText.find(sPart) != std::string::npos;
 }
 
-bool IsContainerOfBox(const Control& oControl, const Control& oBox) {
-  return std::string_view(oControl.Container()->TypeName()) == oBox.Container()->TypeName();
+/// Tells what stands in a Frame from what doesn't.
+bool InContainersOfOneType(const Control& a, const Control& b) {
+  return std::string_view(a.Container()->TypeName()) == b.Container()->TypeName();
 }
 
 }  // namespace
@@ -35,10 +38,10 @@ SectionPanel::SectionPanel(const PanelDesign& oDesign, QWidget* pParent)
   for (const ControlDesign& oControl : oDesign.aoControls) {
     MakeControl(oControl);
   }
-  NameInputs();
+  NameTheInputs();
   setAccessibleName(QString::fromUtf8(oDesign.sTitle));
   Place(0, 0, oDesign.nWidth, oDesign.nHeight);
-  if (Image* const pHeader = Header()) {
+  if (SectionHeader* const pHeader = Header()) {
     setFocusPolicy(Qt::ClickFocus);
     pHeader->SetVisible(false);
     pHeader->raise();
@@ -68,62 +71,9 @@ void SectionPanel::Listen(Control& oControl) {
     connect(pBox, &ctlNumericText::Changed, this, fnClicked);
   } else if (auto* const pPanel = dynamic_cast<SectionPanel*>(&oControl)) {
     connect(pPanel, &SectionPanel::Changed, this, fnClicked);
-  } else if (auto* const pHeader = dynamic_cast<Image*>(&oControl)) {
-    connect(pHeader, &Image::MouseDown, this, [this, pHeader](float fX, float fY) {
-      pHeader->SetTag("1");
-      m_fDragX = fX;
-      m_fDragY = fY;
-    });
-    connect(pHeader, &Image::MouseMove, this, [this, pHeader](float fX, float fY) {
-      if (pHeader->Tag() == "1") {
-        emit Moved(fX - m_fDragX, fY - m_fDragY);
-      }
-    });
-    connect(pHeader, &Image::MouseUp, this, [this, pHeader](float fX, float fY) {
-      if (pHeader->Tag() == "1") {
-        emit Moved(fX - m_fDragX, fY - m_fDragY);
-        pHeader->SetTag("0");
-      }
-    });
+  } else if (auto* const pHeader = dynamic_cast<SectionHeader*>(&oControl)) {
+    connect(pHeader, &SectionHeader::Moved, this, &SectionPanel::Moved);
   }
-}
-
-/// Numeric boxes and Show boxes have no words of their own: they are called after their row.
-void SectionPanel::NameInputs() {
-  for (std::size_t i = 0; i < m_aoControls.size(); ++i) {
-    Control* const pControl = m_aoControls[i];
-    if (IsShowCheck(*pControl)) {
-      const Control* const pRow = FindRowControl(*pControl);
-      const QString sRow = pRow != nullptr ? CaptionOf(*pRow) : QString();
-      pControl->Widget().setAccessibleName(sRow.isEmpty() ? tr("Show") : tr("Show %1").arg(sRow));
-    } else if (auto* const pBox = dynamic_cast<ctlNumericText*>(pControl)) {
-      pBox->SetAccessibleName(CaptionBeside(i));
-    }
-  }
-}
-
-/// The words on a control, or on the first one that stands in it.
-QString SectionPanel::CaptionOf(const Control& oControl) const {
-  const auto pFound = std::find_if(m_aoControls.begin(), m_aoControls.end(), [&](Control* p) {
-    return (p == &oControl || p->Container() == &oControl) && !p->Caption().isEmpty();
-  });
-  return pFound == m_aoControls.end() ? QString() : WordsOf(**pFound);
-}
-
-/// The words in a control's row, a label's rather than a box's. The row is known by its place in
-/// the design: packed rows come to stand where hidden ones were.
-QString SectionPanel::CaptionBeside(std::size_t nControl) const {
-  QString sWords;
-  for (std::size_t i = 0; i < m_aoControls.size(); ++i) {
-    const Control& oMate = *m_aoControls[i];
-    const bool bLabel = m_oDesign.aoControls[i].eKind == ControlKind::kLabel;
-    if (m_oDesign.aoControls[i].nTop == m_oDesign.aoControls[nControl].nTop &&
-        oMate.Container() == m_aoControls[nControl]->Container() && !IsShowCheck(oMate) &&
-        !oMate.Caption().isEmpty() && (bLabel || sWords.isEmpty())) {
-      sWords = WordsOf(oMate);
-    }
-  }
-  return sWords;
 }
 
 void SectionPanel::SetShowConfig(bool bShowConfig) {
@@ -187,10 +137,15 @@ std::int32_t SectionPanel::ChosenOf(std::span<const OptionCode> aoOptions,
   return pChosen == aoOptions.end() ? nNone : pChosen->nCode;
 }
 
+void SectionPanel::NameTheInputs() {
+  NameInputs(m_aoControls, m_oDesign.aoControls,
+             [this](const Control& oBox) { return FindRowControl(oBox); });
+}
+
 void SectionPanel::SetRowCaption(Control& oNamed, const QString& sCaption) {
   if (oNamed.Caption() != sCaption) {
     oNamed.SetCaption(sCaption);
-    NameInputs();
+    NameTheInputs();
   }
 }
 
@@ -223,7 +178,7 @@ int SectionPanel::ContentLeft() const {
 /// A section covers what it was dragged onto, and bears its name, small, in the place of the header
 /// while that is hidden.
 void SectionPanel::paintEvent(QPaintEvent* /*pEvent*/) {
-  const Image* const pHeader = Header();
+  const SectionHeader* const pHeader = Header();
   if (pHeader == nullptr) {
     return;
   }
@@ -241,7 +196,7 @@ void SectionPanel::paintEvent(QPaintEvent* /*pEvent*/) {
 }
 
 void SectionPanel::Placed() {
-  if (Image* const pHeader = Header()) {
+  if (SectionHeader* const pHeader = Header()) {
     pHeader->SetWidth(Width());
   }
 }
@@ -302,7 +257,7 @@ void SectionPanel::LoadShowChecks() {
 }
 
 void SectionPanel::UpdateSectionLayout() {
-  if (Image* const pHeader = Header()) {
+  if (SectionHeader* const pHeader = Header()) {
     pHeader->SetVisible(false);
   }
   const int nWidth =
@@ -383,7 +338,7 @@ void SectionPanel::AlignShowChecks() {
 Control* SectionPanel::FindRowControl(const Control& oBox) const {
   const auto pFound = std::find_if(m_aoControls.begin(), m_aoControls.end(), [&](Control* p) {
     const bool bKind = !m_oDesign.bRowsByLabel || std::string_view(p->TypeName()) == "Label";
-    return bKind && Contains(p->Name(), oBox.Tag()) && IsContainerOfBox(*p, oBox) &&
+    return bKind && Contains(p->Name(), oBox.Tag()) && InContainersOfOneType(*p, oBox) &&
            !IsSubControl(*p) && !IsShowCheck(*p);
   });
   return pFound == m_aoControls.end() ? nullptr : *pFound;
@@ -411,8 +366,8 @@ void SectionPanel::SaveShowChecks() {
   }
 }
 
-Image* SectionPanel::Header() const {
-  return dynamic_cast<Image*>(Find("imgHeader"));
+SectionHeader* SectionPanel::Header() const {
+  return dynamic_cast<SectionHeader*>(Find("imgHeader"));
 }
 
 /// A control that a row is made of: what stands in a Frame goes with its Frame.

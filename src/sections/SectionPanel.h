@@ -23,6 +23,8 @@
 
 namespace quillet {
 
+class SectionHeader;
+
 /// An option, and the code that it stands for in the model.
 struct OptionCode {
   const char* sOption;
@@ -110,9 +112,7 @@ class SectionPanel : public QWidget, public Control {
  private:
   void MakeControl(const ControlDesign& oControl);
   void Listen(Control& oControl);
-  void NameInputs();
-  [[nodiscard]] QString CaptionOf(const Control& oControl) const;
-  [[nodiscard]] QString CaptionBeside(std::size_t nControl) const;
+  void NameTheInputs();
 
   /// At which tops and heights the rows are registered.
   enum class RowPlaces { kDesigned, kAsTheyStand };
@@ -128,7 +128,7 @@ class SectionPanel : public QWidget, public Control {
   [[nodiscard]] Control* FindRowControl(const Control& oBox) const;
   void SaveShowChecks();
 
-  [[nodiscard]] Image* Header() const;
+  [[nodiscard]] SectionHeader* Header() const;
   [[nodiscard]] bool IsRow(const Control& oControl) const;
 
   const PanelDesign& m_oDesign;
@@ -136,8 +136,6 @@ class SectionPanel : public QWidget, public Control {
   std::vector<Control*> m_aoControls;  ///< in collection order
   bool m_bShowConfig = false;
   bool m_bLoading = false;  ///< the Show boxes are being set: nothing is stored
-  float m_fDragX = 0;
-  float m_fDragY = 0;
 };
 
 }  // namespace quillet

@@ -1,0 +1,16 @@
+// What screen readers call the inputs of a panel.
+#pragma once
+
+#include <functional>
+#include <span>
+
+#include "sections/PanelDesign.h"
+
+namespace quillet {
+
+/// Numeric boxes and Show boxes have no words of their own: they are called after their row.
+/// `fnRowOf` finds the control that a Show box stands beside, or null.
+void NameInputs(std::span<Control* const> aoControls, std::span<const ControlDesign> aoDesigns,
+                const std::function<const Control*(const Control& oBox)>& fnRowOf);
+
+}  // namespace quillet
