@@ -1,17 +1,16 @@
 #include "controls/Controls.h"
 
 #include <QKeyEvent>
-#include <QPainter>
 #include <QSignalBlocker>
 #include <algorithm>
 
 #include "controls/OptionInterface.h"
 #include "look/font.h"
-#include "look/marks.h"
 #include "look/palette.h"
 #include "look/scale.h"
 
 namespace quillet {
+
 Label::Label(QWidget* pParent)
     : QLabel(pParent), Control(static_cast<QWidget&>(*this)), m_fPoints(kTextPoints) {
   setTextFormat(Qt::PlainText);

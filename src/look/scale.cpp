@@ -6,8 +6,6 @@
 namespace quillet {
 namespace {
 
-constexpr double kTwipsPerPixel = 15.0;  // 1440 to the inch, the toolkit's 96 pixels to the inch
-
 double g_fZoom = 1.0;
 
 }  // namespace

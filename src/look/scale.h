@@ -3,6 +3,8 @@
 
 namespace quillet {
 
+inline constexpr double kTwipsPerPixel = 15.0;  ///< at zoom 1: 1440 to 96 an inch
+
 /// How large everything is drawn, 1 being the design's size.
 [[nodiscard]] double Zoom();
 void SetZoom(double fZoom);

@@ -4,27 +4,18 @@
 
 #include "base/FlagGuard.h"
 #include "base/failure.h"
+#include "controls/layout.h"
 #include "shell/KeptAuction.h"
 
 namespace quillet {
-namespace {
-
-template <typename Section>
-Section& Make(QWidget& oView, const char* sName) {
-  auto* const pSection = new Section(&oView);
-  pSection->SetName(sName);
-  return *pSection;
-}
-
-}  // namespace
 
 SectionSet::SectionSet(QWidget& oView, std::function<void(bool)> fnChanged)
-    : ctlSellingCostsSection(Make<ctlSellingCosts>(oView, "ctlSellingCostsSection")),
-      ctlOutlaySection(Make<ctlOutlay>(oView, "ctlOutlaySection")),
-      ctlSellingFeaturesSection(Make<ctlSellingFeatures>(oView, "ctlSellingFeaturesSection")),
-      ctlAuctionTypeSection(Make<ctlAuctionType>(oView, "ctlAuctionTypeSection")),
-      ctlPayPalSection(Make<ctlPayPal>(oView, "ctlPayPalSection")),
-      ctlPostageSection(Make<ctlPostage>(oView, "ctlPostageSection")),
+    : ctlSellingCostsSection(*Make<ctlSellingCosts>("ctlSellingCostsSection", &oView)),
+      ctlOutlaySection(*Make<ctlOutlay>("ctlOutlaySection", &oView)),
+      ctlSellingFeaturesSection(*Make<ctlSellingFeatures>("ctlSellingFeaturesSection", &oView)),
+      ctlAuctionTypeSection(*Make<ctlAuctionType>("ctlAuctionTypeSection", &oView)),
+      ctlPayPalSection(*Make<ctlPayPal>("ctlPayPalSection", &oView)),
+      ctlPostageSection(*Make<ctlPostage>("ctlPostageSection", &oView)),
       m_fnChanged(std::move(fnChanged)) {}
 
 void SectionSet::RefreshSums(clsCalculate& oDocument, bool bUpdateControlDisplays) {

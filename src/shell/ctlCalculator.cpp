@@ -10,6 +10,7 @@
 #include "base/clsRegistryAccess.h"
 #include "base/conversions.h"
 #include "base/failure.h"
+#include "controls/layout.h"
 #include "look/marks.h"
 #include "look/palette.h"
 #include "look/scale.h"
@@ -18,14 +19,6 @@
 
 namespace quillet {
 namespace {
-
-struct Place {
-  Control* pControl;
-  int nLeft;
-  int nTop;
-  int nWidth;
-  int nHeight;
-};
 
 constexpr int kDesignWidth = 12075;
 constexpr int kDesignHeight = 12510;
@@ -66,19 +59,15 @@ ctlCalculator::ctlCalculator(QWidget* pParent)
     : QWidget(pParent),
       Control(static_cast<QWidget&>(*this)),
       m_oSet(*this, [this](bool bDocDirty) { emit Changed(bDocDirty); }),
-      m_pMissingPrice(new MissingPriceLine(this)) {
-  m_pMissingPrice->SetName("MissingPrice");
-  const std::array aoPlaces = std::to_array<quillet::Place>({
+      m_pMissingPrice(Make<MissingPriceLine>("MissingPrice", this)) {
+  PlaceAll(std::to_array<ControlPlace>({
       {&m_oSet.ctlSellingCostsSection, 120, 120, 10755, 960},
       {&m_oSet.ctlOutlaySection, 240, 1560, 5550, 1935},
       {&m_oSet.ctlPayPalSection, 5760, 1560, 3150, 3615},
       {&m_oSet.ctlAuctionTypeSection, 9000, 1560, 3030, 7455},
       {&m_oSet.ctlSellingFeaturesSection, 120, 3600, 3750, 6975},
       {&m_oSet.ctlPostageSection, 4440, 5640, 4350, 5055},
-  });
-  for (const auto& [pControl, nLeft, nTop, nWidth, nHeight] : aoPlaces) {
-    pControl->Place(nLeft, nTop, nWidth, nHeight);
-  }
+  }));
   for (Card*& pCard : m_apCards) {
     pCard = new Card(this);
     pCard->setAttribute(Qt::WA_TransparentForMouseEvents);

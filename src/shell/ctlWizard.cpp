@@ -15,6 +15,7 @@
 #include "base/failure.h"
 #include "controls/ImageButton.h"
 #include "controls/ScrollBar.h"
+#include "controls/layout.h"
 #include "look/marks.h"
 #include "look/palette.h"
 #include "look/scale.h"
@@ -40,13 +41,6 @@ constexpr int kButtonHeight = 495;
 constexpr int kButtonGap = 300;  // so that neighbours, whose places overlap, stand apart
 
 constexpr double kInfoPoints = 13.0;
-
-template <typename Kind, typename... Arguments>
-Kind* Make(const char* sName, Arguments&&... oArguments) {
-  auto* const pControl = new Kind(std::forward<Arguments>(oArguments)...);
-  pControl->SetName(sName);
-  return pControl;
-}
 
 std::string PageInfoText(std::int16_t nFrame) {
   return Registry().Get(settings::kPageInfo.at(static_cast<std::size_t>(nFrame)));

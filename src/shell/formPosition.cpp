@@ -11,11 +11,10 @@
 #include "base/clsRegistryAccess.h"
 #include "base/conversions.h"
 #include "base/failure.h"
+#include "look/scale.h"
 
 namespace quillet {
 namespace {
-
-constexpr double kTwipsPerPixel = 15.0;
 
 std::string SectionOf(const QWidget& oForm) {
   return settings::kForms + FormKeyName(oForm.objectName().toStdString());

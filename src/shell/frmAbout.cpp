@@ -19,6 +19,7 @@
 #include "controls/ComboBox.h"
 #include "controls/Controls.h"
 #include "controls/ImageButton.h"
+#include "controls/layout.h"
 #include "look/ShockwaveFlash.h"
 #include "look/palette.h"
 #include "look/scale.h"
@@ -55,13 +56,6 @@ class Line : public QWidget, public Control {
   }
   [[nodiscard]] const char* TypeName() const override { return "Line"; }
 };
-
-template <typename Kind>
-Kind* Make(const char* sName, QWidget* pParent) {
-  auto* const pControl = new Kind(pParent);
-  pControl->SetName(sName);
-  return pControl;
-}
 
 Frame* MakePage(const char* sName, QWidget* pParent) {
   auto* const pFrame = Make<Frame>(sName, pParent);
@@ -155,19 +149,12 @@ void frmAbout::DescribeControls() {
 }
 
 void frmAbout::PlaceControls() {
-  struct Place {
-    Control* pControl;
-    int nLeft;
-    int nTop;
-    int nWidth;
-    int nHeight;
-  };
   constexpr int kLineWidth = 15;
   constexpr int kGap = 90;  // the places of Apply and Cancel overlap
   m_pImgApply->SetGap(kGap);
   m_pImgCancel->SetGap(kGap);
   m_pImgResetPositions->SetFlush(true);  // with the boxes above it
-  const std::array aoPlaces = std::to_array<Place>({
+  PlaceAll(std::to_array<ControlPlace>({
       {m_pLine1, 2280, 120, kLineWidth, 3600},
       {m_pImgAbout, 240, 120, 1695, 420},
       {m_pImgSettings, 240, 600, 1695, 420},
@@ -180,10 +167,7 @@ void frmAbout::PlaceControls() {
       {m_pLblHint, 240, 1560, 4935, 600},
       {m_pImgApply, 2400, 3120, 1470, 375},
       {m_pImgCancel, 3840, 3120, 1470, 375},
-  });
-  for (const auto& [pControl, nLeft, nTop, nWidth, nHeight] : aoPlaces) {
-    pControl->Place(nLeft, nTop, nWidth, nHeight);
-  }
+  }));
   RescaleAll(*this);  // the fonts too
   m_pAniFlash->setGeometry(0, 0, Pixels(kPageWidth), Pixels(kPageHeight));
 }

@@ -1,0 +1,34 @@
+// How views and windows make their controls and place them.
+#pragma once
+
+#include <span>
+#include <utility>
+
+#include "controls/Control.h"
+
+namespace quillet {
+
+/// Makes a control with a name, for its parent to own.
+template <typename Kind, typename... Arguments>
+Kind* Make(const char* sName, Arguments&&... oArguments) {
+  auto* const pControl = new Kind(std::forward<Arguments>(oArguments)...);
+  pControl->SetName(sName);
+  return pControl;
+}
+
+/// A row of a table of places, in twips.
+struct ControlPlace {
+  Control* pControl;
+  int nLeft;
+  int nTop;
+  int nWidth;
+  int nHeight;
+};
+
+inline void PlaceAll(std::span<const ControlPlace> aoPlaces) {
+  for (const auto& [pControl, nLeft, nTop, nWidth, nHeight] : aoPlaces) {
+    pControl->Place(nLeft, nTop, nWidth, nHeight);
+  }
+}
+
+}  // namespace quillet
