@@ -46,11 +46,13 @@ add_library(quillet_desktop STATIC
   sections/ctlSellingCosts.cpp
   sections/ctlSellingFeatures.cpp
   sections/inputNames.cpp
+  shell/ButtonColumn.cpp
   shell/DesktopApplication.cpp
   shell/KeptAuction.cpp
   shell/MissingPriceLine.cpp
   shell/ScrollFrame.cpp
   shell/SectionSet.cpp
+  shell/WindowZoom.cpp
   shell/WizardSteps.cpp
   shell/ctlCalculator.cpp
   shell/ctlWizard.cpp

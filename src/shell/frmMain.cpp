@@ -3,25 +3,21 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLineEdit>
-#include <QScreen>
 #include <QShortcut>
 #include <QWheelEvent>
-#include <algorithm>
-#include <cmath>
 
 #include "base/basCommon.h"
 #include "base/basError.h"
 #include "base/clsRegistryAccess.h"
 #include "base/failure.h"
-#include "look/ShockwaveFlash.h"
+#include "controls/layout.h"
 #include "look/font.h"
 #include "look/palette.h"
 #include "look/scale.h"
-#include "platform/Files.h"
+#include "shell/ButtonColumn.h"
 #include "shell/ScrollFrame.h"
 #include "shell/formPosition.h"
 #include "shell/frmAbout.h"
-#include "shell/zoomSteps.h"
 
 namespace quillet {
 namespace {
@@ -30,52 +26,7 @@ namespace {
 constexpr int kWindowWidth = 11805;
 constexpr int kWindowHeight = 8010;
 constexpr int kRhsLeft = 1590;
-constexpr int kLhsWidth = 1575;
-constexpr int kButtonLeft = 240;
-constexpr int kButtonSize = 1080;
-constexpr int kFirstButtonTop = 240;
-constexpr int kAboutTop = 6720;
 constexpr int kMargin = 240;  // beside the sections, where the window is made to hold them
-
-struct ButtonDesign {
-  const char* sMovie;
-  const char* sToolTip;
-  const char* sShortcut;
-};
-
-constexpr std::array<ButtonDesign, 6> kButtons = {{
-    {"\\Graphics\\Buttons\\New_button.swf", "New Auction", "Ctrl+N"},
-    {"\\Graphics\\Buttons\\Calc_button.swf", "Calculator", "Ctrl+1"},
-    {"\\Graphics\\Buttons\\Wizard_button.swf", "Wizard", "Ctrl+2"},
-    {"\\Graphics\\Buttons\\Save_button.swf", "Save", "Ctrl+S"},
-    {"\\Graphics\\Buttons\\Load_button.swf", "Load", "Ctrl+O"},
-    {"\\Graphics\\Buttons\\Config_button.swf", "Default Configuration", "Ctrl+,"},
-}};
-constexpr ButtonDesign kAboutButton = {"\\Graphics\\Buttons\\About_button.swf", "About", "F1"};
-
-QString ToolTipOf(const ButtonDesign& oButton) {
-  const QKeySequence oKeys(QString::fromLatin1(oButton.sShortcut));
-  return QString("%1 (%2)").arg(oButton.sToolTip, oKeys.toString(QKeySequence::NativeText));
-}
-
-/// A button that plays a movie, and calls `fnClick` when the movie sends "click" in any case.
-template <typename Click>
-ShockwaveFlash* MakeButton(const ButtonDesign& oButton, const char* sName, QWidget* pParent,
-                           Click&& fnClick) {
-  auto* const pButton = new ShockwaveFlash(pParent);
-  pButton->setObjectName(sName);
-  pButton->SetMovie(
-      QString::fromStdString(NativePath(TheHost().ProgramFolder() + std::string(oButton.sMovie))));
-  pButton->setToolTip(ToolTipOf(oButton));
-  pButton->setAccessibleName(oButton.sToolTip);
-  QObject::connect(pButton, &ShockwaveFlash::FSCommand, pParent,
-                   [fnClick](const QString& sCommand, const QString& /*sArguments*/) {
-                     if (sCommand.toLower() == "click") {
-                       IgnoreFailure(fnClick);
-                     }
-                   });
-  return pButton;
-}
 
 void SetGround(QWidget& oWidget, Ink eInk) {
   QPalette oPalette = oWidget.palette();
@@ -84,32 +35,31 @@ void SetGround(QWidget& oWidget, Ink eInk) {
   oWidget.setAutoFillBackground(true);
 }
 
-void PlaceInTwips(QWidget& oWidget, int nLeft, int nTop, int nWidth, int nHeight) {
-  oWidget.setGeometry(Pixels(nLeft), Pixels(nTop), Pixels(nWidth), Pixels(nHeight));
-}
-
 }  // namespace
 
 frmMain::frmMain()
     : m_sCaption(EditionName()),
       m_oDocuments(*this, m_sCaption),
-      m_pLhs(new ScrollFrame(this)),
-      m_pRhs(new ScrollFrame(this)),
-      m_pCalculator(new ctlCalculator(&m_pRhs->Content())),
-      m_pWizard(new ctlWizard(&m_pRhs->Content())) {
+      m_oZoom(*this,
+              [this] {
+                Rescale();
+                Form_Resize();
+              }),
+      m_pLhs(Make<ButtonColumn>("fraLHS", kWindowHeight, this)),
+      m_pRhs(Make<ScrollFrame>("fraRHS", this)),
+      m_pCalculator(Make<ctlCalculator>("ctlCalculator1", &m_pRhs->Content())),
+      m_pWizard(Make<ctlWizard>("ctlWizard1", &m_pRhs->Content())) {
   setObjectName("frmMain");
-  m_pLhs->SetName("fraLHS");
-  m_pRhs->SetName("fraRHS");
   SetGround(*this, Ink::Hairline);  // a rule where it shows between the two frames
   SetGround(*m_pLhs, Ink::Column);
   SetGround(*m_pRhs, Ink::Ground);
-  m_pCalculator->SetName("ctlCalculator1");
   m_pCalculator->SetVisible(false);
-  m_pWizard->SetName("ctlWizard1");
   m_pWizard->SetVisible(false);
-  MakeButtons();
   MakeShortcuts();
-  connect(m_pLhs, &ScrollFrame::ContentResized, this, &frmMain::PlaceAbout);
+  connect(m_pLhs, &ButtonColumn::Clicked, this,
+          [this](int nIndex) { IgnoreFailure([&] { ClickButton(nIndex); }); });
+  connect(m_pLhs, &ButtonColumn::AboutClicked, this,
+          [this] { IgnoreFailure([this] { ShowAboutBox(); }); });
   connect(m_pRhs, &ScrollFrame::ContentResized, this, &frmMain::PlaceViews);
   connect(m_pCalculator, &ctlCalculator::Changed, this, [this](bool bDocDirty) {
     m_bEndAgreed = false;
@@ -122,42 +72,25 @@ frmMain::frmMain()
 
 frmMain::~frmMain() = default;
 
-void frmMain::MakeButtons() {
-  for (int i = 0; i < static_cast<int>(m_apMenuButtons.size()); ++i) {
-    const auto nIndex = static_cast<std::size_t>(i);
-    m_apMenuButtons.at(nIndex) = MakeButton(kButtons.at(nIndex), "swfVerticalMenuButtons",
-                                            &m_pLhs->Content(), [this, i] { ClickButton(i); });
-  }
-  m_pAbout = MakeButton(kAboutButton, "swfAbout", &m_pLhs->Content(), [this] { ShowAboutBox(); });
-}
-
 void frmMain::MakeShortcuts() {
-  const auto fnAdd = [this](const QKeySequence& oKeys, const auto& fnAction) {
-    auto* const pShortcut = new QShortcut(oKeys, this);
+  const auto fnAdd = [this](const char* sKeys, const auto& fnAction) {
+    auto* const pShortcut = new QShortcut(QKeySequence(sKeys), this);
     connect(pShortcut, &QShortcut::activated, this, [fnAction] { IgnoreFailure(fnAction); });
   };
-  for (int i = 0; i < static_cast<int>(kButtons.size()); ++i) {
-    fnAdd(QKeySequence(kButtons.at(static_cast<std::size_t>(i)).sShortcut),
-          [this, i] { ClickButton(i); });
-  }
-  fnAdd(QKeySequence(kAboutButton.sShortcut), [this] { ShowAboutBox(); });
-  fnAdd(QKeySequence("Ctrl+Q"), [this] {
+  fnAdd("Ctrl+Q", [this] {
     m_bEndAgreed = false;
     close();
   });
-  const auto fnStep = [this](bool bLarger) {
-    SetZoomPercent(NextZoomStep(static_cast<int>(std::lround(Zoom() * 100)), bLarger));
-  };
   for (const char* const sKeys : {"Ctrl++", "Ctrl+="}) {
-    fnAdd(QKeySequence(sKeys), [fnStep] { fnStep(true); });
+    fnAdd(sKeys, [this] { m_oZoom.Step(true); });
   }
-  fnAdd(QKeySequence("Ctrl+-"), [fnStep] { fnStep(false); });
-  fnAdd(QKeySequence("Ctrl+0"), [this] { SetZoomPercent(100); });
+  fnAdd("Ctrl+-", [this] { m_oZoom.Step(false); });
+  fnAdd("Ctrl+0", [this] { m_oZoom.SetPercent(100); });
 }
 
 void frmMain::Show() {
   Form_Load();
-  if (m_bFirstStart) {
+  if (m_oZoom.IsFirstStart()) {
     FitFirstStart();  // before the window manager is told of a size, and again when it is known
   }
   show();
@@ -165,12 +98,9 @@ void frmMain::Show() {
 }
 
 void frmMain::Form_Load() {
-  const std::optional<int> nZoom = StoredZoom();
-  m_bFirstStart = !nZoom;
-  SetZoom(nZoom.value_or(100) / 100.0);
+  m_oZoom.Load();
   m_lMinWidth = kWindowWidth;
   m_lMinHeight = kWindowHeight;
-  m_lAboutBottomGap = m_lMinHeight - kAboutTop;
   resize(Pixels(kWindowWidth), Pixels(kWindowHeight));
   Rescale();
   RestoreFormPosition(*this);
@@ -190,30 +120,17 @@ void frmMain::Form_Activate() {
       m_oDocuments.NewAuction();
     }
   });
-  if (m_bFirstStart) {
+  if (m_oZoom.IsFirstStart()) {
     FitFirstStart();
   }
 }
 
-/// The first start of all: the largest zoom at which the whole calculator fits the screen, and a
-/// window that holds it.
+/// The whole calculator, with its boxes for config mode, is to be seen.
 void frmMain::FitFirstStart() {
-  constexpr double kTwipsPerPixel = 15.0;
   int nWidth = 0;
   int nHeight = 0;
   m_pCalculator->WholeSize(true, nWidth, nHeight);
-  nWidth += kRhsLeft + kMargin;
-  nHeight += kMargin;
-  // The window manager hasn't framed the window yet: an ordinary frame is allowed for.
-  const QSize oFrame(16, 48);
-  const QRect oScreen = screen()->availableGeometry();
-  const QSize oRoom = oScreen.size() - oFrame;
-  SetZoomPercent(LargestFittingZoom(nWidth / kTwipsPerPixel, nHeight / kTwipsPerPixel,
-                                    oRoom.width(), oRoom.height()));
-  resize(QSize(Pixels(nWidth), Pixels(nHeight)).boundedTo(oRoom));
-  const QSize oOuter = size() + oFrame;
-  move(oScreen.topLeft() +
-       QPoint((oScreen.width() - oOuter.width()) / 2, (oScreen.height() - oOuter.height()) / 2));
+  m_oZoom.Fit({kRhsLeft + nWidth + kMargin, nHeight + kMargin});
 }
 
 void frmMain::ClickButton(int nIndex) {
@@ -262,14 +179,14 @@ void frmMain::OpenAuction(const std::string& sPath) {
 
 void frmMain::ShowCalculator() {
   PushDocument(false, WorkingAuction(), m_oDocuments.FileName());
-  MarkCurrent(kButtonCalculator);
+  m_pLhs->MarkCurrent(kButtonCalculator);
 }
 
 /// The stored default auction replaces what is unsaved of it, without a word.
 void frmMain::ShowConfiguration() {
   m_oDocuments.SaveOrLoadDefaultAuction(false);
   PushDocument(true, DefaultAuction(), kDefaultAuctionTitle);
-  MarkCurrent(kButtonConfig);
+  m_pLhs->MarkCurrent(kButtonConfig);
 }
 
 void frmMain::PushDocument(bool bConfigMode, clsCalculate& oDocument, const std::string& sTitle) {
@@ -293,7 +210,7 @@ void frmMain::ShowWizard() {
   m_pWizard->Place(m_pCalculator->Left(), m_pCalculator->Top(), m_pCalculator->Width(),
                    m_pCalculator->Height());
   m_pWizard->SetVisible(true);
-  MarkCurrent(kButtonWizard);
+  m_pLhs->MarkCurrent(kButtonWizard);
   Form_Resize();
   m_pRhs->ShowBeginning();
 }
@@ -313,12 +230,6 @@ void frmMain::ShowAboutBox() {
   m_frmAboutBox.reset();
 }
 
-void frmMain::MarkCurrent(int nIndex) {
-  for (int i = 0; i < static_cast<int>(m_apMenuButtons.size()); ++i) {
-    m_apMenuButtons.at(static_cast<std::size_t>(i))->SetCurrent(i == nIndex);
-  }
-}
-
 void frmMain::SetWindowTitle(const std::string& sName, bool bDirty) {
   std::string sTitle = sName;
   if (sTitle.ends_with(kAuctionExtension)) {
@@ -329,45 +240,9 @@ void frmMain::SetWindowTitle(const std::string& sName, bool bDirty) {
   setWindowTitle(QString::fromStdString(sCaption + (bDirty ? "*" : "")).replace("[*]", "[*][*]"));
 }
 
-void frmMain::SetZoomPercent(int nPercent) {
-  if (size() != m_oZoomedSize) {
-    m_oChosenSize = {Twips(width()), Twips(height())};
-  }
-  SetZoom(nPercent / 100.0);
-  Registry().Set(settings::kZoom, std::to_string(nPercent));
-  Rescale();
-  Form_Resize();
-  ResizeWithZoom();
-}
-
-/// The window goes with what is in it, as far as the screen has room, and comes back with it.
-void frmMain::ResizeWithZoom() {
-  if (!isMaximized()) {
-    const QSize oWanted(Pixels(m_oChosenSize.width()), Pixels(m_oChosenSize.height()));
-    resize(oWanted.boundedTo(RoomOnScreen()));
-    KeepOnScreen();
-  }
-  m_oZoomedSize = size();
-}
-
-void frmMain::KeepOnScreen() {
-  const QRect oScreen = screen()->availableGeometry();
-  const QRect oWindow = frameGeometry();
-  const QPoint oFarthest = oScreen.bottomRight() - QPoint(oWindow.width(), oWindow.height());
-  const QPoint oAt(std::max(oScreen.left(), std::min(oWindow.left(), oFarthest.x() + 1)),
-                   std::max(oScreen.top(), std::min(oWindow.top(), oFarthest.y() + 1)));
-  if (oAt != oWindow.topLeft()) {
-    move(oAt);
-  }
-}
-
 void frmMain::Rescale() {
   QApplication::setFont(ThemeFont(kTextPoints));
   RescaleAll(*this);
-  for (int i = 0; i < static_cast<int>(m_apMenuButtons.size()); ++i) {
-    PlaceInTwips(*m_apMenuButtons.at(static_cast<std::size_t>(i)), kButtonLeft,
-                 kFirstButtonTop + kButtonSize * i, kButtonSize, kButtonSize);
-  }
 }
 
 /// Below the size that its view needs the window can't be made, unless the screen is smaller still.
@@ -379,24 +254,17 @@ void frmMain::Form_Resize() {
   const bool bCalculator = m_pCalculator->Visible();
   const QSize oNeeded(Pixels(bCalculator ? kRhsLeft + m_lCalcMinWidth : m_lMinWidth),
                       Pixels(bCalculator ? m_lCalcMinHeight : m_lMinHeight));
-  const QSize oRoom = RoomOnScreen();
+  const QSize oRoom = m_oZoom.RoomOnScreen();
   setMinimumSize(oNeeded.boundedTo(oRoom));
 
   const int nHeight = Twips(height());
-  m_pLhs->Place(0, 0, kLhsWidth, nHeight);
-  m_pLhs->Content().setMinimumHeight(Pixels(kAboutTop + kButtonSize));
+  m_pLhs->PlaceBeside(nHeight);
   m_pRhs->Place(kRhsLeft, 0, Twips(width()) - kRhsLeft, nHeight);
   const QSize oView = WholeView();
   m_pRhs->Content().setMinimumSize(
       Pixels(kRhsLeft) + oView.width() > oRoom.width() ? oView.width() : 0,
       oView.height() > oRoom.height() ? oView.height() : 0);
-  PlaceAbout();
   PlaceViews();
-}
-
-/// The largest that the window can be made on its screen, without the edges around it.
-QSize frmMain::RoomOnScreen() const {
-  return screen()->availableSize() - (frameGeometry().size() - size());
 }
 
 /// What the view takes, in pixels, with nothing cut off.
@@ -408,13 +276,6 @@ QSize frmMain::WholeView() const {
   int nHeight = 0;
   m_pCalculator->WholeSize(m_pCalculator->ConfigMode(), nWidth, nHeight);
   return {Pixels(nWidth + kMargin), Pixels(nHeight + kMargin)};
-}
-
-/// At its distance from the bottom, but never over the other buttons.
-void frmMain::PlaceAbout() {
-  const int nBottom = Twips(m_pLhs->Content().height());
-  PlaceInTwips(*m_pAbout, kButtonLeft, std::max(nBottom - m_lAboutBottomGap, kAboutTop),
-               kButtonSize, kButtonSize);
 }
 
 void frmMain::PlaceViews() {
@@ -483,8 +344,7 @@ void frmMain::wheelEvent(QWheelEvent* pEvent) {
     QWidget::wheelEvent(pEvent);
     return;
   }
-  const int nPercent = static_cast<int>(std::lround(Zoom() * 100));
-  SetZoomPercent(NextZoomStep(nPercent, pEvent->angleDelta().y() > 0));
+  m_oZoom.Step(pEvent->angleDelta().y() > 0);
 }
 
 }  // namespace quillet
