@@ -159,8 +159,8 @@ MUTATIONS = [
     ("app/calc/Report.cpp", "fnVariable(\"TERM\") != \"dumb\"", "true", "calc"),
     ("app/calc/Renderer.cpp", "oBatch.bFailed || m_oResult.sError || m_oResult.sMessage",
      "oBatch.bFailed || m_oResult.sError", "calc"),
-    ("app/calc/Jobs.cpp", "  oSlot.bReady = true;\n  if (m_bPrinting) {",
-     "  oSlot.bReady = true;\n  if (m_bPrinting && false) {", "calc"),
+    ("app/calc/Jobs.cpp", "pNext = &SlotOf(m_nPrinted); pNext->bReady;",
+     "pNext = &oSlot; pNext->bReady;", "calc"),
 
     # look
     ("look/ShockwaveFlash.cpp", "\"\\\\.swf(\\\\?|$)\"", "\"(\\\\?|$)\"", "widget ShockwaveFlashTest.*"),
