@@ -20,6 +20,8 @@ class ctlCalculator : public QWidget, public Control {
 
  public:
   explicit ctlCalculator(QWidget* pParent);
+  ctlCalculator(const ctlCalculator&) = delete;
+  ctlCalculator& operator=(const ctlCalculator&) = delete;
   ~ctlCalculator() override;
   [[nodiscard]] const char* TypeName() const override { return "ctlCalculator"; }
 

@@ -34,6 +34,8 @@ class ctlWizard : public QWidget, public Control {
 
  public:
   explicit ctlWizard(QWidget* pParent);
+  ctlWizard(const ctlWizard&) = delete;
+  ctlWizard& operator=(const ctlWizard&) = delete;
   ~ctlWizard() override;
   [[nodiscard]] const char* TypeName() const override { return "ctlWizard"; }
 

@@ -169,9 +169,9 @@ MUTATIONS = [
      "widget ShockwaveFlashTest.*"),
 
     # sections
-    ("sections/SectionPanel.cpp", "(p == &oControl || p->Container() == &oControl)",
+    ("sections/inputNames.cpp", "(p == &oControl || p->Container() == &oControl)",
      "(p == nullptr || p->Container() == &oControl)", "widget Calculator.*"),
-    ("sections/SectionPanel.cpp", "(bLabel || sWords.isEmpty())",
+    ("sections/inputNames.cpp", "(bLabel || sWords.isEmpty())",
      "(sWords.isEmpty() || (bLabel && false))", "widget Calculator.*"),
     ("sections/SectionPanel.cpp", "      pBox->SetTop(pRow->Top());\n", "", "widget Calculator.*"),
     ("sections/SectionPanel.cpp", "ePlaces == RowPlaces::kDesigned;",
@@ -233,7 +233,7 @@ MUTATIONS = [
     ("shell/frmMain.cpp", "if (nIndex == kButtonSave) {\n    ctlNumericText::CommitFocused();",
      "if (nIndex == kButtonSave) {\n", "widget Window.*"),
     ("shell/frmMain.cpp", ".replace(\"[*]\", \"[*][*]\")", "", "widget Window.*"),
-    ("shell/frmMain.cpp", "  m_oZoomedSize = size();\n", "", "widget Window.*"),
+    ("shell/WindowZoom.cpp", "  m_oZoomedSize = m_oWindow.size();\n", "", "widget Window.*"),
     ("shell/formPosition.cpp", "oForm.isMaximized() ? 2 : 0", "oForm.isMaximized() ? 0 : 0",
      "widget FormPosition.*"),
     ("shell/frmAbout.cpp", "sStored == \"1\" ? 1 : 0", "sStored == \"0\" ? 0 : 1",
