@@ -1,6 +1,7 @@
 // What the update servers answer: whatever it is, in pieces of whatever size, it is read to the
 // end, gives an action word or none, and a message that can be shown.
 #include <string>
+#include <utility>
 
 #include "base/basMain.h"
 #include "base/clsRegistryAccess.h"
@@ -23,6 +24,7 @@ struct Outcome {
 
 /// Empty fields don't count, nor does a line's end behind the last one.
 std::string FirstField(std::string sAnswer) {
+  sAnswer = DecodeText(std::move(sAnswer));
   sAnswer.erase(sAnswer.find_last_not_of("\r\n") + 1);
   sAnswer.erase(0, sAnswer.find_first_not_of(','));
   return sAnswer.substr(0, sAnswer.find(','));

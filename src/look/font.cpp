@@ -1,6 +1,7 @@
 #include "look/font.h"
 
 #include <QFontDatabase>
+#include <QStringList>
 
 #include "look/scale.h"
 

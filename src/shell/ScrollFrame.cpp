@@ -42,7 +42,7 @@ void ScrollFrame::wheelEvent(QWheelEvent* pEvent) {
 
 /// The toolkit would scroll at once, to where the focus stops for a moment while a view is hidden.
 bool ScrollFrame::focusNextPrevChild(bool bNext) {
-  return QWidget::focusNextPrevChild(bNext);
+  return QWidget::focusNextPrevChild(bNext);  // NOLINT(bugprone-parent-virtual-call)
 }
 
 /// What takes the focus by a click alone, a section or a view, stays where the user has it.
