@@ -59,7 +59,7 @@ void SectionPanel::MakeControl(const ControlDesign& oControl) {
   Listen(*pControl);
 }
 
-/// Every event ends here: a failure of a routine that it starts has no one left to tell.
+/// Every event ends here: there is nobody to tell if a routine that it starts fails.
 void SectionPanel::Listen(Control& oControl) {
   const auto fnClicked = [this, &oControl] { IgnoreFailure([&] { InputClicked(oControl); }); };
   if (IsShowCheck(oControl)) {

@@ -160,7 +160,7 @@ void ctlNumericText::Show(const BoxText& oBox) {
   }
 }
 
-/// The keys' events end here: a failure on the way has no one left to tell. The toolkit's text box
+/// The keys' events end here: there is nobody to tell of a failure. The toolkit's text box
 /// does nothing of its own with the arrows, so the caret stays where the step has put it. Enter
 /// goes on to whoever has a use for it.
 bool ctlNumericText::txtValue_KeyDown(const QKeyEvent& oEvent) {

@@ -5,7 +5,7 @@
 
 namespace quillet {
 
-/// Shows itself only where somebody looks on: when standard error is a terminal, the results go
+/// Shows itself only where somebody is watching: when standard error is a terminal, the results go
 /// elsewhere, and the work has taken a second.
 class Progress {
  public:

@@ -162,7 +162,7 @@ void IniStore::Flush() {
   }
 }
 
-/// Reads the file if another stands in its place since. False if one is there that can't be read,
+/// Reads the file if it has been replaced since. False if one is there that can't be read,
 /// which must not be taken for an empty one.
 bool IniStore::Follow() {
   std::string sStamp = StampOf(m_sFile);

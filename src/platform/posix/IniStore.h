@@ -14,9 +14,9 @@ namespace quillet {
 using IniValues = std::map<QString, QString>;
 
 /// QSettings reads the file. It writes a file beside it, and what that gives back as it was meant
-/// takes the place of the old one. A file that can't be written (no leave, no folder, no room), or
-/// can't be read, costs the change and nothing else: it stays whole, and reading gives what it
-/// holds.
+/// takes the place of the old one. A file that can't be written (no permission, no folder, no
+/// room), or can't be read, costs the change and nothing else: it stays whole, and reading gives
+/// what it holds.
 ///
 /// Replacing a file takes longer than a drag may pause, so changes are gathered until Flush. Change
 /// tries beforehand whether that will work; if the disk fills up in between, or another program
