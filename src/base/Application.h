@@ -28,8 +28,8 @@ class Application {
   /// A splash window, shown modelessly.
   [[nodiscard]] virtual std::unique_ptr<SplashWindow> ShowSplash() = 0;
 
-  // One pass of downloads. OpenConnection tells whether there is a connection at all; each of the
-  // steps may throw a Failure, upon which the pass goes straight to CloseConnection.
+  // One pass of downloads. OpenConnection says whether there is a connection at all; any step may
+  // throw a Failure, and then the pass goes straight to CloseConnection.
   [[nodiscard]] virtual bool OpenConnection() = 0;
   virtual void FetchActions() = 0;
   virtual void FetchUpdateFile() = 0;

@@ -20,7 +20,8 @@ namespace settings {
 
 /// View at start: "0" for the wizard, any other text for the calculator. Created if missing.
 inline constexpr Setting kStartMode{HiveRoot::User, "Config", "StartMode", "0"};
-/// Grid step of the calculator in twips; what isn't numeric counts as 120. Created if missing.
+/// Grid step of the calculator in twips; a value that isn't numeric counts as 120. Created if
+/// missing.
 inline constexpr Setting kSnapToGrid{HiveRoot::User, "Config", "SnapToGrid", "120"};
 /// The default auction, in the text of an auction file.
 inline constexpr Setting kDefaultAuction{HiveRoot::User, "Config", "DefaultAuction", ""};
@@ -37,10 +38,10 @@ inline constexpr Setting kFtpSkipFlag{HiveRoot::User, "Config", "FTPSkipFlag", "
 /// The update's servers, each "host" or "host:port". Read only.
 inline constexpr Setting kWebServer{HiveRoot::Machine, "Config", "WebServer", kBuiltInWebServer};
 inline constexpr Setting kFtpServer{HiveRoot::Machine, "Config", "FtpServer", kBuiltInFtpServer};
-/// What tells this installation from others: random text, made once.
+/// Identifies this installation: random text, made once.
 inline constexpr Setting kCode{HiveRoot::User, "Config", "Code", ""};
-/// The way to the Internet, "host" or "host:port"; none for the user's own settings. Read only. The
-/// section looks absolute, but lies under RegistryRoot like every other.
+/// The proxy, "host" or "host:port"; empty for the user's own proxy settings. Read only. The
+/// section looks absolute, but is under RegistryRoot like every other.
 inline constexpr Setting kProxyName{HiveRoot::Machine, R"(Software\Velmor\Gavel Ledger\FTP)",
                                     "ProxyName", ""};
 /// Size of the interface in percent.
@@ -59,11 +60,11 @@ inline constexpr Setting kAbout{
     HiveRoot::Machine, "Config", "About",
     "Welcome to Quillet.\\nKnow what a sale will leave you before you list it."};
 
-/// A section's own settings lie under this and its key: the words of the rows to show, joined by
+/// A section's own settings are under this and its key: the words of the rows to show, joined by
 /// ",", and its place in the calculator in whole twips.
 inline constexpr const char* kControls = "Controls\\";
 inline constexpr const char* kVisible = "Visible";
-/// A window's place lies under this and its FormKeyName, in twips.
+/// A window's place is under this and its FormKeyName, in twips.
 inline constexpr const char* kForms = "Forms\\";
 inline constexpr const char* kTop = "Top";
 inline constexpr const char* kLeft = "Left";

@@ -6,9 +6,9 @@
 namespace quillet {
 
 /// A Single turns into a double wherever it is read and rounds once, to the nearest 32-bit float
-/// and a tie to even, wherever it is assigned. So `fee = rate / 100 * amount + fee` is worked out
-/// in double precision and rounded at the "=", and no expression can do otherwise. A value beyond
-/// the range of a 32-bit float, an infinity or a NaN can't be assigned: that is a Failure.
+/// (ties to even), wherever it is assigned. So `fee = rate / 100 * amount + fee` is worked out in
+/// double precision and rounded at the "=", and no expression can do otherwise. Assigning a value
+/// beyond the range of a 32-bit float, an infinity or a NaN throws a Failure.
 class Single {
  public:
   constexpr Single() = default;
@@ -19,7 +19,7 @@ class Single {
     return static_cast<double>(m_fValue);
   }
 
-  /// `fValue` itself, which is neither an infinity nor a NaN.
+  /// `fValue` itself, which must be finite.
   [[nodiscard]] static constexpr Single OfFinite(float fValue) {
     Single fResult;
     fResult.m_fValue = fValue;

@@ -16,7 +16,7 @@ bool IsPrintableToken(char cToken) {
   return cUpper >= 48 && cUpper <= 90;
 }
 
-/// A tab is a control character here and no blank.
+/// Here a tab is a control character, not a blank.
 std::string_view TrimSpaces(std::string_view sText) {
   const std::size_t nFirst = std::min(sText.find_first_not_of(' '), sText.size());
   return sText.substr(nFirst, sText.find_last_not_of(' ') + 1 - nFirst);

@@ -12,12 +12,12 @@ namespace quillet {
 /// "Quillet", followed by " UK" or " US" by region; any other region gets the title alone.
 [[nodiscard]] std::string EditionName();
 
-/// The key under which all of this edition's settings lie.
+/// The key that holds all of this edition's settings.
 [[nodiscard]] std::string RegistryRoot();
 
-/// The fee schedule of the region, as the bare name or as a path in the program's folder. Where
-/// that folder can't be written it is a path in the user's data folder; a copy of the program's
-/// file is put there first if there is none or an older one.
+/// The region's fee schedule, as a bare name or as a path in the program's folder. If that folder
+/// can't be written, the path is in the user's data folder, and the program's file is first copied
+/// there if the copy is missing or older.
 [[nodiscard]] std::string UpdateFileName(bool bNameOnly);
 
 /// The path of the fee schedule that came with the program.
@@ -25,7 +25,7 @@ namespace quillet {
 
 [[nodiscard]] std::int32_t MaxLong(std::int32_t nLeft, std::int32_t nRight);
 
-/// The smaller; of two equal values the second.
+/// The smaller; the second of two equal values.
 [[nodiscard]] Single MinSingle(Single fLeft, Single fRight);
 
 /// Shows a message box and gives its answer. `nButtons` is a sum of MessageButtons.
@@ -34,11 +34,11 @@ Answer ShowMessage(const std::string& sPrompt, int nButtons, const std::string& 
 /// Returns when the time has passed; the interface stays alive meanwhile.
 void WaitMilliseconds(std::int64_t nMilliseconds);
 
-/// `sName` without a leading "frm": the name of a window's settings.
+/// `sName` without a leading "frm": the key of a window's settings.
 [[nodiscard]] std::string FormKeyName(const std::string& sName);
 
-/// What is left of a text from a fixed system buffer: spaces at both ends go, and as many
-/// characters at the end as there are control characters behind the last printable one.
+/// Cleans a text from a fixed system buffer: drops the spaces at both ends, and as many characters
+/// at the end as there are control characters after the last printable one.
 [[nodiscard]] std::string CleanString(const std::string& sText);
 
 }  // namespace quillet

@@ -81,7 +81,7 @@ void ManageSplash(bool bShow, const bool& bWait) {
     }
   } else if (g_frmSplash) {
     PumpUntil(MovieHasEnded);
-    if (g_frmSplash) {  // what was pumped may have closed the program
+    if (g_frmSplash) {  // a pumped event may have closed the program
       g_frmSplash->Hide();
       g_frmSplash.reset();
     }

@@ -15,7 +15,7 @@ extern std::int32_t g_lActionFlags;   ///< the server's action word, a mask of A
 extern std::string g_sActionMessage;  ///< the message that came with it
 extern std::unique_ptr<SplashWindow> g_frmSplash;
 extern std::unique_ptr<MainWindow> g_frmMain;
-extern bool g_bMustClose;  ///< the start called CloseApplication: the program ends as failed
+extern bool g_bMustClose;  ///< CloseApplication was called: the program ends as failed
 
 /// Bits of the action word.
 enum ActionFlag : std::int32_t {
@@ -24,14 +24,14 @@ enum ActionFlag : std::int32_t {
   kActionAboutText = 8,   ///< fetch the scrolling message
 };
 
-/// What Main starts things through. It isn't owned, and must be set before Main runs.
+/// What Main starts things through. Not owned; must be set before Main runs.
 void SetApplication(Application& oApplication);
 
-/// The start sequence. Returns when the main window stands; the event loop then runs the program.
+/// The start sequence. Returns when the main window is up; the event loop then runs the program.
 void Main();
 
-/// Shows the splash and waits for its movie to load, and with `bWait` also to end; or, with `bShow`
-/// false, waits for it to end and closes the splash.
+/// Shows the splash and waits for its movie to load, and with `bWait` also to end; with `bShow`
+/// false, waits for the movie to end and closes the splash.
 void ManageSplash(bool bShow, const bool& bWait);
 
 /// Reads the grid step and the about text from the settings.
@@ -40,14 +40,14 @@ void SetSystemDefaults();
 /// One pass of downloads. Failures are silent: they never stop the start.
 void PerformDownloads();
 
-/// Phase 1 shows the server's message if the action word asks for it; phase 0 does nothing yet.
+/// Phase 1 shows the server's message if the action word asks for it; phase 0 does nothing.
 void ExecuteSpecialActions(std::int32_t nPhase);
 
-/// Closes the splash and the main window, upon which the process ends by itself. A window that is
-/// still being made never shows.
+/// Closes the splash and the main window; the process then ends by itself. A window that is still
+/// being made never shows.
 void CloseApplication();
 
-/// Opens a web address or file with the user's program for it.
+/// Opens a web address or file in the user's default program.
 void OpenDocument(const std::string& sTarget);
 
 /// Each backslash followed by "n" becomes "<br>".

@@ -1,4 +1,4 @@
-// The one door to the settings. Every value is text; nothing here raises to the caller.
+// The only access to the settings. Every value is text; nothing here throws.
 #pragma once
 
 #include <optional>
@@ -14,25 +14,25 @@ class clsRegistryAccess {
   /// Keeps its values in `oHive`, which isn't owned.
   explicit clsRegistryAccess(SettingsHive& oHive) : m_oHive(&oHive) {}
 
-  /// The key under which all sections lie.
+  /// The key that holds all sections.
   void SetFullApplicationRegKey(const std::string& sKey) { m_sFullApplicationRegKey = sKey; }
 
-  // A section's path is the application's key, joined with the section if there is one; with
+  // A section's path is the application's key joined with the section, if one is given; with
   // bAbsoluteSection it is the section alone.
 
-  /// True and the stored text; else the default, and False unless bCreate could store it.
+  /// True and the stored text; else the default, and False unless bCreate stored it.
   bool GetRegSetting(HiveRoot hKey, const std::string& sSection, const std::string& sSettingName,
                      std::string& sResult, const std::string& sDefault, bool bCreate,
                      bool bAbsoluteSection) const;
   bool GetRegSettingString(HiveRoot hKey, std::string& sResult, const std::string& sSettingName,
                            const std::string& sSection, const std::string& sDefault) const;
-  /// The same for a value stored as hexadecimal text. False, and the default unconverted, if it was
-  /// missing, created or not, or isn't hexadecimal.
+  /// The same for a value stored as hexadecimal text. False, and the default unconverted, if the
+  /// value was missing (even if created now) or isn't hexadecimal.
   bool GetRegSettingBin(HiveRoot hKey, const std::string& sSection, const std::string& sSettingName,
                         std::string& sResult, const std::string& sDefault, bool bCreate,
                         bool bAbsoluteSection) const;
 
-  /// False if the store can't be written: the change is lost and nothing else.
+  /// False if the store can't be written; then only this change is lost.
   bool SetRegSetting(HiveRoot hKey, const std::string& sSection, const std::string& sSettingName,
                      const std::string& sValue, bool bAbsoluteSection) const;
   bool SetRegSettingString(HiveRoot hKey, const std::string& sValue,
@@ -43,20 +43,20 @@ class clsRegistryAccess {
   void DeleteValue(HiveRoot hKey, const std::string& sSection, const std::string& sSettingName,
                    bool bAbsoluteSection) const;
 
-  /// What has been stored so far outlives a crash.
+  /// Makes sure that what has been stored so far survives a crash.
   void Flush() const { m_oHive->Flush(); }
 
-  // The settings of the one table (Settings.h), by their row.
+  // The settings of the table in Settings.h, by row.
 
   /// The stored text; nothing if there is none.
   [[nodiscard]] std::optional<std::string> Find(const Setting& oSetting) const;
   /// The stored text or the row's default.
   [[nodiscard]] std::string Get(const Setting& oSetting) const;
-  /// The same, and a missing value is stored with its default.
+  /// The same, but stores the default of a missing value.
   [[nodiscard]] std::string GetOrCreate(const Setting& oSetting) const;
   bool Set(const Setting& oSetting, const std::string& sValue) const;
 
-  // The user's settings of one section or window, whose own section is worked out.
+  // The user's settings of one section or window, under a path that the caller builds.
 
   [[nodiscard]] std::optional<std::string> Find(const std::string& sSection,
                                                 const char* sName) const;
@@ -72,8 +72,7 @@ class clsRegistryAccess {
 /// The settings of this edition, under RegistryRoot; made on first use.
 [[nodiscard]] clsRegistryAccess& Registry();
 
-/// Where Registry keeps its values from now on. The hive isn't owned, and must be set before the
-/// first use.
+/// Where Registry keeps its values from now on. Not owned; must be set before the first use.
 void SetRegistryHive(SettingsHive& oHive);
 
 }  // namespace quillet

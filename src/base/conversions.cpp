@@ -23,8 +23,8 @@ bool TakeSign(std::string_view& sText) {
   return bNegative;
 }
 
-/// Whether a number that is out of a format's range is so because it is too small. Its digits have
-/// a point, if any separator.
+/// Whether a number that is out of a format's range is too small rather than too large. Its
+/// separator, if any, is a point.
 bool IsTiny(std::string_view sUnsigned) {
   const std::size_t nExponent = std::min(sUnsigned.find_first_of("eE"), sUnsigned.size());
   const std::string_view sDigits = sUnsigned.substr(0, nExponent);
@@ -40,12 +40,12 @@ bool IsTiny(std::string_view sUnsigned) {
          static_cast<double>(nFirst);
 }
 
-/// Of a number with a point: nothing on overflow, 0 on underflow.
+/// Converts a number with a point: nothing on overflow, 0 on underflow.
 template <typename Float>
 std::optional<Float> ConvertWithPoint(std::string_view sText) {
   const bool bNegative = TakeSign(sText);
   if (sText.empty() || (!IsDigit(sText.front()) && sText.front() != kPoint.front())) {
-    return std::nullopt;  // a second sign, or one of the library's words for what isn't finite
+    return std::nullopt;  // a second sign, or the library's "inf" or "nan"
   }
   Float fValue = 0;
   const char* const pEnd = sText.data() + sText.size();
@@ -79,7 +79,7 @@ std::optional<Float> ConvertNumber(std::string_view sText, std::string_view sSep
   return ConvertWithPoint<Float>(sWithPoint);
 }
 
-/// Of a file: with a point, or else with the user's separator.
+/// For files: with a point, or else with the user's separator.
 template <typename Float>
 std::optional<Float> ConvertOfFile(std::string_view sText) {
   const std::optional<Float> fValue = ConvertNumber<Float>(sText, kPoint);
@@ -94,7 +94,7 @@ std::optional<Single> AsSingle(const std::optional<float>& fValue) {
 template <typename Integer>
 std::optional<Integer> ConvertInteger(std::string_view sText) {
   if (sText.size() == 1 && IsDigit(sText.front())) {
-    return static_cast<Integer>(sText.front() - '0');  // nearly every one of them
+    return static_cast<Integer>(sText.front() - '0');  // by far the most common case
   }
   sText = Trim(sText);
   if (sText.starts_with('+')) {
@@ -113,11 +113,11 @@ std::optional<Integer> ConvertInteger(std::string_view sText) {
   return static_cast<Integer>(nValue);
 }
 
-/// AppendSingle of a number from a ten-thousandth to below ten millions, where seven digits scale
+/// AppendSingle for a number from a ten-thousandth to below ten million, where seven digits scale
 /// exactly in a double. False for any other.
 bool AppendPlain(std::string& sText, Single fValue) {
   constexpr double kLeast = 1e-4;
-  constexpr double kEightDigits = 9'999'999.5;  // what rounds to them
+  constexpr double kEightDigits = 9'999'999.5;  // the least that rounds to eight digits
   double fScaled = std::abs(double{fValue});
   if (!(fScaled >= kLeast && fScaled < kEightDigits)) {
     return false;
@@ -150,8 +150,8 @@ bool AppendPlain(std::string& sText, Single fValue) {
 struct Pattern {
   std::string_view sBefore;
   std::string_view sBehind;
-  std::size_t nLeastWhole = 0;     ///< digits before the separator that always stand
-  std::size_t nLeastDecimals = 0;  ///< decimals that always stand
+  std::size_t nLeastWhole = 0;     ///< digits before the separator that are always shown
+  std::size_t nLeastDecimals = 0;  ///< decimals that are always shown
   std::size_t nMostDecimals = 0;
   bool bGrouped = false;
 };
@@ -182,8 +182,8 @@ Pattern ReadPattern(std::string_view sPattern) {
   return oPattern;
 }
 
-/// The digits of |value| * 10 ^ nDecimals, rounded with a half going up. Both the product, for up
-/// to twelve decimals, and the rounding are exact.
+/// The digits of |value| * 10 ^ nDecimals, a half rounded up. The product (for up to twelve
+/// decimals) and the rounding are both exact.
 std::string ScaledDigits(Single fValue, std::size_t nDecimals) {
   const double fScaled = std::abs(double{fValue}) * std::pow(10.0, static_cast<double>(nDecimals));
   std::array<char, 64> acDigits{};
@@ -236,7 +236,7 @@ std::optional<std::uint8_t> ToByte(std::string_view sText) {
 std::optional<bool> ToBoolean(std::string_view sText) {
   for (const bool bValue : {false, true}) {
     if (sText == BooleanText(bValue)) {
-      return bValue;  // nearly every one of them
+      return bValue;  // the usual case
     }
   }
   for (const bool bValue : {false, true}) {

@@ -1,4 +1,4 @@
-// Errors that travel: a number, a text, and the routine that raised it where that matters.
+// The program's exception: a number, a text, and the routine that threw it where that matters.
 #pragma once
 
 #include <cstdint>
@@ -36,7 +36,7 @@ class Failure : public std::runtime_error {
   std::string m_sSource;
 };
 
-/// Runs one statement and drops a failure of it: for routines that carry on at the next statement.
+/// Runs one statement and ignores its failure: for routines that carry on at the next statement.
 template <typename Statement>
 void IgnoreFailure(Statement&& oStatement) {
   try {

@@ -5,8 +5,8 @@
 
 namespace quillet {
 
-/// 0 for the United Kingdom, 1 for the United States. Defined in region_uk.cpp and region_us.cpp,
-/// one of which each program links; nothing else knows the region before the program runs.
+/// 0 for the United Kingdom, 1 for the United States. Defined in region_uk.cpp and region_us.cpp;
+/// each program links one of them, and nothing else knows the region before the program runs.
 [[nodiscard]] std::int32_t RegionCode();
 
 }  // namespace quillet

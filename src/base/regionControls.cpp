@@ -14,11 +14,11 @@ constexpr std::int32_t kUs = 1;
 
 struct RegionalControl {
   std::string_view sText;
-  bool bWhole;  ///< the name is this text, and doesn't merely contain it
+  bool bWhole;  ///< the name must equal this text, not merely contain it
   std::int32_t nRegion;
 };
 
-// The first line that fits decides. A name that no line fits belongs to both regions.
+// The first line that matches decides. A name that matches none belongs to both regions.
 constexpr std::array<RegionalControl, 25> kControls = {{
     {"10DayDuration", false, kUs},
     {"GiftServices", false, kUs},

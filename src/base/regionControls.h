@@ -5,7 +5,7 @@
 
 namespace quillet {
 
-/// True if a control of that name, or a row of that word, belongs into this region's program.
+/// True if a control with that name, or a row with that word, belongs in this region's program.
 [[nodiscard]] bool RegionAllowsControl(std::string_view sName);
 
 }  // namespace quillet

@@ -11,7 +11,7 @@ namespace {
 
 constexpr char32_t kInvalid = 0xFFFFFFFF;
 
-/// What Windows-1252 puts at 0x80 to 0x9F; its five holes keep their own code.
+/// The characters of Windows-1252 at 0x80 to 0x9F; its five gaps keep their own code.
 constexpr std::array<char16_t, 32> kWindows1252 = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -166,7 +166,7 @@ std::string ShowControls(std::string_view sText) {
   constexpr std::string_view kDigits = "0123456789abcdef";
   std::string sShown;
   for (std::size_t i = 0; i < sText.size(); ++i) {
-    // The second set of them, up to U+009F, stands behind this byte.
+    // This byte starts the second set of control characters, up to U+009F.
     const bool bSecond = sText[i] == '\xC2' && i + 1 < sText.size();
     const auto cByte = static_cast<unsigned char>(sText[bSecond ? i + 1 : i]);
     if (bSecond ? cByte < 0xA0 : cByte < ' ' || cByte == 0x7F) {

@@ -7,13 +7,13 @@
 
 namespace quillet {
 
-/// How many UTF-16 units a UTF-8 text takes. A byte that is no part of valid UTF-8 counts as one.
+/// How many UTF-16 units a UTF-8 text takes. A byte that isn't valid UTF-8 counts as one.
 [[nodiscard]] std::size_t Utf16Length(std::string_view sText);
 
-/// As many characters that a text may have where its positions are counted in 16 bits.
+/// The most characters that a text may have where its positions are counted in 16 bits.
 inline constexpr std::size_t kLongestText = 32766;
 
-/// The text's beginning in at most `nLongest` UTF-16 units. No character is cut in two.
+/// At most the first `nLongest` UTF-16 units of the text. No character is cut in two.
 [[nodiscard]] std::string CutText(std::string sText, std::size_t nLongest);
 
 [[nodiscard]] std::u16string ToUtf16(std::string_view sText);
@@ -24,10 +24,10 @@ inline constexpr std::size_t kLongestText = 32766;
 /// The text of a file: UTF-8 without a byte-order mark, anything else read as Windows-1252.
 [[nodiscard]] std::string DecodeText(std::string sBytes);
 
-/// A to Z in place of a to z; other characters stay.
+/// Turns a to z into A to Z; other characters stay.
 [[nodiscard]] std::string UpperCase(std::string sText);
 
-/// The same character without regard to the case of A to Z.
+/// Turns A to Z into a to z; other characters stay.
 [[nodiscard]] constexpr char LowerCase(char c) {
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
 }
@@ -54,8 +54,8 @@ inline constexpr std::size_t kLongestText = 32766;
 /// Appends to `sOut`, for each character of `sText`, its code as four hexadecimal digits.
 void StringToHex(std::string_view sText, std::string& sOut);
 
-/// The reverse: appends to `sOut` the character of each four digits. What isn't hexadecimal is a
-/// Failure.
+/// The reverse: appends to `sOut` the character of each four digits. Throws a Failure on text that
+/// isn't hexadecimal.
 void HexToString(std::string_view sHex, std::string& sOut);
 
 }  // namespace quillet
