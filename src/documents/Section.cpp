@@ -14,7 +14,7 @@ namespace {
 
 constexpr char kSeparator = '|';
 
-/// What stands between the first marker of its kind in the text and the next.
+/// The text between the first marker of this kind and the next.
 std::string_view Between(std::string_view sData, std::string_view sMarker) {
   const std::size_t nFirst = sData.find(sMarker);
   const std::size_t nNext =
@@ -54,7 +54,7 @@ void SectionWriter::Switch(bool bField) {
 
 void SectionWriter::Byte(std::int32_t nField, std::size_t nDigits) {
   if (nDigits == 1 && nField >= 0 && nField <= 9) {
-    m_sData += static_cast<char>('0' + nField);  // nearly every one of them
+    m_sData += static_cast<char>('0' + nField);  // by far the most common case
   } else {
     std::array<char, 12> acDigits{};
     const auto oEnd = std::to_chars(acDigits.data(), acDigits.data() + acDigits.size(), nField);
@@ -65,7 +65,7 @@ void SectionWriter::Byte(std::int32_t nField, std::size_t nDigits) {
 }
 
 void SectionWriter::Close() {
-  m_sData.pop_back();  // a separator stands between values only
+  m_sData.pop_back();  // separators go only between values
   m_sData += m_sMarker;
 }
 

@@ -9,7 +9,7 @@
 
 namespace quillet {
 
-/// Writes a section onto the end of a text, field by field.
+/// Appends a section to a text, field by field.
 class SectionWriter {
  public:
   SectionWriter(std::string& sData, std::string_view sMarker);
@@ -27,12 +27,12 @@ class SectionWriter {
   std::string_view m_sMarker;
 };
 
-/// Reads a section's fields, in the order in which they were written. One that is missing, or whose
-/// text doesn't convert, stays as it was; empty values are passed over.
+/// Reads a section's fields in the order in which they were written. A field that is missing, or
+/// whose text doesn't convert, stays as it was; empty values are skipped.
 class SectionReader {
  public:
-  /// A section without both its markers is a Failure, "Failure loading section " and the marker.
-  /// One too long to split leaves every field as it was.
+  /// Throws a Failure, "Failure loading section " and the marker, unless both markers are there. A
+  /// section too long to split leaves every field as it was.
   SectionReader(std::string_view sData, std::string_view sMarker);
 
   void Amount(Single& fField);
@@ -47,7 +47,7 @@ class SectionReader {
   std::string_view m_sLeft;
 };
 
-/// Writes or reads a section by the one list of its fields: `fnFields` takes either of the two.
+/// Writes or reads a section from one list of its fields: `fnFields` takes a writer or a reader.
 template <typename Fields>
 void SerializeSection(std::string& sData, bool bSave, std::string_view sMarker, Fields&& fnFields) {
   if (bSave) {

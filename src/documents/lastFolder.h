@@ -5,11 +5,11 @@
 
 namespace quillet {
 
-/// Native path: the stored one, and before there is any "My Auctions" in the user's documents. The
+/// Native path: the stored one, or "My Auctions" in the user's documents if none is stored yet. The
 /// folder may not exist.
 [[nodiscard]] std::string LastFolder();
 
-/// Remembers and stores a path. No folder is made.
+/// Remembers and stores a path. Doesn't create the folder.
 void SetLastFolder(const std::string& sPath);
 
 }  // namespace quillet

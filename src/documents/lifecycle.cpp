@@ -15,7 +15,7 @@
 namespace quillet {
 namespace {
 
-constexpr std::size_t kLargestFile = std::size_t{1} << 20U;  // an auction takes some 200 bytes
+constexpr std::size_t kLargestFile = std::size_t{1} << 20U;  // an auction takes about 200 bytes
 
 void RaiseIfFailed(const std::error_code& oError) {
   if (oError) {
@@ -23,7 +23,7 @@ void RaiseIfFailed(const std::error_code& oError) {
   }
 }
 
-/// What stands behind the last separator of a path.
+/// The part of a path after its last separator.
 std::string TitleOf(const std::string& sPath) {
   return sPath.substr(sPath.find_last_of(NativePath("\\") + "/") + 1);
 }
@@ -62,7 +62,7 @@ bool DocumentLifecycle::SaveOrLoadAuction(bool bSave) {
     return false;
   }
   UseFile(*sPath, bSave);
-  // A file that failed counts as done, so that what asked for the save carries on.
+  // A file that failed counts as done, so that the caller carries on.
   return true;
 }
 
@@ -92,8 +92,8 @@ void DocumentLifecycle::SaveAuction(const std::string& sPath) {
   RaiseIfFailed(ReplaceFile(sPath, sText + "\n"));
 }
 
-/// The file is read whole before any field of the auction changes, and one that lacks a section is
-/// told by the auction it is tried on: what is on view then stays what is in memory.
+/// Reads the whole file and tries it on another auction first, which reports a missing section. So
+/// the auction on view and the one in memory stay the same if the file is faulty.
 bool DocumentLifecycle::LoadAuction(const std::string& sPath) {
   std::string sText;
   RaiseIfFailed(ReadWholeFile(sPath, kLargestFile, sText));

@@ -6,17 +6,17 @@
 
 namespace quillet {
 
-/// What the documents' routines ask of the window that shows them.
+/// What DocumentLifecycle asks of the window that shows the documents.
 class DocumentView {
  public:
   virtual ~DocumentView() = default;
-  /// Writes the caption for a document's name, with a star if it is dirty.
+  /// Sets the caption for a document's name, with a star if it is dirty.
   virtual void SetWindowTitle(const std::string& sName, bool bDirty) = 0;
-  /// As a click on the calculator's button: the working auction, out of config mode.
+  /// Like a click on the calculator's button: the working auction, out of config mode.
   virtual void ShowCalculator() = 0;
-  /// Shows the working auction's values in the calculator, whatever is on view.
+  /// Shows the working auction's values in the calculator, even if another view is showing.
   virtual void RefreshCalculator() = 0;
-  /// Puts the wizard in the calculator's place, and lays the window out.
+  /// Shows the wizard in place of the calculator, and lays the window out.
   virtual void ShowWizard() = 0;
 };
 
@@ -25,32 +25,32 @@ class DocumentLifecycle {
   /// `oView` isn't owned; `sCaption` is the title of prompts.
   DocumentLifecycle(DocumentView& oView, std::string sCaption);
 
-  /// Asks whether to save a working auction that has changed. True if the caller may go on; what
-  /// the user answered No to is the caller's to drop.
+  /// Asks whether to save a working auction that has changed. True if the caller may go on; after a
+  /// No it is the caller that drops the changes.
   bool PromptSaveWorkingDoc();
 
-  /// Lets the user choose a file, and saves the working auction there or loads it from there. False
-  /// only if the dialog was cancelled: a file that can't be written or read is shown in a message
-  /// box, and counts as done. A save replaces the file whole or leaves the old one; a load replaces
-  /// the auction whole or leaves it as it is, and as dirty as it is.
+  /// Lets the user choose a file, and saves the working auction to it or loads it. False only if
+  /// the dialog was cancelled: a file that can't be written or read is reported in a message box
+  /// and counts as done. A save replaces the whole file or leaves the old one; a load replaces the
+  /// whole auction or leaves it, and its dirty flag, as they were.
   bool SaveOrLoadAuction(bool bSave);
 
-  /// The same with a file that is already chosen, given by its whole native path.
+  /// The same with a file that is already chosen, given by its full native path.
   void UseFile(const std::string& sPath, bool bSave);
 
   /// Stores the default auction, or reads it if it was ever stored; it is clean afterwards.
   void SaveOrLoadDefaultAuction(bool bSave);
 
-  /// Starts a new auction from the default one, after asking. Leaves the dirty flags alone, so that
-  /// after a No the new auction still counts as changed.
+  /// Starts a new auction from the default one, after asking. Leaves the dirty flags alone, so the
+  /// new auction still counts as changed after a No.
   void NewAuction();
 
   /// Starts the wizard on an empty auction, after asking. Leaves the dirty flags and the file's
-  /// name alone, so that a save proposes the name of the file loaded before.
+  /// name alone, so a save proposes the name of the file loaded before.
   void StartWizard();
 
-  /// What is asked before the program ends: about the working auction, then the default one. False
-  /// if the user cancelled.
+  /// Asks before the program ends: about the working auction, then the default one. False if the
+  /// user cancelled.
   bool PromptBeforeExit();
 
   /// File title of the working auction, with its extension and without its folder; empty if new.
@@ -68,7 +68,7 @@ class DocumentLifecycle {
   std::string m_sFileName;
 };
 
-/// The extension of saved auctions, with its point.
+/// The extension of saved auctions, with its dot.
 inline constexpr const char* kAuctionExtension = ".qlt";
 
 /// What the caption calls the default auction.

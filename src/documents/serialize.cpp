@@ -1,6 +1,5 @@
-// The text of an auction, section by section and field by field (docs/auction-file.md). What a
-// missing section means differs: [TYPE] and [FEATURES] are then passed over without a word, the
-// others are a Failure.
+// The text of an auction, section by section and field by field (docs/auction-file.md). A missing
+// [TYPE] or [FEATURES] is silently skipped; any other missing section throws a Failure.
 #include "base/basCommon.h"
 #include "base/failure.h"
 #include "documents/Section.h"

@@ -22,8 +22,8 @@ struct Server {
   std::uint16_t nPort;
 };
 
-/// Takes "host:port" apart. What stands behind the ":" and is no port stays part of the name, under
-/// which there is no host then.
+/// Splits "host:port". Text after the ":" that isn't a port stays part of the name, so that no such
+/// host is found.
 Server SplitServer(const std::string& sServer, std::uint16_t nDefaultPort) {
   const std::size_t nColon = sServer.rfind(':');
   if (nColon != std::string::npos) {
@@ -289,7 +289,7 @@ std::string clsHttp::ReadAnswer(InternetHandle hRequest) {
     sText += TrimAtNul(std::move(sBuffer));
     WriteLog("Getting header info 7");
     if (nRead > 0) {
-      nAvailable = nRead;  // a next piece is never asked for larger than the last one was
+      nAvailable = nRead;  // never ask for a piece larger than the last one
     }
     WriteLog("Getting header info 8");
   } while (nRead > 0);

@@ -1,4 +1,4 @@
-// The few Internet operations of the update, each step of them told in the diagnostic log.
+// The few Internet operations of the update, each step written to the diagnostic log.
 #pragma once
 
 #include <functional>
@@ -8,8 +8,8 @@
 
 namespace quillet {
 
-/// Server names are "host" or "host:port". What fails raises a Failure where the operation says so;
-/// its words stay in LastError.
+/// Server names are "host" or "host:port". An operation that fails throws a Failure where it says
+/// so; LastError keeps the description.
 class clsHttp {
  public:
   /// Speaks through `oInternet`, which isn't owned.
@@ -19,14 +19,14 @@ class clsHttp {
   /// Closes what is still open.
   ~clsHttp();
 
-  /// False if the machine has no connection. A Failure if there is no Internet session to be had.
+  /// False if the machine has no connection. Throws a Failure if no Internet session can be opened.
   [[nodiscard]] bool OpenConnection();
 
-  /// Logs in at an FTP server and changes to a folder, if one is named. A Failure, or true.
+  /// Logs in to an FTP server and changes to a folder, if one is named. True, or throws a Failure.
   bool StartFtpSession(const std::string& sServer, const std::string& sUser,
                        const std::string& sPassword, const std::string& sDirectory);
 
-  /// A Failure, or true; which says nothing about the server, for it isn't asked yet.
+  /// True, or throws a Failure. True says nothing about the server, which isn't contacted yet.
   bool StartHttpSession(const std::string& sServer, const std::string& sUser,
                         const std::string& sPassword);
 
@@ -36,23 +36,23 @@ class clsHttp {
   void CloseHttpSession();
   void CloseInternetSession();
 
-  /// Says by a Failure what is wrong with a fetched file, whose path it gets.
+  /// Throws a Failure that says what is wrong with the fetched file at `sPath`.
   using FileCheck = std::function<void(const std::string& sPath)>;
 
-  /// Fetches a file by FTP. It takes the local one's place only when it is here as a whole and
-  /// `fnCheck` has nothing against it. False without a connection; a Failure if the file can't be
-  /// fetched, used or stored.
+  /// Fetches a file by FTP. It replaces the local one only once it is complete and `fnCheck`
+  /// accepts it. False without a connection; throws a Failure if the file can't be fetched, used or
+  /// stored.
   bool GetFile(const std::string& sLocalFile, const std::string& sRemoteFile, bool bBinary,
                const FileCheck& fnCheck = {});
 
-  /// True if both files have the same size; their content isn't looked at. False without an FTP
-  /// session; a Failure if the remote file is empty or missing.
+  /// True if both files have the same size; their content isn't compared. False without an FTP
+  /// session; throws a Failure if the remote file is empty or missing.
   [[nodiscard]] bool FilesMatch(const std::string& sLocalFile, const std::string& sRemoteFile);
 
   [[nodiscard]] const std::string& LastError() const { return m_sLastError; }
 
-  /// The body of the answer to a GET of the HTTP session; empty if the server is dead. `sRequest`
-  /// is path and query without the "/" in front.
+  /// The body of the answer to a GET on the HTTP session; empty if the server is dead. `sRequest`
+  /// is the path and query without the leading "/".
   [[nodiscard]] std::string GetHeaderInfo(const std::string& sRequest);
 
  private:

@@ -51,7 +51,7 @@ int DaysBetween(double fFrom, double fTo) {
 }
 
 std::string LongTimeAndDate(double fDay) {
-  // To the whole second first, so that a time just before midnight doesn't end on the wrong day.
+  // Round to a whole second first, so that a time just before midnight gets the right day.
   const auto nSeconds = static_cast<std::int64_t>(std::llround(fDay * kSecondsOfDay));
   const std::chrono::sys_seconds oMoment = kDayZero + std::chrono::seconds(nSeconds);
   const auto oDay = std::chrono::floor<std::chrono::days>(oMoment);

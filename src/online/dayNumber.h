@@ -1,4 +1,4 @@
-// Moments as settings keep them: days since 1899-12-30, the time of day as the fraction.
+// Moments as the settings store them: days since 1899-12-30, the time of day as the fraction.
 #pragma once
 
 #include <optional>
@@ -13,10 +13,10 @@ namespace quillet {
 /// Fifteen significant digits, with the user's decimal separator.
 [[nodiscard]] std::string DayNumberText(double fDay);
 
-/// The reverse; nothing if the text is no number or not in the years 100 to 9999.
+/// The reverse; nothing if the text isn't a number or isn't in the years 100 to 9999.
 [[nodiscard]] std::optional<double> ReadDayNumber(std::string_view sText);
 
-/// How many midnights lie between two moments; negative if the second one is earlier.
+/// The number of midnights between two moments; negative if the second is earlier.
 [[nodiscard]] int DaysBetween(double fFrom, double fTo);
 
 /// As "09:05:07 AM Saturday, November 14, 2026".

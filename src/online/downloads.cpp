@@ -39,7 +39,7 @@ std::string Code() {
   return sCode;
 }
 
-/// Reads "number,message". The number counts even if the message is missing, which is a Failure.
+/// Reads "number,message". A missing message throws a Failure, but the number counts all the same.
 void ReadActions(std::string sAnswer) {
   g_lActionFlags = 0;
   sAnswer.erase(sAnswer.find_last_not_of("\r\n") + 1);  // a text file ends in a line break
@@ -51,7 +51,7 @@ void ReadActions(std::string sAnswer) {
   }
 }
 
-/// Has `sFetched` loaded by the routine that will load it, into a table of its own.
+/// Loads `sFetched` into a table of its own, with the routine that will load it later.
 void RequireSchedule(const std::string& sFetched, const std::string& sPresent) {
   clsPrices oPrices;
   oPrices.LoadFile(sFetched);
@@ -130,7 +130,7 @@ void Downloads::FetchUpdateFileOrFail() {
 }
 
 bool Downloads::IsUpdateSkipped() {
-  // A text that is no moment counts as no mark, so that it can't bar the update for ever.
+  // A text that isn't a moment counts as no mark, so it can't block the update for ever.
   if (const auto fMark = ReadDayNumber(Registry().Get(settings::kFtpSkipFlag))) {
     WriteLog("Found skip date of " + LongTimeAndDate(*fMark));
     if (DaysBetween(*fMark, m_fnNow()) < 1) {
@@ -145,7 +145,7 @@ void Downloads::SetUpdateSkip(bool bClear) {
   const Setting& oMark = settings::kFtpSkipFlag;
   if (!bClear) {
     Registry().Set(oMark, DayNumberText(m_fnNow()));
-    Registry().Flush();  // an attempt that takes the program down with it has been one, too
+    Registry().Flush();  // an attempt that crashes the program counts, too
   } else if (IsUpdateSkipped()) {
     Registry().DeleteValue(oMark.eRoot, oMark.sSection, oMark.sName, false);
   }
@@ -165,7 +165,7 @@ void Downloads::FetchAboutText() {
         if (!sText.empty()) {
           WriteLog("DL - Scrolling message 6");
           g_sAboutText = sText;
-          Registry().Set(settings::kAbout, sText);  // without the right to, for this run only
+          Registry().Set(settings::kAbout, sText);  // may lack permission: then for this run only
           WriteLog("DL - Scrolling message 7");
         }
       }
