@@ -1,4 +1,4 @@
-// Open files by their number, as the system knows them.
+// Open files, by the system's descriptors.
 #pragma once
 
 #include <cstddef>
@@ -14,7 +14,7 @@ inline constexpr int kStandardError = 2;
 /// The system's latest error.
 [[nodiscard]] std::error_code LastError();
 
-/// Reads what is there, at least one byte and at most `nSize`; waits if there is nothing yet.
+/// Reads what is available, at least one byte and at most `nSize`; waits if there is nothing yet.
 /// `nRead` is 0 at the end of the file.
 [[nodiscard]] std::error_code ReadSome(int nHandle, char* pBuffer, std::size_t nSize,
                                        std::size_t& nRead);
@@ -23,8 +23,8 @@ inline constexpr int kStandardError = 2;
 
 [[nodiscard]] bool IsTerminal(int nHandle);
 
-/// From now on writing to a pipe that nobody reads (broken_pipe), or beyond the size that a file
-/// may have (file_too_large), is an error and doesn't end the program.
+/// From now on, writing to a pipe that nobody reads (broken_pipe), or beyond a file's size limit
+/// (file_too_large), returns an error instead of ending the program.
 void ReportFailedWrites();
 
 }  // namespace quillet

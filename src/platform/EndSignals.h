@@ -1,4 +1,4 @@
-// The system's word that the program is to end at once.
+// Signals that tell the program to end at once.
 #pragma once
 
 #include <functional>
@@ -7,9 +7,8 @@ class QObject;
 
 namespace quillet {
 
-/// From now on, as long as `oContext` lives, the event loop calls `fnEnd` when the system or a
-/// terminal tells the program to end. One that was started to take no notice of such a signal
-/// doesn't.
+/// From now on, while `oContext` lives, the event loop calls `fnEnd` when the system or a terminal
+/// tells the program to end. A signal that the program was started to ignore stays ignored.
 void OnEndSignal(QObject& oContext, const std::function<void()>& fnEnd);
 
 }  // namespace quillet

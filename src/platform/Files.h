@@ -9,13 +9,13 @@
 
 namespace quillet {
 
-/// Writes the separators of a path the way this platform does: "\" in the program's constants.
+/// Turns the "\" of the program's constants into this platform's path separator.
 [[nodiscard]] std::string NativePath(std::string sPath);
 
 /// True if a file or folder of that name exists.
 [[nodiscard]] bool FileExists(const std::string& sPath);
 
-/// True of a pipe, a socket or a device: it may keep its reader waiting, or never end.
+/// True for a pipe, a socket or a device: reading one may block, or never end.
 [[nodiscard]] bool IsDevice(const std::string& sPath);
 
 /// Size of a file in bytes; 0 if there is none.
@@ -24,18 +24,18 @@ namespace quillet {
 /// Removes a file; an error if there is none.
 [[nodiscard]] std::error_code RemoveFile(const std::string& sPath);
 
-/// Reads a whole file into `sContent`. A folder is an error, and so is a file of more than
-/// `nLimit` bytes (file_too_large); `sContent` is then left alone.
+/// Reads a whole file into `sContent`. A folder, or a file of more than `nLimit` bytes
+/// (file_too_large), is an error; on errors `sContent` is left alone.
 [[nodiscard]] std::error_code ReadWholeFile(const std::string& sPath, std::size_t nLimit,
                                             std::string& sContent);
 
-/// Puts `sContent` in the place of the file, whole or not at all: it is written beside it and read
-/// back first, and after a failure the old file stands as it was and no temporary file stays. What
-/// can be kept of the old file's owner, group and rights is. A link's target is replaced; a link
-/// that leads nowhere, a folder and a device are errors.
+/// Replaces the file's content with `sContent`, whole or not at all: it is first written to a file
+/// beside it and read back; after a failure the old file is unchanged and no temporary file is
+/// left. Keeps the old file's owner, group and permissions as far as possible. Replaces the target
+/// of a link; a dangling link, a folder and a device are errors.
 [[nodiscard]] std::error_code ReplaceFile(const std::string& sPath, std::string_view sContent);
 
-/// Appends to a file that others may read meanwhile; an empty or new file gets the header first.
+/// Appends to a file that others may be reading; an empty or new file gets the header first.
 [[nodiscard]] std::error_code AppendToFile(const std::string& sPath, std::string_view sContent,
                                            std::string_view sHeaderIfEmpty);
 

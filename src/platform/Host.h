@@ -1,4 +1,4 @@
-// What the program asks of the desktop, or terminal, that it runs on.
+// What the program needs from the desktop or terminal that it runs on.
 #pragma once
 
 #include <cstddef>
@@ -8,7 +8,7 @@
 
 namespace quillet {
 
-/// The buttons and icon of a message box, by the platform's numbers.
+/// The buttons and icon of a message box, as the platform numbers them.
 enum MessageButtons : int {
   kMessagePlain = 0,
   kMessageCritical = 16,
@@ -17,7 +17,7 @@ enum MessageButtons : int {
   kMessageInformation = 64,
 };
 
-/// What the user answered to a message box, by the platform's numbers.
+/// The user's answer to a message box, as the platform numbers it.
 enum class Answer : int { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
 
 /// What an open or save dialog starts with.
@@ -29,11 +29,11 @@ struct FileDialog {
   std::string sFileName;  ///< proposed name, without folder; may be empty
 };
 
-/// How the user writes numbers and amounts, beside the decimal separator.
+/// How the user writes numbers and amounts, apart from the decimal separator.
 struct NumberStyle {
-  std::string sGroup{};        ///< what parts groups of digits; empty where nothing does
-  std::size_t nLastGroup = 3;  ///< how many digits the group before the decimals has
-  std::size_t nGroup = 3;      ///< and those before that one
+  std::string sGroup{};        ///< between groups of digits; empty if nothing is
+  std::size_t nLastGroup = 3;  ///< digits in the group before the decimals
+  std::size_t nGroup = 3;      ///< digits in the other groups
   std::string sCurrency{};     ///< the symbol of the user's currency; may be empty
 };
 
@@ -46,45 +46,45 @@ class Host {
   virtual Answer ShowMessage(const std::string& sPrompt, int nButtons,
                              const std::string& sTitle) = 0;
 
-  /// Lets the user choose a file: its full native path, or nothing when the dialog was cancelled.
+  /// Lets the user choose a file: its full native path, or nothing if the dialog was cancelled.
   virtual std::optional<std::string> ChooseFile(const FileDialog& oDialog) = 0;
 
-  /// Handles what waits in the interface's queue, and gives the processor away for a moment.
+  /// Handles the interface's pending events, and yields the processor for a moment.
   virtual void PumpEvents() = 0;
 
   /// Milliseconds since some fixed moment; never goes back.
   [[nodiscard]] virtual std::int64_t TickCount() const = 0;
 
-  /// The words behind the program's name, joined by blanks.
+  /// The arguments after the program's name, joined by blanks.
   [[nodiscard]] virtual std::string CommandLine() const = 0;
 
-  /// Native path of the folder that holds the program's own files, without a closing separator.
+  /// Native path of the folder that holds the program's own files, without a trailing separator.
   [[nodiscard]] virtual std::string ProgramFolder() const = 0;
 
-  /// The same for the files of the program that change. Another folder where the program's own
-  /// can't be written; it may not exist yet.
+  /// The same for the program's files that change. Another folder if the program's own can't be
+  /// written; it may not exist yet.
   [[nodiscard]] virtual std::string DataFolder() const { return ProgramFolder(); }
 
-  /// Native path of the user's documents, without a closing separator.
+  /// Native path of the user's documents, without a trailing separator.
   [[nodiscard]] virtual std::string DocumentsFolder() const = 0;
 
-  /// Opens a web address or file with the program that the user's system has for it.
+  /// Opens a web address or file in the user's default program for it.
   virtual void OpenLink(const std::string& sTarget) = 0;
 
   /// The user's decimal separator: one character, "." or "," nearly everywhere.
   [[nodiscard]] virtual const std::string& DecimalSeparator() const = 0;
 
-  /// The rest of how the user writes numbers. Where nothing is typed there is no more to it.
+  /// The rest of how the user writes numbers. Plain unless the host lets the user type.
   [[nodiscard]] virtual const NumberStyle& Numbers() const {
     static const NumberStyle kPlain;
     return kPlain;
   }
 };
 
-/// The host that SetHost has set last. There must be one before anything else is asked.
+/// The host that SetHost set last. There must be one before anything else is called.
 [[nodiscard]] Host& TheHost();
 
-/// Makes `oHost` the host. It isn't owned and must outlive its use.
+/// Makes `oHost` the host. Not owned; must outlive its use.
 void SetHost(Host& oHost);
 
 }  // namespace quillet

@@ -18,7 +18,7 @@ class HttpAnswer {
     return std::min(m_sBody.size() - m_nTaken, kPiece);
   }
 
-  /// Copies at most `nSize` more bytes to `pBuffer`: how many.
+  /// Copies at most `nSize` more bytes to `pBuffer`, and returns how many.
   std::size_t Take(char* pBuffer, std::size_t nSize) {
     const std::size_t nTaken = m_sBody.copy(pBuffer, nSize, m_nTaken);
     m_nTaken += nTaken;

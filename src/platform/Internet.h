@@ -1,4 +1,4 @@
-// What the update asks of the Internet: an FTP and an HTTP client behind a few blocking calls.
+// What the update needs of the Internet: an FTP and an HTTP client behind a few blocking calls.
 #pragma once
 
 #include <chrono>
@@ -11,7 +11,7 @@
 
 namespace quillet {
 
-/// Something that an Internet has opened; 0 is nothing.
+/// Something that an Internet has opened; 0 for nothing.
 using InternetHandle = std::uintptr_t;
 
 // The platform's numbers.
@@ -19,19 +19,20 @@ enum class InternetAccess : int { Preconfigured = 0, Proxy = 3 };
 enum class InternetService : int { Ftp = 1, Http = 3 };
 enum class TransferType : int { Ascii = 1, Binary = 2 };
 
-/// When a call gives up. Every bound but oPass holds for one call.
+/// When a call gives up. Every limit but oPass applies to a single call.
 struct InternetLimits {
-  std::chrono::milliseconds oConnect{10'000};  ///< until the server is reached and lets the user in
+  std::chrono::milliseconds oConnect{10'000};  ///< to reach the server and log in
   std::chrono::milliseconds oStall{20'000};    ///< without a byte of the file or answer
   std::chrono::milliseconds oPass{30'000};     ///< from Open on; a call beyond it fails at once
   std::size_t nLargest;                        ///< bytes of a file or answer
 };
 
-/// How often an answer by HTTP may send the request on, to http: and https: only.
+/// How often an HTTP answer may redirect the request, to http: and https: only.
 inline constexpr int kMostRedirects = 5;
 
 /// Calls block until they are done or a limit is reached, and pump the host's events meanwhile. No
-/// call throws; after one that gives false or 0, the three texts below tell why. All text is UTF-8.
+/// call throws; after one that gives false or 0, IsExtendedError, LastResponse and LastErrorText
+/// say why. All text is UTF-8.
 class Internet {
  public:
   explicit Internet(const InternetLimits& oLimits) : m_oPass(oLimits.oPass) {}
@@ -39,15 +40,15 @@ class Internet {
   Internet& operator=(const Internet&) = delete;
   virtual ~Internet() = default;
 
-  /// The time of the calls from the latest Open on.
+  /// The time allowed for all calls since the latest Open.
   [[nodiscard]] PassTime& Pass() { return m_oPass; }
 
-  /// True if this machine has a connection at all, be it to a local network only. Asks nobody.
+  /// True if this machine has any connection, even just to a local network. Contacts nobody.
   [[nodiscard]] virtual bool IsConnected() = 0;
 
   /// Opens an Internet session, one at a time, and begins the pass; contacts nobody. `sProxy` is
-  /// "host" or "host:port", and counts with InternetAccess::Proxy only; else the user's own proxy
-  /// settings hold.
+  /// "host" or "host:port", and is used with InternetAccess::Proxy only; otherwise the user's own
+  /// proxy settings apply.
   [[nodiscard]] virtual InternetHandle Open(const std::string& sAgent, InternetAccess eAccess,
                                             const std::string& sProxy) = 0;
 
@@ -58,10 +59,10 @@ class Internet {
                                                const std::string& sPassword,
                                                InternetService eService) = 0;
 
-  /// Makes a folder of the FTP server, seen from the one that now holds, the current one.
+  /// Changes to a folder of the FTP server; a relative path starts at the current folder.
   [[nodiscard]] virtual bool SetDirectory(InternetHandle hFtp, const std::string& sDirectory) = 0;
 
-  /// Stores a remote file under a local path, whole or not at all: a file that stands there is
+  /// Stores a remote file under a local path, whole or not at all: a file that is already there is
   /// replaced on success and left alone on failure.
   [[nodiscard]] virtual bool GetFile(InternetHandle hFtp, const std::string& sRemoteFile,
                                      const std::string& sLocalFile, TransferType eType) = 0;
@@ -70,29 +71,29 @@ class Internet {
   [[nodiscard]] virtual bool FindFile(InternetHandle hFtp, const std::string& sRemoteFile,
                                       std::uint64_t& nSize) = 0;
 
-  /// Prepares a GET by HTTP/1.0, past every cache. `sRequest` is path and query without the "/" in
-  /// front.
+  /// Prepares an HTTP/1.0 GET that bypasses every cache. `sRequest` is the path and query without
+  /// the leading "/".
   [[nodiscard]] virtual InternetHandle OpenRequest(InternetHandle hHttp,
                                                    const std::string& sRequest) = 0;
 
-  /// Sends it and takes in the body of the answer, whatever its status. False, with nothing to
-  /// read, if there is no answer, if it breaks off, is too large or sends the request on too often.
+  /// Sends it and receives the body of the answer, whatever its status. False, with nothing to
+  /// read, if there is no answer, or if it breaks off, is too large or redirects too often.
   [[nodiscard]] virtual bool SendRequest(InternetHandle hRequest) = 0;
 
   /// How many bytes the next Read can give at once; 0 at the end.
   [[nodiscard]] virtual std::size_t DataAvailable(InternetHandle hRequest) = 0;
 
-  /// Hands out at most `nSize` more bytes of the body: how many. 0 at the end.
+  /// Copies at most `nSize` more bytes of the body, and returns how many; 0 at the end.
   [[nodiscard]] virtual std::size_t Read(InternetHandle hRequest, char* pBuffer,
                                          std::size_t nSize) = 0;
 
-  /// True if the latest failure is the server's own answer, whose words LastResponse gives.
+  /// True if the latest failure was the server's own answer, which LastResponse gives.
   [[nodiscard]] virtual bool IsExtendedError() const = 0;
   [[nodiscard]] virtual std::string LastResponse() const = 0;
   /// The platform's description of the latest failure.
   [[nodiscard]] virtual std::string LastErrorText() const = 0;
 
-  /// Closes what was opened, with all that was opened from it. 0 is allowed.
+  /// Closes a handle and everything opened from it. 0 is allowed.
   virtual void Close(InternetHandle hHandle) = 0;
 
  private:

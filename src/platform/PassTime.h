@@ -1,4 +1,4 @@
-// The time that a pass of Internet calls has in all.
+// The time limit for a whole pass of Internet calls.
 #pragma once
 
 #include <chrono>
@@ -9,10 +9,10 @@
 
 namespace quillet {
 
-/// Runs on the host's clock. Before it begins it is never over.
+/// Uses the host's clock. A pass that hasn't begun is never over.
 class PassTime {
  public:
-  /// A user who wants to go on is heard from here on.
+  /// How long a pass runs before the user can cut it short.
   static constexpr std::chrono::milliseconds kPatience{3'000};
 
   explicit PassTime(std::chrono::milliseconds oLength) : m_oLength(oLength) {}
@@ -22,7 +22,7 @@ class PassTime {
     m_nEnd = TheHost().TickCount() + m_oLength.count();
   }
 
-  /// The user wants to go on: ends the pass if it has taken long enough for that.
+  /// The user wants to go on: ends the pass if kPatience is over.
   void Hurry() {
     if (TheHost().TickCount() >= m_nHeardFrom) {
       m_nEnd = m_nHeardFrom;

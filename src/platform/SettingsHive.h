@@ -7,7 +7,7 @@
 
 namespace quillet {
 
-/// The platform's numbers of the two roots.
+/// The two roots, as the platform numbers them.
 enum class HiveRoot : std::uint32_t {
   User = 0x80000001,     ///< settings of this user
   Machine = 0x80000002,  ///< settings shared by all users of the machine
@@ -22,14 +22,14 @@ class SettingsHive {
   [[nodiscard]] virtual std::optional<std::string> Read(HiveRoot eRoot, const std::string& sPath,
                                                         const std::string& sName) const = 0;
 
-  /// Stores a value, and creates its keys; false if the store can't be written.
+  /// Stores a value and creates its keys; false if the store can't be written.
   virtual bool Write(HiveRoot eRoot, const std::string& sPath, const std::string& sName,
                      const std::string& sValue) = 0;
 
   /// Removes a value; nothing happens if there is none.
   virtual void Delete(HiveRoot eRoot, const std::string& sPath, const std::string& sName) = 0;
 
-  /// The changes made so far outlive the process from here on, however it ends.
+  /// Makes sure that the changes made so far outlive the process, however it ends.
   virtual void Flush() = 0;
 };
 

@@ -19,14 +19,14 @@ constexpr std::string_view kTail = ".tmp";
 constexpr std::string_view kDigits = "0123456789abcdef";
 constexpr std::size_t kLetters = 16;
 
-/// Also of what QSettings puts beside one, whose name goes on behind the tail.
+/// Also true for the files that QSettings makes beside one, whose names go on after the tail.
 bool IsTemporary(std::string_view sName) {
   return sName.starts_with(kHead) &&
          sName.find_first_not_of(kDigits, kHead.size()) == kHead.size() + kLetters &&
          sName.substr(kHead.size() + kLetters).starts_with(kTail);
 }
 
-/// What stands before the file's own name, its separator included.
+/// The part of a path before the file's own name, with the separator.
 std::string FolderOf(const std::string& sPath) {
   const auto nSeparator = static_cast<char>(fs::path::preferred_separator);
   return sPath.substr(0, sPath.find_last_of(std::string{'/', nSeparator}) + 1);

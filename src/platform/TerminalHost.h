@@ -1,4 +1,4 @@
-// A host for programs without windows: messages go to standard error, nothing is ever asked.
+// A host for programs without windows: messages go to standard error, and the user is never asked.
 #pragma once
 
 #include <string>
@@ -9,7 +9,7 @@ namespace quillet {
 
 class TerminalHost : public Host {
  public:
-  /// `sDecimalSeparator` is the user's; UserDecimalSeparator tells it.
+  /// `sDecimalSeparator` is the user's; see UserDecimalSeparator.
   explicit TerminalHost(std::string sCommandLine = {}, std::string sDecimalSeparator = ".")
       : m_sCommandLine(std::move(sCommandLine)),
         m_sDecimalSeparator(std::move(sDecimalSeparator)) {}

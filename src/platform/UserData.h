@@ -1,4 +1,4 @@
-// Where files of the program lie that change, when its own folder belongs to somebody else.
+// Where the program's changing files go when it can't write to its own folder.
 #pragma once
 
 #include <string>
@@ -6,18 +6,18 @@
 
 namespace quillet {
 
-/// The folder given if it can be written, else the user's data folder of the program, which may not
-/// exist yet; the folder given again for a user who has none. Native paths.
+/// The given folder if it can be written, else the program's folder in the user's data, which may
+/// not exist yet; the given folder again for a user who has none. Native paths.
 [[nodiscard]] std::string FolderForChanges(const std::string& sProgramFolder);
 
-/// Makes a folder with those that it lies in, as far as they are missing.
+/// Makes a folder, and any of its parents that are missing.
 [[nodiscard]] std::error_code MakeFolder(const std::string& sFolder);
 
-/// Copies `sShipped` to `sOwn` if that is missing or older, by their times of last change; makes
-/// its folder. After an error `sOwn` stands as it was.
+/// Copies `sShipped` to `sOwn`, and makes its folder, if `sOwn` is missing or was changed earlier.
+/// After an error `sOwn` is as it was.
 [[nodiscard]] std::error_code SeedFile(const std::string& sShipped, const std::string& sOwn);
 
-/// Renames a file to `sAside`, in the place of an older one of that name.
+/// Renames a file to `sAside`, replacing any file of that name.
 [[nodiscard]] std::error_code PutAside(const std::string& sFile, const std::string& sAside);
 
 }  // namespace quillet

@@ -1,4 +1,4 @@
-// Paths between the program's texts and the standard library.
+// Converts paths between the program's text and the standard library.
 #pragma once
 
 #include <filesystem>
@@ -6,7 +6,7 @@
 
 namespace quillet {
 
-/// On POSIX the bytes of a path pass unchanged, UTF-8 or not.
+/// On POSIX the bytes of a path stay unchanged, UTF-8 or not.
 [[nodiscard]] inline std::filesystem::path PathOf(const std::string& sPath) {
   return {std::u8string(sPath.begin(), sPath.end())};
 }

@@ -12,7 +12,7 @@
 namespace quillet {
 namespace {
 
-/// A path for a URL: each part between the "/" escaped; one in front is part of the path.
+/// A path for a URL: each part between the "/" is escaped, and so is a leading "/".
 std::string EscapePath(const std::string& sPath) {
   std::string sEscaped = sPath.starts_with('/') ? "%2F" : "";
   std::size_t nStart = sPath.starts_with('/') ? 1 : 0;
@@ -39,7 +39,7 @@ bool HasAddress(const ifaddrs& oInterface) {
 bool CurlInternet::IsConnected() {
   ifaddrs* pFirst = nullptr;
   if (::getifaddrs(&pFirst) != 0) {
-    return true;  // not known: the attempt will show
+    return true;  // unknown: the attempt will show
   }
   const std::unique_ptr<ifaddrs, decltype(&::freeifaddrs)> oInterfaces(pFirst, &::freeifaddrs);
   bool bOutside = false;
@@ -51,7 +51,7 @@ bool CurlInternet::IsConnected() {
         HasAddress(*p) && (p->ifa_flags & IFF_UP) != 0 && (p->ifa_flags & IFF_RUNNING) != 0;
     bOutside = bOutside || (bWorks && !bLoopback);
     bInside = bInside || (bWorks && bLoopback);
-    // The system's ends of tunnels and the like have IFF_NOARP; nobody plugs a cable into those.
+    // Tunnel ends and the like have IFF_NOARP; they aren't a way out of the machine.
     bOnlyInside = bOnlyInside && (bLoopback || (p->ifa_flags & IFF_NOARP) != 0);
   }
   return bOutside || (bInside && bOnlyInside);

@@ -1,5 +1,5 @@
-// The Internet by libcurl. The user's own proxy settings are the environment's: http_proxy and so
-// on.
+// The Internet through libcurl. The user's own proxy settings come from the environment: http_proxy
+// and so on.
 #pragma once
 
 #include <map>
@@ -16,8 +16,8 @@ class CurlInternet : public Internet {
  public:
   explicit CurlInternet(InternetLimits oLimits) : Internet(oLimits), m_oLimits(oLimits) {}
 
-  /// True if a network interface is up. That of the machine itself counts only where it has no
-  /// other, as in a container.
+  /// True if a network interface is up. The loopback interface counts only if there is no other,
+  /// as in a container.
   [[nodiscard]] bool IsConnected() override;
   [[nodiscard]] InternetHandle Open(const std::string& sAgent, InternetAccess eAccess,
                                     const std::string& sProxy) override;
@@ -52,8 +52,8 @@ class CurlInternet : public Internet {
     HttpAnswer oAnswer;
   };
 
-  /// Runs a transfer that `fnChange` makes from what the session's transfers have in common, and
-  /// keeps the reason of a failure. A session that isn't open is one.
+  /// Runs the session's basic transfer as changed by `fnChange`, and keeps the reason for a
+  /// failure, such as a session that isn't open.
   template <typename Change>
   [[nodiscard]] TransferResult Run(InternetHandle hSession, Change&& fnChange);
   void Fail(const std::string& sError);

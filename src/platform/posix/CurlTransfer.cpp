@@ -14,7 +14,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr int kPumpEvery = 10;  // milliseconds
 
-/// What the callbacks of one transfer fill and watch.
+/// The state that the callbacks of one transfer share.
 struct Progress {
   TransferResult& oResult;
   const InternetLimits& oLimits;
@@ -22,18 +22,18 @@ struct Progress {
   Clock::time_point oLastByte = Clock::now();
 };
 
-/// Takes in a piece of the body; a body beyond the limit ends the transfer.
+/// Appends a piece of the body; a body beyond the limit ends the transfer.
 std::size_t TakeBody(char* pData, std::size_t nOne, std::size_t nCount, void* pProgress) {
   auto& oProgress = *static_cast<Progress*>(pProgress);
   const std::size_t nSize = nOne * nCount;
   if (nSize > oProgress.oLimits.nLargest - oProgress.oResult.sBody.size()) {
-    return nSize + 1;  // any other count than nSize is an error
+    return nSize + 1;  // any count but nSize is an error
   }
   oProgress.oResult.sBody.append(pData, nSize);
   return nSize;
 }
 
-/// Keeps the last line that an FTP server said; it begins with the answer's three digits.
+/// Keeps the last line of an FTP server's answer; it begins with the answer's three digits.
 std::size_t TakeHeader(char* pData, std::size_t nOne, std::size_t nCount, void* pProgress) {
   std::string sLine(pData, nOne * nCount);
   const bool bAnswer = sLine.size() > 3 && std::all_of(sLine.begin(), sLine.begin() + 3,
@@ -45,7 +45,7 @@ std::size_t TakeHeader(char* pData, std::size_t nOne, std::size_t nCount, void* 
   return nOne * nCount;
 }
 
-/// Called many times a second, also while the library waits for an answer by itself.
+/// Called many times a second, even while the library waits for an answer on its own.
 int EndIfStalled(void* pProgress, curl_off_t /*nAll*/, curl_off_t nReceived, curl_off_t /*nUp*/,
                  curl_off_t /*nUpNow*/) {
   auto& oProgress = *static_cast<Progress*>(pProgress);
@@ -56,7 +56,7 @@ int EndIfStalled(void* pProgress, curl_off_t /*nAll*/, curl_off_t nReceived, cur
   return Clock::now() - oProgress.oLastByte > oProgress.oLimits.oStall ? 1 : 0;
 }
 
-/// curl_easy_setopt is a C function of any number of arguments; it fails on lack of memory only.
+/// curl_easy_setopt is a variadic C function; it fails only if memory runs out.
 template <typename Value>
 void Set(CURL* pTransfer, CURLoption eOption, Value oValue) {
   // NOLINTNEXTLINE(cppcoreguidelines-pro-type-vararg)
@@ -69,7 +69,7 @@ void SetLimits(CURL* pTransfer, const InternetLimits& oLimits) {
   Set(pTransfer, CURLOPT_QUICK_EXIT, 1L);  // never wait for a name server that doesn't answer
 }
 
-/// What keeps the caches between here and the server out of it.
+/// Headers that keep caches between here and the server from answering.
 const curl_slist* NoCache() {
   static const std::unique_ptr<curl_slist, decltype(&curl_slist_free_all)> oHeaders(
       curl_slist_append(nullptr, "Pragma: no-cache"), &curl_slist_free_all);
@@ -118,8 +118,8 @@ CurlConnections::CurlConnections() : m_oMulti(nullptr, &curl_multi_cleanup) {
 }
 
 CurlConnections::~CurlConnections() {
-  // The library takes leave of an FTP server by a command whose answer it would wait for, long and
-  // without pumping events.
+  // The library says goodbye to an FTP server, and would wait for the answer, long and without
+  // pumping events.
   for (const curl_socket_t nSocket : m_anSockets) {
     ::shutdown(nSocket, SHUT_RDWR);
   }

@@ -1,4 +1,4 @@
-// One transfer by libcurl, and the connections that transfers with one server share.
+// One transfer through libcurl, and the connections that transfers with one server share.
 #pragma once
 
 #include <cstdint>
@@ -17,17 +17,17 @@ struct TransferRequest {
   std::string sUser;
   std::string sPassword;
   std::string sAgent;
-  std::string sProxy;       ///< empty for the one that the environment names
-  bool bBody = true;        ///< else only what can be known without it: size, or that it is there
+  std::string sProxy;       ///< empty for the environment's
+  bool bBody = true;        ///< else only what is known without it: size, or that the file exists
   bool bAsciiType = false;  ///< FTP's type for text
 };
 
 struct TransferResult {
   bool bDone = false;
   std::string sBody;
-  std::int64_t nSize = -1;  ///< of the remote file; -1 if the server doesn't tell
+  std::int64_t nSize = -1;  ///< of the remote file; -1 if the server doesn't say
   std::string sResponse;    ///< the FTP server's last words, without line break
-  bool bRefused = false;    ///< those words are the reason of the failure
+  bool bRefused = false;    ///< those words are the reason for the failure
   std::string sError;       ///< description of the failure
 };
 

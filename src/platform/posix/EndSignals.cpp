@@ -10,8 +10,7 @@
 namespace quillet {
 namespace {
 
-std::array<int, 2> g_anPipe = {-1,
-                               -1};  // from the handler, which may do next to nothing, to the loop
+std::array<int, 2> g_anPipe = {-1, -1};  // from the handler, which may do very little, to the loop
 
 extern "C" void TellTheLoop(int /*nSignal*/) {
   const char cMark = 0;

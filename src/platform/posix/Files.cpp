@@ -39,10 +39,10 @@ class Descriptor {
   int m_nHandle;
 };
 
-/// Reads from where the file stands to its end.
+/// Reads from the current position to the end of the file.
 std::error_code ReadAll(int nHandle, std::size_t nLimit, std::string& sContent) {
   std::string sRead;
-  std::array<char, 65536> acBlock;  // NOLINT: zeros would only take time
+  std::array<char, 65536> acBlock;  // NOLINT: zeroing would only waste time
   while (true) {
     std::size_t nRead = 0;
     if (std::error_code oError = ReadSome(nHandle, acBlock.data(), acBlock.size(), nRead)) {
@@ -60,15 +60,15 @@ std::error_code ReadAll(int nHandle, std::size_t nLimit, std::string& sContent) 
   return {};
 }
 
-/// Gives a file the owner, the group and the mode of another, each as far as the user may.
+/// Gives a file the owner, group and mode of another, each as far as the user is allowed to.
 std::error_code TakeAfter(int nHandle, const struct stat& oOld) {
   [[maybe_unused]] const bool bKept = ::fchown(nHandle, oOld.st_uid, oOld.st_gid) == 0 ||
                                       ::fchown(nHandle, static_cast<uid_t>(-1), oOld.st_gid) == 0;
   return ::fchmod(nHandle, oOld.st_mode & 07777U) == 0 ? std::error_code{} : LastError();
 }
 
-/// The file is on the disk, and reads as it should, when this returns. One that replaces none gets
-/// what the user's mask leaves of "rw" for everybody.
+/// When this returns, the file is on the disk and reads as it should. One that replaces none gets
+/// "rw" for everybody, less the user's umask.
 std::error_code WriteNewFile(const std::string& sPath, std::string_view sContent,
                              const struct stat* pOld) {
   Descriptor oFile(::open(sPath.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
@@ -93,8 +93,8 @@ std::error_code WriteNewFile(const std::string& sPath, std::string_view sContent
   return oError ? oError : oFile.Close();
 }
 
-/// Follows links to the file that they end in, so that replacing a link keeps the link. One that
-/// leads nowhere is an error.
+/// Follows links to their target, so that a save through a link keeps the link. A dangling link is
+/// an error.
 std::error_code ResolveLinks(std::string& sPath) {
   char* const pResolved = ::realpath(sPath.c_str(), nullptr);
   if (pResolved != nullptr) {
@@ -108,7 +108,7 @@ std::error_code ResolveLinks(std::string& sPath) {
   return bLink ? oError : std::error_code{};
 }
 
-/// A name that has changed outlives the machine's fall only so.
+/// Without this, a rename may not survive a crash of the machine.
 void SyncFolderOf(const std::string& sPath) {
   const std::string sFolder = sPath.substr(0, sPath.rfind('/') + 1);
   const Descriptor oFolder(

@@ -24,8 +24,8 @@
 namespace quillet {
 namespace {
 
-/// A folder that other programs of this kind keep out of. It is let go with the process that holds
-/// it, however that ends. A file system without locks counts as one that nobody else uses.
+/// Locks a folder against other Quillets. The lock ends with the process that holds it, however
+/// that ends. On a file system without locks, nobody else is assumed to use the folder.
 class FolderLock {
  public:
   FolderLock(const QString& sFolder, int nMilliseconds)
@@ -65,7 +65,7 @@ std::string StampOf(const QString& sFile) {
   return sStamp;
 }
 
-/// A file that is there for as long as this is.
+/// The path of a file that is removed when this goes out of scope.
 class ScratchFile {
  public:
   explicit ScratchFile(const QString& sBeside)
@@ -80,8 +80,8 @@ class ScratchFile {
   QString m_sPath;
 };
 
-/// What a file holds; nothing if one is there that can't be read. A text that was typed with commas
-/// and without quotes is a list to QSettings, and one text here.
+/// The values in a file; nothing if it exists but can't be read. Text with commas and no quotes is
+/// a list to QSettings, but one text here.
 std::optional<IniValues> ValuesOf(const QString& sFile) {
   if (QFile oFile(sFile); oFile.exists() && !oFile.open(QIODevice::ReadOnly)) {
     return std::nullopt;
@@ -96,11 +96,11 @@ std::optional<IniValues> ValuesOf(const QString& sFile) {
   return oFile.status() == QSettings::AccessError ? std::nullopt : std::optional(asValues);
 }
 
-/// The text that QSettings writes of these values; nothing if that fails, or doesn't give them
-/// back.
+/// The text that QSettings writes for these values; nothing if that fails or doesn't read back the
+/// same.
 std::optional<std::string> TextOf(const IniValues& asValues, const QString& sBeside) {
   const ScratchFile oWritten(sBeside);
-  const ScratchFile oRead(sBeside);  // QSettings would answer for the first from memory
+  const ScratchFile oRead(sBeside);  // QSettings would read the first from its cache
   std::string sText;
   if (asValues.empty()) {
     return sText;
@@ -117,9 +117,9 @@ std::optional<std::string> TextOf(const IniValues& asValues, const QString& sBes
   return bProven ? std::optional(sText) : std::nullopt;
 }
 
-/// To QSettings, a file of the same size and time is the one that it has read.
+/// Waits, since QSettings takes a file with the same size and time for the one it has read.
 void OutliveTimeOf(const QString& sFile) {
-  constexpr qint64 kStep = 20;  // milliseconds; files' clocks tick up to every tenth
+  constexpr qint64 kStep = 20;  // milliseconds; file times advance in steps of up to 10
   if (const QFileInfo oFile(sFile); oFile.exists()) {
     const qint64 nAge = oFile.lastModified().msecsTo(QDateTime::currentDateTime());
     QThread::msleep(nAge < 0 ? 0 : static_cast<unsigned long>(std::max(kStep - nAge, qint64{0})));
@@ -162,8 +162,8 @@ void IniStore::Flush() {
   }
 }
 
-/// Reads the file if it has been replaced since. False if one is there that can't be read,
-/// which must not be taken for an empty one.
+/// Reads the file if it has been replaced since. False if it exists but can't be read, which must
+/// not be mistaken for an empty file.
 bool IniStore::Follow() {
   std::string sStamp = StampOf(m_sFile);
   if (sStamp == m_sStamp) {
@@ -192,7 +192,7 @@ bool IniStore::HasLeaveAndRoomFor(const QString& sKey, const QString& sValue) {
   return bRoom;
 }
 
-/// What the file holds now, with the changes; or what it held, if anything is amiss.
+/// Stores the file's present values with the changes; leaves the file alone if anything fails.
 void IniStore::Store(const Changes& asChanges) {
   const FolderLock oLock(m_sFolder, kLockMilliseconds);
   if (!oLock.IsHeld() || !Follow()) {

@@ -13,15 +13,14 @@ namespace quillet {
 /// Values by their keys, which are joined by "/".
 using IniValues = std::map<QString, QString>;
 
-/// QSettings reads the file. It writes a file beside it, and what that gives back as it was meant
-/// takes the place of the old one. A file that can't be written (no permission, no folder, no
-/// room), or can't be read, costs the change and nothing else: it stays whole, and reading gives
-/// what it holds.
+/// QSettings reads the file. It writes to another file beside it, which replaces the old one only
+/// if it reads back correctly. If the file can't be written (no permission, no folder, no room) or
+/// can't be read, only the change is lost: the file stays whole, and reading gives what it holds.
 ///
-/// Replacing a file takes longer than a drag may pause, so changes are gathered until Flush. Change
-/// tries beforehand whether that will work; if the disk fills up in between, or another program
-/// keeps the folder locked for kLockMilliseconds, the gathered changes are lost. Reading sees them
-/// at once, and always what other programs have stored.
+/// Replacing a file would make a drag stutter, so changes are gathered until Flush. Change checks
+/// beforehand that Flush will work; if the disk fills up in between, or another program keeps the
+/// folder locked for kLockMilliseconds, the gathered changes are lost. Reading always sees them,
+/// and what other programs have stored.
 class IniStore : public SettingsStore {
  public:
   static constexpr int kLockMilliseconds = 2000;
@@ -42,8 +41,8 @@ class IniStore : public SettingsStore {
 
   QString m_sFolder;
   QString m_sFile;
-  std::string m_sStamp;  ///< what tells the file that was read from another in its place
-  IniValues m_asValues;  ///< that it held
+  std::string m_sStamp;  ///< tells the file that was read from one that has replaced it
+  IniValues m_asValues;  ///< the values it held
   Changes m_asGathered;
 };
 

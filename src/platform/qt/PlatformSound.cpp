@@ -1,5 +1,5 @@
-// The sound of a desktop where Qt Multimedia may be installed or not: a library beside the program
-// holds all that needs it, and is loaded when the first tune plays. Without it there is silence.
+// Sound on a desktop that may lack Qt Multimedia: all that needs it is in a library beside the
+// program, which is loaded when the first tune plays. Without it there is silence.
 #include <QCoreApplication>
 #include <QLibrary>
 
@@ -9,7 +9,7 @@
 namespace quillet {
 namespace {
 
-constexpr const char* kFolders[] = {"/", "/../lib/quillet/"};  // from the program's own
+constexpr const char* kFolders[] = {"/", "/../lib/quillet/"};  // relative to the program's own
 
 class LibrarySound : public Sound {
  public:
@@ -32,7 +32,7 @@ class LibrarySound : public Sound {
   }
 
  private:
-  /// Once, found or not. The library stays: it has threads of its own.
+  /// Tries once. The library is never unloaded: it has threads of its own.
   void Load() {
     if (m_bTried) {
       return;

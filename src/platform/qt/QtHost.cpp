@@ -26,7 +26,7 @@ constexpr int kLinesOfFileDialog = 36;
 constexpr int kLettersOfLongText = 74;
 constexpr int kLinesOfLongText = 21;
 
-/// The size of so many lines of so many letters, as the program's text is at the moment.
+/// The size of that many lines of that many letters, in the program's current font.
 QSize SizeInText(int nLetters, int nLines) {
   const QFontMetrics oText(QApplication::font());
   return {oText.averageCharWidth() * nLetters, oText.lineSpacing() * nLines};
@@ -88,8 +88,8 @@ bool MayReplace(const QString& sPath) {
   return oBox.exec() == QMessageBox::Yes;
 }
 
-/// Native dialogs differ in whether they ask about the name as typed or as completed, so the
-/// extension is added here, and what then exists is asked about.
+/// Native dialogs differ in whether they ask about the name as typed or as completed, so this adds
+/// the extension and then asks about replacing a file.
 QString RunSaveDialog(QFileDialog& oDialog, const QString& sExtension) {
   while (true) {
     const QString sPath = RunDialog(oDialog);
@@ -107,7 +107,7 @@ std::string NativeText(const QString& sPath) {
   return QDir::toNativeSeparators(sPath).toStdString();
 }
 
-/// The sizes of the groups are read off a number that has three of them in every locale.
+/// Reads the group sizes off a number that has three groups in every locale.
 NumberStyle StyleOf(const QLocale& oLocale) {
   NumberStyle oStyle;
   oStyle.sGroup = oLocale.groupSeparator().toStdString();
@@ -131,7 +131,7 @@ bool NeedsScrolling(const QString& sText, const QSize& oScreen) {
          oNeeded.width() > oScreen.width() / 2 || oNeeded.height() > oScreen.height() / 2;
 }
 
-/// Puts the text of a message into a field that scrolls, so that the buttons stay on the screen.
+/// Puts the text of a message into a scrolling field, so that the buttons stay on the screen.
 void LetScroll(QMessageBox& oBox, const QSize& oScreen) {
   auto* const pText = new QPlainTextEdit(oBox.text(), &oBox);
   pText->setReadOnly(true);
@@ -170,7 +170,7 @@ Answer QtHost::ShowMessage(const std::string& sPrompt, int nButtons, const std::
 std::optional<std::string> QtHost::ChooseFile(const FileDialog& oDialog) {
   const QString sPattern = QString::fromStdString(oDialog.sPattern);
   QFileDialog oWindow(QApplication::activeWindow());
-  oWindow.setWindowTitle(oDialog.bSave ? "Save As" : "Open");  // native ones don't all have one
+  oWindow.setWindowTitle(oDialog.bSave ? "Save As" : "Open");  // not every native dialog has one
   oWindow.resize(SizeInText(kLettersOfFileDialog, kLinesOfFileDialog));
   oWindow.setAcceptMode(oDialog.bSave ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   oWindow.setFileMode(oDialog.bSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);

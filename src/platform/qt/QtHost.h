@@ -13,8 +13,8 @@ class QtHost : public Host {
  public:
   QtHost();
 
-  /// The prompt is shown as it is, markup included. Enter takes the default button, the first;
-  /// Escape and closing the box are Cancel, or OK where that is the only button.
+  /// The prompt is shown as it is, markup included. Enter presses the first button; Escape and
+  /// closing the box mean Cancel, or OK if that is the only button.
   Answer ShowMessage(const std::string& sPrompt, int nButtons, const std::string& sTitle) override;
 
   /// Asks before a file is replaced. On saving, a name without any extension gets the pattern's.

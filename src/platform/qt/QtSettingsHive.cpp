@@ -5,7 +5,7 @@
 namespace quillet {
 namespace {
 
-/// The store's own spelling of a value's place.
+/// The store's key for a value.
 QString KeyOf(const std::string& sPath, const std::string& sName) {
   return QString::fromStdString(sPath).replace('\\', '/') + '/' + QString::fromStdString(sName);
 }

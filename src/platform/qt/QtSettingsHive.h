@@ -1,5 +1,5 @@
-// The settings in the place where the platform keeps such things: the registry on Windows,
-// elsewhere velmor/quillet.ini in the user's and in the machine's configuration folder.
+// The settings, where the platform keeps such things: the registry on Windows, elsewhere
+// velmor/quillet.ini in the user's and in the machine's configuration folder.
 #pragma once
 
 #include <QTimer>
@@ -10,17 +10,17 @@
 
 namespace quillet {
 
-/// Changes may be gathered by the place: they are in it upon Flush, kGatherMilliseconds later if
-/// the event loop runs, and at the latest when the hive is destroyed.
+/// A store may gather changes: they are written on Flush, after kGatherMilliseconds if the event
+/// loop runs, and at the latest when the hive is destroyed.
 ///
 /// Made after the application object, whose event loop it uses.
 class QtSettingsHive : public SettingsHive {
  public:
   static constexpr int kGatherMilliseconds = 500;
 
-  /// The platform's own places.
+  /// Uses the platform's own stores.
   QtSettingsHive();
-  /// Places of their own.
+  /// Uses the given stores.
   QtSettingsHive(std::unique_ptr<SettingsStore> oUser, std::unique_ptr<SettingsStore> oMachine);
   QtSettingsHive(const QtSettingsHive&) = delete;
   QtSettingsHive& operator=(const QtSettingsHive&) = delete;

@@ -1,4 +1,4 @@
-// Where the values of one root of the settings lie.
+// Where the values of one root of the settings are stored.
 #pragma once
 
 #include <QString>
@@ -16,15 +16,15 @@ class SettingsStore {
 
   [[nodiscard]] virtual std::optional<QString> Read(const QString& sKey) = 0;
 
-  /// Sets a value; nothing as the value removes it. False, and the change is forgotten, if it can't
-  /// be stored.
+  /// Sets a value, or removes it if `sValue` is nothing. False, and the change is dropped, if it
+  /// can't be stored.
   virtual bool Change(const QString& sKey, const std::optional<QString>& sValue) = 0;
 
   /// Stores the changes that have been gathered.
   virtual void Flush() = 0;
 };
 
-/// The platform's own place.
+/// The platform's own store.
 [[nodiscard]] std::unique_ptr<SettingsStore> PlatformStore(HiveRoot eRoot);
 
 }  // namespace quillet

@@ -1,4 +1,4 @@
-// What the library that plays sound exports, and its name.
+// The exports and the name of the library that plays sound.
 #pragma once
 
 namespace quillet {

@@ -26,7 +26,7 @@ std::error_code LastError() {
 std::error_code ReadSome(int nHandle, char* pBuffer, std::size_t nSize, std::size_t& nRead) {
   DWORD nTaken = 0;
   if (::ReadFile(HandleOf(nHandle), pBuffer, PieceOf(nSize), &nTaken, nullptr) == FALSE) {
-    // A pipe whose writer has gone is at its end.
+    // A pipe whose writer is gone has ended.
     const std::error_code oError = LastError();
     if (oError.value() != ERROR_BROKEN_PIPE) {
       return oError;

@@ -3,7 +3,7 @@
 namespace quillet {
 
 void OnEndSignal(QObject& /*oContext*/, const std::function<void()>& /*fnEnd*/) {
-  // A program with windows is told by a message to them, of which the toolkit takes care.
+  // A program with windows is told by a message to its windows, which the toolkit handles.
 }
 
 }  // namespace quillet

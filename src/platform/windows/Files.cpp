@@ -4,7 +4,7 @@
 #include <array>
 
 #include <windows.h>
-#undef ReplaceFile  // the system's name for its own
+#undef ReplaceFile  // the system's macro
 
 #include "platform/Descriptors.h"
 #include "platform/Temporaries.h"
@@ -56,7 +56,7 @@ std::error_code Write(HANDLE hFile, std::string_view sContent) {
 
 std::error_code ReadAll(HANDLE hFile, std::size_t nLimit, std::string& sContent) {
   std::string sRead;
-  std::array<char, 65536> acBlock;  // NOLINT: zeros would only take time
+  std::array<char, 65536> acBlock;  // NOLINT: zeroing would only waste time
   while (true) {
     DWORD nRead = 0;
     if (::ReadFile(hFile, acBlock.data(), acBlock.size(), &nRead, nullptr) == FALSE) {
@@ -74,7 +74,7 @@ std::error_code ReadAll(HANDLE hFile, std::size_t nLimit, std::string& sContent)
   return {};
 }
 
-/// The file is on the disk, and reads as it should, when this returns.
+/// When this returns, the file is on the disk and reads as it should.
 std::error_code WriteNewFile(const std::string& sPath, std::string_view sContent) {
   OpenFile oFile(sPath, GENERIC_READ | GENERIC_WRITE, 0, CREATE_NEW);
   if (!oFile.IsOpen()) {
@@ -94,9 +94,9 @@ std::error_code WriteNewFile(const std::string& sPath, std::string_view sContent
   return sWritten == sContent ? oFile.Close() : std::make_error_code(std::errc::io_error);
 }
 
-/// Keeps the old file's rights and dates. Where that breaks off halfway, the old file is put back.
+/// Keeps the old file's permissions and dates. If it fails halfway, the old file is put back.
 bool PutInPlaceOfOld(const std::wstring& sTemporary, const std::wstring& sPath) {
-  constexpr DWORD kIgnoreRights = 4;  // REPLACEFILE_IGNORE_ACL_ERRORS, which not every header has
+  constexpr DWORD kIgnoreRights = 4;  // REPLACEFILE_IGNORE_ACL_ERRORS, which some headers lack
   const std::wstring sOld = sTemporary + L".old";
   const bool bDone =
       ::ReplaceFileW(sPath.c_str(), sTemporary.c_str(), sOld.c_str(),
@@ -110,7 +110,7 @@ bool PutInPlaceOfOld(const std::wstring& sTemporary, const std::wstring& sPath) 
   return bDone;
 }
 
-/// The first way needs an old file, and a disk that has rights.
+/// The first way needs an old file, and a disk with permissions.
 bool PutInPlace(const std::wstring& sTemporary, const std::wstring& sPath) {
   return PutInPlaceOfOld(sTemporary, sPath) ||
          ::MoveFileExW(sTemporary.c_str(), sPath.c_str(),

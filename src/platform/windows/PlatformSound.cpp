@@ -1,9 +1,9 @@
-// The sound of Windows, by its multimedia library.
+// Sound on Windows, through its multimedia library.
 #include <QByteArray>
 #include <QFile>
 
 #include <windows.h>
-// Behind windows.h, which it needs.
+// After windows.h, which it needs.
 #include <mmsystem.h>
 
 #include "platform/Sound.h"

@@ -1,4 +1,4 @@
-// The registry, in which every change is stored at once.
+// The registry, where every change is stored at once.
 #include <QSettings>
 
 #include "platform/qt/SettingsStore.h"
@@ -19,7 +19,7 @@ class RegistryStore : public SettingsStore {
     sValue ? m_oRegistry->setValue(sKey, *sValue) : m_oRegistry->remove(sKey);
     const QSettings::Status eStatus = m_oRegistry->status();
     if (eStatus != QSettings::NoError) {
-      Open();  // since an object never forgets a failure
+      Open();  // a QSettings never forgets a failure
     }
     return eStatus != QSettings::AccessError;
   }

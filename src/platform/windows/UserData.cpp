@@ -10,7 +10,7 @@
 namespace quillet {
 namespace {
 
-/// Only the attempt tells: rights come from too many places to be read.
+/// Only trying will tell: permissions come from too many places to be read.
 bool CanWriteIn(const std::string& sFolder) {
   const std::string sProbe =
       sFolder + "\\quillet-" + std::to_string(::GetCurrentProcessId()) + ".tmp";

@@ -10,7 +10,7 @@
 #include <windows.h>
 #include <wininet.h>
 
-#undef ReplaceFile  // the system's name for something else
+#undef ReplaceFile  // the system's macro
 
 #include "platform/Files.h"
 #include "platform/Host.h"
@@ -22,7 +22,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds kPumpEvery{10};
-constexpr std::chrono::milliseconds kToLetGo{500};  // of a handle that was closed
+constexpr std::chrono::milliseconds kToLetGo{500};  // for a call to end once its handle is closed
 constexpr DWORD kRequestFlags = INTERNET_FLAG_RELOAD | INTERNET_FLAG_NO_AUTO_REDIRECT;
 
 /// What an FTP server said last, to a call on this thread.
@@ -40,7 +40,7 @@ std::string ServerResponse() {
   return Narrow(sWide);
 }
 
-/// A number in the head of an HTTP answer; 0 if it isn't there.
+/// A number from the headers of an HTTP answer; 0 if it isn't there.
 DWORD HeadNumber(HINTERNET hRequest, DWORD nWhich) {
   DWORD nNumber = 0;
   DWORD nSize = sizeof(nNumber);
@@ -49,7 +49,7 @@ DWORD HeadNumber(HINTERNET hRequest, DWORD nWhich) {
   return bFound != FALSE ? nNumber : 0;
 }
 
-/// The URL that an HTTP answer sends the request on to; empty if it doesn't.
+/// The URL that an HTTP answer redirects to; empty if it doesn't.
 std::wstring Location(HINTERNET hRequest) {
   std::array<wchar_t, INTERNET_MAX_URL_LENGTH> acTo{};
   std::array<wchar_t, INTERNET_MAX_URL_LENGTH> acFrom{};
@@ -220,7 +220,7 @@ WinInetInternet::Outcome WinInetInternet::Find(void* pFtp, const std::wstring& s
       Opened(::FtpFindFirstFileW(pFtp, sRemoteFile.c_str(), &oFound, INTERNET_FLAG_RELOAD, 0));
   if (oOutcome.nError == 0) {
     oOutcome.nSize = std::uint64_t{oFound.nFileSizeHigh} << 32U | oFound.nFileSizeLow;
-    // While it is open, the session takes no other call.
+    // While it is open, the session accepts no other call.
     ::InternetCloseHandle(std::exchange(oOutcome.pOpened, nullptr));
   }
   return oOutcome;
@@ -238,7 +238,7 @@ WinInetInternet::Outcome WinInetInternet::Fetch(void* pFtp, const std::wstring& 
     return oFile;
   }
   Outcome oOutcome = ReadAll(oFile.pOpened, oFound.nSize, oLimits);
-  // Here the server may tell that it was not all.
+  // Only here may the server report that the file was cut off.
   const Outcome oClosed = OutcomeOf(::InternetCloseHandle(oFile.pOpened) != FALSE);
   return oOutcome.nError == 0 && oClosed.nError != 0 ? oClosed : oOutcome;
 }
@@ -284,7 +284,7 @@ WinInetInternet::Outcome WinInetInternet::ReadAnswer(void* pRequest,
   return oOutcome;
 }
 
-/// The platform follows by itself too, but further.
+/// The platform could follow redirects itself, but would follow more of them.
 WinInetInternet::Outcome WinInetInternet::Follow(InternetHandle hRequest, Outcome oOutcome) {
   for (int n = 0; oOutcome.nError == 0 && !oOutcome.sLocation.empty(); ++n) {
     if (n == kMostRedirects || !IsOfTheWeb(oOutcome.sLocation)) {

@@ -1,5 +1,5 @@
-// The Internet by WinINet. Its calls block, some beyond all limits, so each runs on a thread of its
-// own while this one pumps the host's events.
+// The Internet through WinINet. Its calls block, some beyond all limits, so each runs on a thread
+// of its own while this one pumps the host's events.
 #pragma once
 
 #include <chrono>
@@ -44,19 +44,19 @@ class WinInetInternet : public Internet {
   void Close(InternetHandle hHandle) override;
 
  private:
-  /// How a call ended: the platform's error number, 0 for none, what the server said to it, and
-  /// what it gave.
+  /// How a call ended: the platform's error number (0 for none), the server's words, and what the
+  /// call gave.
   struct Outcome {
     unsigned long nError = 0;
     std::string sResponse;
     void* pOpened = nullptr;
     std::string sContent;
-    std::wstring sLocation;  ///< where an HTTP answer sends the request on to
+    std::wstring sLocation;  ///< where an HTTP answer redirects to
     std::uint64_t nSize = 0;
   };
-  /// Holds all that it needs, since it may outlive whoever waits for it.
+  /// Owns all that it needs, since it may outlive its caller.
   using Call = std::function<Outcome(void* pHandle)>;
-  /// What has been opened. The platform has no handle for an HTTP session without a server.
+  /// An opened thing. The platform has no handle for an HTTP session without a server.
   struct Item {
     void* pHandle = nullptr;
     InternetHandle hOwner = 0;
@@ -65,8 +65,8 @@ class WinInetInternet : public Internet {
 
   [[nodiscard]] static Outcome OutcomeOf(bool bDone);
   [[nodiscard]] static Outcome Opened(void* pHandle);
-  /// Reads to the end. What breaks off reads like what ends, so less than was announced is a
-  /// failure.
+  /// Reads to the end. A transfer that breaks off looks like one that ends, so fewer bytes than
+  /// announced are a failure.
   [[nodiscard]] static Outcome ReadAll(void* pHandle, std::uint64_t nAnnounced,
                                        const InternetLimits& oLimits);
   [[nodiscard]] static Outcome ReadAnswer(void* pRequest, const InternetLimits& oLimits);
@@ -74,11 +74,11 @@ class WinInetInternet : public Internet {
   [[nodiscard]] static Outcome Fetch(void* pFtp, const std::wstring& sRemoteFile,
                                      TransferType eType, const InternetLimits& oLimits);
 
-  /// Runs a call on a handle and keeps the reason of a failure. A call that overruns its limit is
-  /// ended by closing the handle, and left to itself if it takes no notice.
+  /// Runs a call on a handle and keeps the reason for a failure. A call that overruns its limit is
+  /// ended by closing its handle, and abandoned if that doesn't help.
   [[nodiscard]] Outcome Await(InternetHandle hHandle, std::chrono::milliseconds oLimit,
                               Call fnCall);
-  /// What comes of an answer to a request when it is followed to where it sends it on.
+  /// The final outcome of a request, once its redirects have been followed.
   [[nodiscard]] Outcome Follow(InternetHandle hRequest, Outcome oOutcome);
   [[nodiscard]] InternetHandle Keep(void* pHandle, InternetHandle hOwner);
   void SetLimits(void* pHandle) const;
