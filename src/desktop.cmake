@@ -50,6 +50,7 @@ add_library(quillet_desktop STATIC
   shell/DesktopApplication.cpp
   shell/KeptAuction.cpp
   shell/MissingPriceLine.cpp
+  shell/PageScroller.cpp
   shell/ScrollFrame.cpp
   shell/SectionSet.cpp
   shell/WindowZoom.cpp

@@ -5,22 +5,20 @@
 #include <QPainter>
 #include <QShortcut>
 #include <QShowEvent>
-#include <QWheelEvent>
 #include <algorithm>
-#include <vector>
+#include <array>
+#include <iterator>
 
 #include "base/basMain.h"
 #include "base/clsRegistryAccess.h"
-#include "base/conversions.h"
 #include "base/failure.h"
 #include "controls/ImageButton.h"
-#include "controls/ScrollBar.h"
 #include "controls/layout.h"
-#include "look/marks.h"
 #include "look/palette.h"
 #include "look/scale.h"
 #include "sections/controlHelpers.h"
 #include "shell/MissingPriceLine.h"
+#include "shell/PageScroller.h"
 #include "shell/WizardSteps.h"
 #include "shell/tabOrder.h"
 
@@ -42,35 +40,8 @@ constexpr int kButtonGap = 300;  // so that neighbours, whose places overlap, st
 
 constexpr double kInfoPoints = 13.0;
 
-std::string PageInfoText(std::int16_t nFrame) {
-  return Registry().Get(settings::kPageInfo.at(static_cast<std::size_t>(nFrame)));
-}
-
-/// A section that turns visible gives its rows the colour of text, and nothing fills it in anew
-/// when its page comes: what can't be chosen stays grey.
-void ShowWithGreys(SectionPanel& oSection) {
-  std::vector<Control*> aoGrey;
-  for (QWidget* const pWidget : oSection.findChildren<QWidget*>()) {
-    auto* const pControl = dynamic_cast<Control*>(pWidget);
-    if (pControl != nullptr && pControl->ForeColor() == kColourGreyText) {
-      aoGrey.push_back(pControl);
-    }
-  }
-  oSection.SetVisible(true);
-  for (Control* const pControl : aoGrey) {
-    pControl->SetForeColor(kColourGreyText);
-  }
-}
-
-/// As wide to the left as to the right of the frame's middle, which the instruction stands above.
-QRectF CardOf(const Control& oFrame, const SectionPanel& oSection) {
-  constexpr int kSides = 225;
-  constexpr int kAbove = 105;
-  constexpr int kBelow = 165;
-  const int nLeft = oSection.Left() + oSection.ContentLeft() - kSides;
-  return {QPointF(Pixels(oFrame.Left() + nLeft), Pixels(oSection.Top() - kAbove)),
-          QPointF(Pixels(oFrame.Left() + oFrame.Width() - nLeft),
-                  Pixels(oSection.Top() + oSection.Height() + kBelow))};
+std::string PageInfoText(int nText) {
+  return Registry().Get(settings::kPageInfo.at(static_cast<std::size_t>(nText)));
 }
 
 }  // namespace
@@ -79,12 +50,11 @@ ctlWizard::ctlWizard(QWidget* pParent)
     : QWidget(pParent),
       Control(static_cast<QWidget&>(*this)),
       m_oSet(*this, [this](bool bDocDirty) { emit Changed(bDocDirty); }),
+      m_pViewPort(Make<PageScroller>("fraViewPort", this)),
       m_aPages(MakePages()),
       m_pInfo(Make<Label>("lblInfo", this)),
       m_pSteps(Make<WizardSteps>("Steps", this)),
       m_pMissingPrice(Make<MissingPriceLine>("MissingPrice", this)),
-      m_pViewPort(Make<Frame>("fraViewPort", this)),
-      m_pVert(Make<ScrollBar>("vsbVert", m_pViewPort)),
       m_pButtons(Make<Frame>("fraButtons", this)),
       m_pBack(Make<ImageButton>("imgBack", m_pButtons)),
       m_pNext(Make<ImageButton>("imgNext", m_pButtons)),
@@ -101,65 +71,58 @@ ctlWizard::ctlWizard(QWidget* pParent)
   }
   m_pSteps->SetSteps(asNames);
   m_pViewPort->Place(-2160, 3120, 4215, 1935);
-  m_pVert->Place(8880, 1080, 255, 615);
-  m_pVert->setAccessibleName("Scroll the page");
-  m_pVert->SetVisible(false);
   m_oSet.ctlSellingCostsSection.Place(120, 6720, 4620, 2235);
   m_oSet.ctlSellingCostsSection.SetMode(1);
-  connect(m_pVert, &QScrollBar::valueChanged, this, &ctlWizard::vsbVert_Change);
-  MakeFrames();
+  ListenToSections();
   MakeButtons();
   MakeKeys();
   Place(0, 0, kDesignWidth, kDesignHeight);
 }
 
-std::array<WizardPage, 5> ctlWizard::MakePages() const {
-  const auto fnPage = [](const char* sName, std::int32_t lIndex, std::int16_t nFrame,
-                         SectionPanel& oSection) {
-    return WizardPage{sName,       lIndex,     nFrame, &oSection, PageInfoText(nFrame),
-                      lIndex == 0, lIndex == 4};
-  };
-  return {fnPage("Auction Type", 0, 1, m_oSet.ctlAuctionTypeSection),
-          fnPage("Outlay", 1, 0, m_oSet.ctlOutlaySection),
-          fnPage("Features", 2, 2, m_oSet.ctlSellingFeaturesSection),
-          fnPage("PayPal", 3, 3, m_oSet.ctlPayPalSection),
-          fnPage("Postage", 4, 4, m_oSet.ctlPostageSection)};
-}
-
-/// The sections go after the view, and an input among them that has the focus loses it then.
-ctlWizard::~ctlWizard() {
-  qApp->disconnect(this);
-}
-
-void ctlWizard::MakeFrames() {
-  struct FrameDesign {
-    int nWidth;
-    int nHeight;
+std::vector<WizardPage> ctlWizard::MakePages() {
+  struct PageDesign {
+    const char* sName;
+    int nText;  ///< the number of its instruction in the settings
+    int nFrameWidth;
+    int nFrameHeight;
     SectionPanel& oSection;
     int nLeft;
-    int nSectionWidth;
-    int nSectionHeight;
+    int nWidth;
+    int nHeight;
   };
   constexpr int kSectionTop = 120;
-  const std::array aoFrames = std::to_array<FrameDesign>({
-      {5175, 2415, m_oSet.ctlOutlaySection, 120, 4815, 2295},
-      {3495, 7335, m_oSet.ctlAuctionTypeSection, 120, 3255, 7095},
-      {4095, 7215, m_oSet.ctlSellingFeaturesSection, 240, 3735, 6975},
-      {3255, 4575, m_oSet.ctlPayPalSection, 120, 3015, 4335},
-      {4935, 6375, m_oSet.ctlPostageSection, 240, 4575, 6255},
+  const std::array aoDesigns = std::to_array<PageDesign>({
+      {"Auction Type", 1, 3495, 7335, m_oSet.ctlAuctionTypeSection, 120, 3255, 7095},
+      {"Outlay", 0, 5175, 2415, m_oSet.ctlOutlaySection, 120, 4815, 2295},
+      {"Features", 2, 4095, 7215, m_oSet.ctlSellingFeaturesSection, 240, 3735, 6975},
+      {"PayPal", 3, 3255, 4575, m_oSet.ctlPayPalSection, 120, 3015, 4335},
+      {"Postage", 4, 4935, 6375, m_oSet.ctlPostageSection, 240, 4575, 6255},
   });
-  for (std::size_t i = 0; i < aoFrames.size(); ++i) {
-    const auto& [nWidth, nHeight, oSection, nLeft, nSectionWidth, nSectionHeight] = aoFrames.at(i);
-    m_apPages.at(i) = Make<Frame>("fraPages", m_pViewPort);
-    m_apPages.at(i)->Place(0, 0, nWidth, nHeight);
-    oSection.setParent(m_apPages.at(i));
-    oSection.SetVisible(true);
-    oSection.Place(nLeft, kSectionTop, nSectionWidth, nSectionHeight);
-    connect(&oSection, &SectionPanel::Changed, this,
+  std::vector<WizardPage> aPages;
+  for (const PageDesign& oDesign : aoDesigns) {
+    const auto lIndex = static_cast<std::int32_t>(aPages.size());
+    auto* const pFrame = Make<Frame>("fraPages", m_pViewPort);
+    pFrame->Place(0, 0, oDesign.nFrameWidth, oDesign.nFrameHeight);
+    oDesign.oSection.setParent(pFrame);
+    oDesign.oSection.SetVisible(true);
+    oDesign.oSection.Place(oDesign.nLeft, kSectionTop, oDesign.nWidth, oDesign.nHeight);
+    aPages.push_back({.sName = oDesign.sName,
+                      .lIndex = lIndex,
+                      .pFrame = pFrame,
+                      .oSection = &oDesign.oSection,
+                      .sInfo = PageInfoText(oDesign.nText),
+                      .bFirst = lIndex == 0,
+                      .bLast = lIndex + 1 == std::ssize(aoDesigns)});
+  }
+  return aPages;
+}
+
+void ctlWizard::ListenToSections() {
+  const std::array aoSections = m_oSet.Sections();
+  for (SectionPanel* const pSection : aoSections) {
+    connect(pSection, &SectionPanel::Changed, this,
             [this] { m_oSet.FollowChange(WorkingAuction()); });
   }
-  m_pVert->raise();
-  const std::array aoSections = m_oSet.Sections();
   ChainInputs(*this, {aoSections.begin(), aoSections.end()});
 }
 
@@ -202,8 +165,6 @@ void ctlWizard::MakeKeys() {
       imgNext_Click();
     }
   });
-  connect(qApp, &QApplication::focusChanged, this,
-          [this](const QWidget* /*pOld*/, const QWidget* pNow) { ScrollTo(pNow); });
 }
 
 void ctlWizard::RefreshSums(bool bUpdateControlDisplays) {
@@ -238,75 +199,23 @@ void ctlWizard::ShowPage(std::int16_t nPage) {
       TurnTo(tPage);
     } else {
       tPage.oSection->SetVisible(false);
-      FrameOf(tPage).SetVisible(false);
+      tPage.pFrame->SetVisible(false);
     }
   }
   FocusFirstInput();
   update();
 }
 
-/// The section is laid out first, then shown, which is when it learns the places of its rows. One
-/// that was left scrolled is at its beginning again.
 void ctlWizard::TurnTo(const WizardPage& tPage) {
   m_tCurrent = tPage;
-  SectionPanel& oSection = *tPage.oSection;
-  CentreFrame();
-  FrameOf(tPage).SetVisible(true);
   m_pInfo->SetCaption(QString::fromStdString(tPage.sInfo));
   m_pSteps->SetCurrent(tPage.lIndex);
-  oSection.SetShowConfig(false);
-  ShowWithGreys(oSection);
+  m_pViewPort->Show(*tPage.pFrame, *tPage.oSection);
   m_pBack->SetVisible(!tPage.bFirst);
   m_pNext->SetVisible(true);
-  oSection.SetTop(std::max(oSection.Top(), 0));
-  UpdateScrollBar();
   m_pNext->SetCaption(tPage.bLast ? "&Finish" : "&Next");
   m_pNext->SetPicture(tPage.bLast ? ButtonPicture::Finish : ButtonPicture::Next);
   m_pCancel->SetVisible(true);
-}
-
-Frame& ctlWizard::FrameOf(const WizardPage& tPage) const {
-  return *m_apPages.at(static_cast<std::size_t>(tPage.nFrame));
-}
-
-void ctlWizard::CentreFrame() {
-  Frame& oFrame = FrameOf(*m_tCurrent);
-  oFrame.SetLeft(RoundToLong(Width() / 2.0 - oFrame.Width() / 2.0));
-  oFrame.SetTop(0);
-}
-
-/// Whether there is a bar depends on the section, and how far it goes on the frame, so that a bar
-/// may have a little way to go where there is nothing more to see.
-void ctlWizard::UpdateScrollBar() {
-  if (!m_tCurrent) {
-    return;
-  }
-  const Frame& oFrame = FrameOf(*m_tCurrent);
-  const SectionPanel& oSection = *m_tCurrent->oSection;
-  const int nHeight = m_pViewPort->Height();
-  // A section may have grown taller than its frame: what is drawn of it isn't cut off there.
-  oFrame.Widget().resize(oFrame.Widget().width(),
-                         Pixels(std::max(oFrame.Height(), oSection.Top() + oSection.Height())));
-  if (nHeight >= oSection.Height()) {
-    m_pVert->SetVisible(false);
-    return;
-  }
-  constexpr int kSteps = 50;
-  constexpr int kStepsInLargeOne = 10;
-  m_pVert->Place(m_pViewPort->Width() - 2 * m_pVert->Width(), 0, m_pVert->Width(), nHeight);
-  m_pVert->setRange(0, std::max(0, oFrame.Height() - nHeight));
-  m_pVert->setSingleStep(std::max(1, m_pVert->maximum() / kSteps));
-  m_pVert->setPageStep(m_pVert->singleStep() * kStepsInLargeOne);
-  m_pVert->setValue(0);
-  m_pVert->SetVisible(true);
-}
-
-/// The section moves within its frame, which stays.
-void ctlWizard::vsbVert_Change() {
-  if (m_tCurrent) {
-    m_tCurrent->oSection->SetTop(-m_pVert->value());
-    update();
-  }
 }
 
 void ctlWizard::imgBack_Click() {
@@ -352,10 +261,7 @@ void ctlWizard::UserControl_Resize() {
   m_lLineTop = oSummary.Top() - kLineAboveSummary;
   const int nTop = m_pInfo->Top() + m_pInfo->Height();
   m_pViewPort->Place(0, nTop, Width(), std::max(1, m_lLineTop - nTop));
-  if (m_tCurrent) {
-    CentreFrame();
-  }
-  UpdateScrollBar();
+  m_pViewPort->LayOut();
   update();
 }
 
@@ -366,24 +272,7 @@ void ctlWizard::paintEvent(QPaintEvent* /*pEvent*/) {
   const int nLine = Pixels(m_lLineTop);
   oPainter.fillRect(QRect(0, nLine, width(), std::max(0, height() - nLine)), InkColour(Ink::Panel));
   oPainter.fillRect(QRect(0, nLine, width(), 1), InkColour(Ink::Hairline));
-  if (m_tCurrent && m_tCurrent->oSection->Height() > 0) {
-    PaintCard(oPainter);
-  }
-}
-
-/// As much of it as the viewport shows. Where it is scrolled, a rule closes it above.
-void ctlWizard::PaintCard(QPainter& oPainter) const {
-  const QRect oView = m_pViewPort->geometry();
-  const QRectF oCard =
-      CardOf(FrameOf(*m_tCurrent), *m_tCurrent->oSection).translated(oView.topLeft());
-  oPainter.setClipRect(oView);
-  oPainter.setRenderHint(QPainter::Antialiasing);
-  DrawCard(oPainter, oCard);
-  if (oCard.top() < oView.top()) {
-    oPainter.setClipping(false);
-    oPainter.fillRect(QRectF(oCard.left(), oView.top() - 1, oCard.width(), 1),
-                      InkColour(Ink::Hairline));
-  }
+  m_pViewPort->PaintCard(oPainter);
 }
 
 /// A click beside the section leaves the box that was typed into; the buttons keep theirs.
@@ -419,19 +308,6 @@ void ctlWizard::keyPressEvent(QKeyEvent* pEvent) {
   }
 }
 
-/// With Ctrl held the wheel belongs to the window's zoom.
-void ctlWizard::wheelEvent(QWheelEvent* pEvent) {
-  constexpr int kTwipsPerUnit = 6;  // three rows for the 120 units of a notch
-  const int nTurned = pEvent->angleDelta().y();
-  const bool bOverPage = m_pViewPort->geometry().contains(pEvent->position().toPoint());
-  if ((pEvent->modifiers() & Qt::ControlModifier) != 0 || !m_pVert->Visible() || !bOverPage) {
-    QWidget::wheelEvent(pEvent);
-    return;
-  }
-  m_pVert->setValue(m_pVert->value() - nTurned * kTwipsPerUnit);
-  pEvent->accept();
-}
-
 void ctlWizard::LeaveInput() {
   const QWidget* const pFocus = QApplication::focusWidget();
   if (pFocus != nullptr && m_pViewPort->isAncestorOf(pFocus)) {
@@ -446,23 +322,6 @@ void ctlWizard::FocusFirstInput() {
   });
   if (pFirst != aoInputs.end()) {
     (*pFirst)->setFocus(Qt::TabFocusReason);  // what is typed replaces what stands there
-  }
-}
-
-/// Brings an input that the keyboard has reached into view.
-void ctlWizard::ScrollTo(const QWidget* pInput) {
-  if (!m_tCurrent || !m_pVert->Visible() || pInput == nullptr ||
-      !m_tCurrent->oSection->isAncestorOf(pInput)) {
-    return;
-  }
-  constexpr int kMargin = 360;
-  const SectionPanel& oSection = *m_tCurrent->oSection;
-  const int nTop = Twips(pInput->mapTo(&oSection, QPoint()).y());
-  const int nBottom = nTop + Twips(pInput->height());
-  if (oSection.Top() + nTop < 0) {
-    m_pVert->setValue(nTop - kMargin);
-  } else if (oSection.Top() + nBottom > m_pViewPort->Height()) {
-    m_pVert->setValue(nBottom + kMargin - m_pViewPort->Height());
   }
 }
 

@@ -3,10 +3,10 @@
 #pragma once
 
 #include <QWidget>
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "controls/Controls.h"
 #include "shell/SectionSet.h"
@@ -15,18 +15,18 @@ namespace quillet {
 
 class ImageButton;
 class MissingPriceLine;
-class ScrollBar;
+class PageScroller;
 class WizardSteps;
 
 /// One page of the wizard.
 struct WizardPage {
   const char* sName;
   std::int32_t lIndex;  ///< its place in the order of pages
-  std::int16_t nFrame;  ///< its frame, which is also the number of its text in the settings
-  SectionPanel* oSection;
-  std::string sInfo;  ///< the instruction above it
-  bool bFirst;        ///< nothing to go back to
-  bool bLast;         ///< going on finishes
+  Frame* pFrame;
+  SectionPanel* oSection;  ///< in the frame
+  std::string sInfo;       ///< the instruction above it
+  bool bFirst;             ///< nothing to go back to
+  bool bLast;              ///< going on finishes
 };
 
 class ctlWizard : public QWidget, public Control {
@@ -34,9 +34,6 @@ class ctlWizard : public QWidget, public Control {
 
  public:
   explicit ctlWizard(QWidget* pParent);
-  ctlWizard(const ctlWizard&) = delete;
-  ctlWizard& operator=(const ctlWizard&) = delete;
-  ~ctlWizard() override;
   [[nodiscard]] const char* TypeName() const override { return "ctlWizard"; }
 
   /// Calculates the working auction and shows it.
@@ -59,12 +56,11 @@ class ctlWizard : public QWidget, public Control {
   void mousePressEvent(QMouseEvent* pEvent) override;
   bool focusNextPrevChild(bool bNext) override;
   void keyPressEvent(QKeyEvent* pEvent) override;
-  void wheelEvent(QWheelEvent* pEvent) override;
   void Placed() override;
 
  private:
-  [[nodiscard]] std::array<WizardPage, 5> MakePages() const;
-  void MakeFrames();
+  [[nodiscard]] std::vector<WizardPage> MakePages();
+  void ListenToSections();
   void MakeButtons();
   void MakeKeys();
 
@@ -72,32 +68,24 @@ class ctlWizard : public QWidget, public Control {
   void UserControl_Resize();
   void ShowPage(std::int16_t nPage);
   void TurnTo(const WizardPage& tPage);
-  [[nodiscard]] Frame& FrameOf(const WizardPage& tPage) const;
-  void CentreFrame();
-  void UpdateScrollBar();
-  void vsbVert_Change();
   void imgBack_Click();
   void imgNext_Click();
   void FinishWizard();
 
   void LeaveInput();
   void FocusFirstInput();
-  void ScrollTo(const QWidget* pInput);
-  void PaintCard(QPainter& oPainter) const;
 
   SectionSet m_oSet;
-  std::array<WizardPage, 5> m_aPages;
+  PageScroller* m_pViewPort;
+  std::vector<WizardPage> m_aPages;
   std::optional<WizardPage> m_tCurrent;
   Label* m_pInfo;
   WizardSteps* m_pSteps;
   MissingPriceLine* m_pMissingPrice;
-  Frame* m_pViewPort;
-  ScrollBar* m_pVert;
   Frame* m_pButtons;
   ImageButton* m_pBack;
   ImageButton* m_pNext;
   ImageButton* m_pCancel;
-  std::array<Frame*, 5> m_apPages{};
   int m_lLineTop = 0;  ///< of the rule above the summary, twips
   int m_lLaidWidth = -1;
   int m_lLaidHeight = -1;

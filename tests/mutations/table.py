@@ -226,8 +226,8 @@ MUTATIONS = [
 
     # shell
     ("shell/tabOrder.cpp", "2 * nShared >=", "2 * nShared >", "widget TabOrder.*"),
-    ("shell/ctlWizard.cpp", "} else if (oSection.Top() + nBottom > m_pViewPort->Height()) {",
-     "} else if (oSection.Top() + nBottom < 0) {", "widget Wizard.*"),
+    ("shell/PageScroller.cpp", "} else if (m_pSection->Top() + nBottom > Height()) {",
+     "} else if (m_pSection->Top() + nBottom < 0) {", "widget Wizard.*"),
     ("shell/ctlWizard.cpp", "  if (!ctlNumericText::CommitFocused()) {",
      "  if (!ctlNumericText::CommitFocused() && false) {", "widget Wizard.*"),
     ("shell/frmMain.cpp", "if (nIndex == kButtonSave) {\n    ctlNumericText::CommitFocused();",

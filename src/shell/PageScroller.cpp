@@ -1,0 +1,160 @@
+#include "shell/PageScroller.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QWheelEvent>
+#include <algorithm>
+#include <vector>
+
+#include "base/conversions.h"
+#include "controls/ScrollBar.h"
+#include "controls/layout.h"
+#include "look/marks.h"
+#include "look/palette.h"
+#include "look/scale.h"
+#include "sections/SectionPanel.h"
+
+namespace quillet {
+
+namespace {
+
+/// A section that turns visible gives its rows the colour of text, and nothing fills it in anew
+/// when its page comes: what can't be chosen stays grey.
+void ShowWithGreys(SectionPanel& oSection) {
+  std::vector<Control*> aoGrey;
+  for (QWidget* const pWidget : oSection.findChildren<QWidget*>()) {
+    auto* const pControl = dynamic_cast<Control*>(pWidget);
+    if (pControl != nullptr && pControl->ForeColor() == kColourGreyText) {
+      aoGrey.push_back(pControl);
+    }
+  }
+  oSection.SetVisible(true);
+  for (Control* const pControl : aoGrey) {
+    pControl->SetForeColor(kColourGreyText);
+  }
+}
+
+/// As wide to the left as to the right of the frame's middle, which the instruction stands above.
+QRectF CardOf(const Control& oFrame, const SectionPanel& oSection) {
+  constexpr int kSides = 225;
+  constexpr int kAbove = 105;
+  constexpr int kBelow = 165;
+  const int nLeft = oSection.Left() + oSection.ContentLeft() - kSides;
+  return {QPointF(Pixels(oFrame.Left() + nLeft), Pixels(oSection.Top() - kAbove)),
+          QPointF(Pixels(oFrame.Left() + oFrame.Width() - nLeft),
+                  Pixels(oSection.Top() + oSection.Height() + kBelow))};
+}
+
+}  // namespace
+
+PageScroller::PageScroller(QWidget* pParent)
+    : Frame(pParent), m_pVert(Make<ScrollBar>("vsbVert", this)) {
+  m_pVert->SetWidth(255);
+  m_pVert->setAccessibleName("Scroll the page");
+  m_pVert->SetVisible(false);
+  connect(m_pVert, &QScrollBar::valueChanged, this, &PageScroller::vsbVert_Change);
+  connect(qApp, &QApplication::focusChanged, this,
+          [this](const QWidget* /*pOld*/, const QWidget* pNow) { ScrollTo(pNow); });
+}
+
+/// The sections go after the viewport, and an input among them that has the focus loses it then.
+PageScroller::~PageScroller() {
+  qApp->disconnect(this);
+}
+
+/// The section is laid out first, then shown, which is when it learns the places of its rows. One
+/// that was left scrolled is at its beginning again.
+void PageScroller::Show(Frame& oFrame, SectionPanel& oSection) {
+  m_pFrame = &oFrame;
+  m_pSection = &oSection;
+  CentreFrame();
+  oFrame.SetVisible(true);
+  oSection.SetShowConfig(false);
+  ShowWithGreys(oSection);
+  oSection.SetTop(std::max(oSection.Top(), 0));
+  UpdateScrollBar();
+}
+
+void PageScroller::LayOut() {
+  if (m_pFrame != nullptr) {
+    CentreFrame();
+    UpdateScrollBar();
+  }
+}
+
+void PageScroller::CentreFrame() {
+  m_pFrame->SetLeft(RoundToLong(Width() / 2.0 - m_pFrame->Width() / 2.0));
+  m_pFrame->SetTop(0);
+}
+
+/// Whether there is a bar depends on the section, and how far it goes on the frame, so that a bar
+/// may have a little way to go where there is nothing more to see.
+void PageScroller::UpdateScrollBar() {
+  // A section may have grown taller than its frame: what is drawn of it isn't cut off there.
+  m_pFrame->resize(m_pFrame->width(),
+                   Pixels(std::max(m_pFrame->Height(), m_pSection->Top() + m_pSection->Height())));
+  if (Height() >= m_pSection->Height()) {
+    m_pVert->SetVisible(false);
+    return;
+  }
+  constexpr int kSteps = 50;
+  constexpr int kStepsInLargeOne = 10;
+  m_pVert->Place(Width() - 2 * m_pVert->Width(), 0, m_pVert->Width(), Height());
+  m_pVert->setRange(0, std::max(0, m_pFrame->Height() - Height()));
+  m_pVert->setSingleStep(std::max(1, m_pVert->maximum() / kSteps));
+  m_pVert->setPageStep(m_pVert->singleStep() * kStepsInLargeOne);
+  m_pVert->setValue(0);
+  m_pVert->raise();
+  m_pVert->SetVisible(true);
+}
+
+/// The section moves within its frame, which stays.
+void PageScroller::vsbVert_Change() {
+  m_pSection->SetTop(-m_pVert->value());
+  parentWidget()->update();
+}
+
+/// With Ctrl held the wheel belongs to the window's zoom.
+void PageScroller::wheelEvent(QWheelEvent* pEvent) {
+  constexpr int kTwipsPerUnit = 6;  // three rows for the 120 units of a notch
+  if ((pEvent->modifiers() & Qt::ControlModifier) != 0 || !m_pVert->Visible()) {
+    Frame::wheelEvent(pEvent);
+    return;
+  }
+  m_pVert->setValue(m_pVert->value() - pEvent->angleDelta().y() * kTwipsPerUnit);
+  pEvent->accept();
+}
+
+/// Brings an input that the keyboard has reached into view.
+void PageScroller::ScrollTo(const QWidget* pInput) {
+  if (!m_pVert->Visible() || pInput == nullptr || !m_pSection->isAncestorOf(pInput)) {
+    return;
+  }
+  constexpr int kMargin = 360;
+  const int nTop = Twips(pInput->mapTo(m_pSection, QPoint()).y());
+  const int nBottom = nTop + Twips(pInput->height());
+  if (m_pSection->Top() + nTop < 0) {
+    m_pVert->setValue(nTop - kMargin);
+  } else if (m_pSection->Top() + nBottom > Height()) {
+    m_pVert->setValue(nBottom + kMargin - Height());
+  }
+}
+
+/// Where it is scrolled, a rule closes it above.
+void PageScroller::PaintCard(QPainter& oPainter) const {
+  if (m_pSection == nullptr || m_pSection->Height() <= 0) {
+    return;
+  }
+  const QRect oView = geometry();
+  const QRectF oCard = CardOf(*m_pFrame, *m_pSection).translated(oView.topLeft());
+  oPainter.setClipRect(oView);
+  oPainter.setRenderHint(QPainter::Antialiasing);
+  DrawCard(oPainter, oCard);
+  if (oCard.top() < oView.top()) {
+    oPainter.setClipping(false);
+    oPainter.fillRect(QRectF(oCard.left(), oView.top() - 1, oCard.width(), 1),
+                      InkColour(Ink::Hairline));
+  }
+}
+
+}  // namespace quillet
