@@ -34,7 +34,8 @@ constexpr std::array<Set, 4> kSets = {{
      "FeaturedInSearch,10DayDuration,GiftServices,PreviewPicture,Border,ListingItem,CarAd"},
 }};
 
-constexpr std::array<Row, 38> kRows = {{
+constexpr std::array<Row, 39> kRows = {{
+    {kBoth, KeyKind::OptionalText, "ScheduleName"},
     {kBoth, KeyKind::Text, "Currency{Symbol,Format}"},
     {kBoth, KeyKind::Number, "LocalTax"},
     {kBoth, KeyKind::LotTiers, "Opening"},

@@ -12,6 +12,7 @@
 namespace quillet {
 
 enum class KeyKind {
+  OptionalText,  ///< nothing is missed without it
   Text,
   Number,
   BandNumber,        ///< the value of a merchant-rate band

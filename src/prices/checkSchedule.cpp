@@ -18,19 +18,23 @@ bool HasFirstClassTiers(Schedule& oSchedule) {
   return pCount == nullptr || ToInteger(pCount->sValue).value_or(1) > 0;
 }
 
+void ReportMissing(Schedule& oSchedule, const CatalogueKey& oKey) {
+  const std::string sMissing = Quoted(oKey.sName) + " is missing";
+  if (oKey.IsNeeded()) {
+    oSchedule.ReportNoPrice(oSchedule.LastLine(), sMissing);
+  } else if (oKey.eKind != KeyKind::OptionalText) {
+    oSchedule.Report(oSchedule.LastLine(), sMissing);
+  }
+}
+
 void CheckKey(Schedule& oSchedule, const CatalogueKey& oKey) {
   if (oKey.IsTable()) {
     CheckTiers(oSchedule, oKey);
   } else if (oKey.eKind == KeyKind::OverWeightNumber && !HasFirstClassTiers(oSchedule)) {
     return;
   } else if (oSchedule.Ask(oKey.sName) == nullptr) {
-    const std::string sMissing = Quoted(oKey.sName) + " is missing";
-    if (oKey.IsNeeded()) {
-      oSchedule.ReportNoPrice(oSchedule.LastLine(), sMissing);
-    } else {
-      oSchedule.Report(oSchedule.LastLine(), sMissing);
-    }
-  } else if (oKey.eKind != KeyKind::Text) {
+    ReportMissing(oSchedule, oKey);
+  } else if (oKey.eKind > KeyKind::Text) {
     (void)AskNumber(oSchedule, oKey.sName);
   }
 }
