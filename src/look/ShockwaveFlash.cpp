@@ -12,9 +12,9 @@ ShockwaveFlash::ShockwaveFlash(QWidget* pParent) : QWidget(pParent) {}
 void ShockwaveFlash::SetMovie(const QString& sPath) {
   if (m_oMovie != nullptr) {
     m_oMovie->Widget().hide();
-    m_oMovie->Widget().deleteLater();  // since its own command may have led here
+    m_oMovie->Widget().deleteLater();  // this may be called from its own command
   }
-  // A folder may have a "?" in its name, too.
+  // A folder may have a "?" in its name too.
   const auto oEnd =
       QRegularExpression("\\.swf(\\?|$)", QRegularExpression::CaseInsensitiveOption).match(sPath);
   const QString sFile = sPath.left(oEnd.capturedStart(1));
@@ -46,7 +46,7 @@ void ShockwaveFlash::SetCurrent(bool bCurrent) {
 
 bool ShockwaveFlash::event(QEvent* pEvent) {
   if (pEvent->type() == QEvent::ToolTipChange && m_oMovie != nullptr) {
-    m_oMovie->Widget().setToolTip(toolTip());  // which also describes it to a screen reader
+    m_oMovie->Widget().setToolTip(toolTip());  // also describes it to a screen reader
   }
   return QWidget::event(pEvent);
 }

@@ -13,14 +13,14 @@ class ShockwaveFlash : public QWidget {
  public:
   explicit ShockwaveFlash(QWidget* pParent = nullptr);
 
-  /// Plays the movie of that path, which may have parameters after a "?", in the place of the one
-  /// before. Only the file's name counts. A movie that isn't known shows and sends nothing.
+  /// Plays the movie at that path, which may have parameters after a "?", in place of the last one.
+  /// Only the file's name counts. An unknown movie shows and sends nothing.
   void SetMovie(const QString& sPath);
 
-  /// Starts a movie that waits for it; the others play from the beginning.
+  /// Starts a movie that waits for this; the others play at once.
   void Play();
 
-  /// For a button's movie: whether its view is the one on show.
+  /// For a button's movie: whether its view is showing.
   void SetCurrent(bool bCurrent);
 
  signals:

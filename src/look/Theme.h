@@ -1,9 +1,9 @@
-// Dresses the application: its font, palette, style and icon.
+// Sets the application's font, palette, style and icon.
 #pragma once
 
 namespace quillet {
 
-/// Loads the font and gives the application its palette and icon. Once, before the first window.
+/// Loads the font and sets the palette, style and icon. Call once, before the first window.
 void InstallTheme();
 
 }  // namespace quillet

@@ -27,10 +27,10 @@ constexpr double kTwipsOfSpacing = 120.0;
 constexpr double kTwipsOfScrollBar = 165.0;
 constexpr double kTwipsOfLeastThumb = 360.0;
 constexpr double kTwipsOfMark = 165.0;
-constexpr double kTwipsOfMarkAndGap = 255.0;  // to where its words begin
+constexpr double kTwipsOfMarkAndGap = 255.0;  // up to the text
 constexpr double kTwipsOfTextMargin = 90.0;
 constexpr double kTwipsOfArrow = 112.5;
-constexpr double kTwipsOfArrowRight = 165.0;  // from its middle to the edge
+constexpr double kTwipsOfArrowRight = 165.0;  // from its centre to the edge
 constexpr double kIconStroke = 1.8;
 
 struct MessageIcon {
@@ -94,9 +94,10 @@ void DrawButton(QPainter& oPainter, const QStyleOption& oOption) {
   oPainter.restore();
 }
 
-/// The mark of a box or an option, grey with the words of what can't be chosen.
+/// The mark of a box or an option, greyed together with the text when disabled.
 void DrawMark(QPainter& oPainter, const QStyleOption& oOption, const QRectF& oMark, bool bRound) {
-  constexpr double kCorner = 0.22;  // of the mark's size, or a small box would look like an option
+  constexpr double kCorner =
+      0.22;  // of the mark's size; more, and a small box looks like an option
   constexpr double kTickInset = 0.22;
   constexpr double kDotInset = 0.32;
   const bool bOn = (oOption.state & QStyle::State_On) != 0;
@@ -122,7 +123,7 @@ void DrawMark(QPainter& oPainter, const QStyleOption& oOption, const QRectF& oMa
   oPainter.restore();
 }
 
-/// A box or an option: its mark, and its words.
+/// A box or an option: its mark and its text.
 void DrawMarkedButton(QPainter& oPainter, const QStyleOptionButton& oButton, bool bRound) {
   const double fSize = Pixels(kTwipsOfMark);
   const double fTop = std::floor((oButton.rect.height() - fSize) / 2.0);
@@ -132,7 +133,7 @@ void DrawMarkedButton(QPainter& oPainter, const QStyleOptionButton& oButton, boo
             oButton.palette.color(QPalette::WindowText), Qt::TextShowMnemonic);
 }
 
-/// As the numeric boxes are drawn.
+/// Drawn like the numeric boxes.
 void DrawInput(QPainter& oPainter, const QStyleOption& oInput) {
   const bool bFocus = (oInput.state & QStyle::State_HasFocus) != 0;
   oPainter.save();
@@ -141,7 +142,7 @@ void DrawInput(QPainter& oPainter, const QStyleOption& oInput) {
   oPainter.restore();
 }
 
-/// The box of a list to choose from, and its arrow.
+/// A combo box and its arrow.
 void DrawCombo(QPainter& oPainter, const QStyleOptionComboBox& oCombo) {
   const bool bHover = (oCombo.state & QStyle::State_MouseOver) != 0;
   const double fArrow = Pixels(kTwipsOfArrow);
@@ -155,7 +156,7 @@ void DrawCombo(QPainter& oPainter, const QStyleOptionComboBox& oCombo) {
   oPainter.restore();
 }
 
-/// The places of a scroll bar's parts: its thumb, and the ways on both sides of it.
+/// The places of a scroll bar's parts: its thumb, and the track on both sides of it.
 QRect PartOfScrollBar(const QStyleOptionSlider& oBar, QStyle::SubControl ePart) {
   const bool bAcross = oBar.orientation == Qt::Horizontal;
   const int nWay = bAcross ? oBar.rect.width() : oBar.rect.height();
@@ -249,7 +250,7 @@ void ThemeStyle::drawComplexControl(ComplexControl eControl, const QStyleOptionC
 QRect ThemeStyle::subControlRect(ComplexControl eControl, const QStyleOptionComplex* pOption,
                                  SubControl ePart, const QWidget* pWidget) const {
   if (eControl == CC_ComboBox && ePart == SC_ComboBoxEditField) {
-    // The toolkit leaves a pixel on either side of the words.
+    // The toolkit leaves a pixel on either side of the text.
     return pOption->rect.adjusted(Pixels(kTwipsOfTextMargin) - 1, 0,
                                   1 - Pixels(2 * kTwipsOfArrowRight), 0);
   }
@@ -263,7 +264,7 @@ QSize ThemeStyle::sizeFromContents(ContentsType eType, const QStyleOption* pOpti
                                    const QSize& oSize, const QWidget* pWidget) const {
   if (const auto* const pButton = qstyleoption_cast<const QStyleOptionButton*>(pOption);
       pButton != nullptr && (eType == CT_CheckBox || eType == CT_RadioButton)) {
-    // Its words are measured as they are drawn: what the toolkit measures can be a pixel more.
+    // Measure the text as it is drawn: the toolkit's own measure can be a pixel more.
     return pButton->fontMetrics.size(Qt::TextShowMnemonic, pButton->text) +
            QSize(Pixels(kTwipsOfMarkAndGap), 0);
   }
@@ -298,7 +299,7 @@ int ThemeStyle::pixelMetric(PixelMetric eMetric, const QStyleOption* pOption,
   }
 }
 
-/// The words on the buttons of a prompt say it all.
+/// The buttons of a prompt need no icons.
 int ThemeStyle::styleHint(StyleHint eHint, const QStyleOption* pOption, const QWidget* pWidget,
                           QStyleHintReturn* pReturn) const {
   return eHint == SH_DialogButtonBox_ButtonsHaveIcons

@@ -1,5 +1,5 @@
-// How the toolkit's own dialogs are drawn: flat buttons, icons of the program's family, and thin
-// scroll bars without arrows, which are those of the program's windows too.
+// The style of the program's controls and the toolkit's own dialogs: flat buttons, the program's
+// icons, and thin scroll bars without arrows.
 #pragma once
 
 #include <QProxyStyle>

@@ -27,9 +27,9 @@ const QString& Family() {
 
 QFont ThemeFont(double fPoints, QFont::Weight eWeight) {
   QFont oFont(Family());
-  oFont.setPointSizeF(fPoints * Zoom());  // only a size in points may have a fraction
+  oFont.setPointSizeF(fPoints * Zoom());  // only point sizes may be fractional
   oFont.setWeight(eWeight);
-  // Hinting rounds the width of a letter to whole pixels on Windows, too much for a narrow place.
+  // On Windows hinting rounds letters to whole pixels, which is too wide for narrow places.
   oFont.setHintingPreference(QFont::PreferNoHinting);
   return oFont;
 }

@@ -6,7 +6,7 @@
 
 namespace quillet {
 
-/// The program's own font, whose digits are all of one width. `fPoints` is its size at zoom 1.
+/// The program's own font, whose digits all have the same width. `fPoints` is its size at zoom 1.
 [[nodiscard]] QFont ThemeFont(double fPoints, QFont::Weight eWeight = QFont::Medium);
 
 inline constexpr double kTextPoints = 8.0;         ///< captions and inputs

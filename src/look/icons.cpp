@@ -15,7 +15,7 @@ constexpr double kUnits = 24.0;
 enum class Verb {
   Move,    // to x, y
   Line,    // to x, y
-  Round,   // to x, y by way of the corner u, v
+  Round,   // to x, y around the corner u, v
   Box,     // at x, y; u wide and v high
   Circle,  // around x, y with the radius u
   Close,   // back to the latest Move

@@ -24,7 +24,7 @@ enum class Icon {
   Link,
 };
 
-/// Draws an icon into a square, with lines of `fStroke` units; the square's side is 24 units.
+/// Draws an icon into a square, with lines `fStroke` units wide; the square's side is 24 units.
 void DrawIcon(QPainter& oPainter, Icon eIcon, const QRectF& oSquare, const QColor& oColour,
               double fStroke);
 

@@ -7,12 +7,12 @@
 namespace quillet {
 namespace {
 
-/// Where the middle of an edge's line runs, for the line to stay within its place.
+/// The place, shrunk by half a line's width, so that the line around it stays inside.
 QRectF Within(const QRectF& oPlace, double fLine) {
   return oPlace.adjusted(fLine / 2, fLine / 2, -fLine / 2, -fLine / 2);
 }
 
-/// A line through points that are given in units of a square's side, not below 1.5 pixels thick.
+/// A line through points given in units of the square's side, at least 1.5 pixels thick.
 void DrawLine(QPainter& oPainter, const QRectF& oSquare, std::initializer_list<QPointF> aoPoints,
               const QColor& oColour) {
   constexpr double kThickness = 0.22;

@@ -6,7 +6,7 @@
 
 namespace quillet {
 
-/// The one palette. Light on dark; every text has a contrast of 4.5 to 1 or more on its ground.
+/// The only palette. Light on dark; every text contrasts at least 4.5 to 1 with its background.
 enum class Ink {
   Ground,     ///< behind everything
   Panel,      ///< a card
@@ -14,13 +14,13 @@ enum class Ink {
   Field,      ///< inside an input
   FieldEdge,  ///< around an input or a box
   Text,
-  GreyText,   ///< of what can't be chosen
+  GreyText,   ///< disabled
   FaintText,  ///< names of sections
-  Accent,     ///< focus and choice
+  Accent,     ///< focus and selection
   OnAccent,   ///< a mark drawn on the accent
   HeaderBar,
   OnHeaderBar,
-  Hover,       ///< under a button that the pointer is on
+  Hover,       ///< behind a button under the pointer
   Column,      ///< behind the buttons of the main window
   ColumnText,  ///< captions and icons of those buttons
   Warning,
@@ -29,9 +29,9 @@ enum class Ink {
 
 [[nodiscard]] QColor InkColour(Ink eInk);
 
-/// Colours by number, as the settings hold them: red in the low byte, or one of these numbers that
-/// stand for a colour of the theme. The interface is inverted: what is called window text is the
-/// ground, what is called window is the text.
+/// Colours by number, as the settings hold them: red in the low byte, or one of these numbers for a
+/// colour of the theme. The interface is inverted: "window text" is the background, "window" is the
+/// text.
 enum SystemColour : std::uint32_t {
   kColourWindow = 0x80000005,      ///< text
   kColourFrame = 0x80000007,       ///< ground

@@ -163,7 +163,7 @@ void AboutMovie::paintEvent(QPaintEvent* /*pEvent*/) {
   DrawQuill(oPainter, kQuill);
 }
 
-/// The window comes first, since the first tune of all has a library to load.
+/// Lets the window appear first, since the first tune has to load a library.
 void AboutMovie::showEvent(QShowEvent* /*pEvent*/) {
   QTimer::singleShot(0, this, [this] {
     if (isVisible() && !m_oState.bMute) {

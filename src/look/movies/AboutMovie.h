@@ -1,5 +1,5 @@
 // The movie of the about window: the product's name, a scrolling message, tunes and a link. Sends
-// "click" for the link, "music=" with the number of the tune that was chosen, and "mute=true" or
+// "click" for the link, "music=" with the number of the chosen tune, and "mute=true" or
 // "mute=false".
 #pragma once
 
@@ -15,10 +15,10 @@ namespace quillet {
 class MovieButton;
 class ScrollingText;
 
-/// Drawn in its design's 361 by 241 units, scaled to its width. Its tune plays while it is on view.
+/// Designed in 361 by 241 units, scaled to its width. Its tune plays while it is visible.
 class AboutMovie : public QWidget, public Movie {
  public:
-  /// `sParameters` as in aboutParameters.h. Without a message it has one of its own.
+  /// `sParameters` as in aboutParameters.h. Without a message it shows one of its own.
   AboutMovie(const QString& sParameters, QWidget& oStage, SendCommand oSend);
 
   [[nodiscard]] QWidget& Widget() override { return *this; }

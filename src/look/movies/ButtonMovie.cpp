@@ -30,7 +30,7 @@ constexpr std::array<const char*, 7> kCaptions = {"New",  "Calculator", "Wizard"
 
 ButtonMovie::ButtonMovie(Icon eIcon, QWidget& oStage, SendCommand oSend)
     : QPushButton(kCaptions.at(static_cast<std::size_t>(eIcon)), &oStage), m_eIcon(eIcon) {
-  setAutoDefault(true);  // Enter presses it, as the space bar does
+  setAutoDefault(true);  // Enter presses it, like the space bar
   setAttribute(Qt::WA_Hover);
   connect(this, &QPushButton::clicked, this, [oSend = std::move(oSend)] { oSend("click", {}); });
 }
@@ -84,7 +84,7 @@ void ButtonMovie::paintEvent(QPaintEvent* /*pEvent*/) {
   DrawCaption(oPainter, oLook.eCaption, fScale);
 }
 
-/// Not within the painter's scale, since letters are fitted to the pixels of their own size.
+/// Drawn unscaled: letters are fitted to the pixels at their own size.
 void ButtonMovie::DrawCaption(QPainter& oPainter, Ink eCaption, double fScale) const {
   QFont oFont = ThemeFont(kTextPoints, m_bCurrent ? QFont::DemiBold : QFont::Medium);
   oFont.setPointSizeF(oFont.pointSizeF() * fScale / Zoom());

@@ -10,7 +10,7 @@
 
 namespace quillet {
 
-/// Drawn in its design's 72 by 72 units, scaled to its size.
+/// Designed in 72 by 72 units, scaled to its size.
 class ButtonMovie : public QPushButton, public Movie {
  public:
   ButtonMovie(Icon eIcon, QWidget& oStage, SendCommand oSend);

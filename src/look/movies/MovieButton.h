@@ -9,7 +9,7 @@
 
 namespace quillet {
 
-/// Works by the mouse, by Space and Enter. One that is checked is drawn in the accent.
+/// Works with the mouse, Space and Enter. A checked one is drawn in the accent.
 class MovieButton : public QPushButton {
   Q_OBJECT
 
@@ -20,7 +20,7 @@ class MovieButton : public QPushButton {
   /// Its size relative to the design of the movie that it is in.
   void SetScale(double fScale);
 
-  /// The width that its words and its icon take, in pixels.
+  /// The width of its text and icon, in pixels.
   [[nodiscard]] int WidthOfWords() const;
 
  protected:

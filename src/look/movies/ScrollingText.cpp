@@ -18,7 +18,7 @@ namespace {
 constexpr double kPoints = 9.0;
 constexpr double kSpeed = 22.0;  // units of the design a second
 constexpr double kRestAtFirst = 2.0;
-constexpr double kFade = 20.0;  // units at either end, where lines come and go
+constexpr double kFade = 20.0;  // units at either end, where lines fade in and out
 constexpr double kMargin = 3.0;
 constexpr int kTick = 16;         // milliseconds
 constexpr double kLongest = 0.1;  // seconds that one tick may count for
@@ -53,7 +53,7 @@ void ScrollingText::Advance() {
   }
 }
 
-/// From its beginning until the last line has gone, then in again from below.
+/// Scrolls until the last line has gone, then comes in again from below.
 void ScrollingText::Move(double fPixels) {
   const double fHeight = LineHeight() * static_cast<double>(m_asLines.size());
   const double fTop = kFade * m_fScale;
@@ -90,7 +90,7 @@ void ScrollingText::Wrap() {
   update();
 }
 
-/// Whole pixels, on which letters are sharp.
+/// Whole pixels, so that letters are sharp.
 void ScrollingText::paintEvent(QPaintEvent* /*pEvent*/) {
   QPainter oPainter(this);
   const double fLine = LineHeight();

@@ -1,5 +1,5 @@
 // A message that scrolls upward, over and over. The wheel and the arrow keys move it; a click or
-// the space bar holds it and lets it go.
+// the space bar pauses and resumes it.
 #pragma once
 
 #include <QElapsedTimer>
@@ -13,13 +13,13 @@ class ScrollingText : public QWidget {
   Q_OBJECT
 
  public:
-  /// Each "<br>" of the text begins a new line; all else is shown as it is.
+  /// Each "<br>" in the text begins a new line; everything else is shown as it is.
   ScrollingText(const QString& sText, QWidget* pParent);
 
   /// Its size relative to the design of the movie that it is in.
   void SetScale(double fScale);
 
-  /// How far the text has come since its beginning, in pixels.
+  /// How far the text has scrolled, in pixels.
   [[nodiscard]] double Offset() const { return m_fOffset; }
 
  protected:
@@ -43,7 +43,7 @@ class ScrollingText : public QWidget {
   QElapsedTimer m_oClock;
   double m_fScale = 1.0;
   double m_fOffset = 0.0;
-  double m_fRest = 0.0;  ///< seconds for which it stands still yet
+  double m_fRest = 0.0;  ///< seconds before it moves again
   bool m_bHeld = false;
 };
 

@@ -52,7 +52,7 @@ double LineTip(double fNow) {
   return kNameLeft + (kLineEnd - kNameLeft) * Eased(fNow, kComes, kWritten);
 }
 
-/// From beyond the upper right corner to where the line begins, and along with it. Its hand moves.
+/// Comes in from beyond the upper right corner, then follows the line, wavering as a hand does.
 QPointF NibAt(double fNow) {
   const double fAway = 1.0 - Eased(fNow, 0.0, kComes);
   const double fWriting =
@@ -94,7 +94,7 @@ void SplashMovie::End() {
   Tell(m_bStopped, "stop");
 }
 
-/// Each is told once.
+/// Sends each command once.
 void SplashMovie::Tell(bool& bTold, const char* sCommand) {
   if (!std::exchange(bTold, true)) {
     m_oSend(sCommand, {});
@@ -138,10 +138,10 @@ void SplashMovie::DrawGround(QPainter& oPainter) const {
   oPainter.drawRect(QRectF({}, kSize).adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
-/// Each letter rises as the nib comes by.
+/// Each letter rises as the nib passes it.
 void SplashMovie::DrawName(QPainter& oPainter, double fScale) const {
   constexpr double kRise = 10.0;
-  constexpr double kReach = 70.0;  // how far the nib has gone on when the letter stands
+  constexpr double kReach = 70.0;  // how far the nib is past a letter when it is in place
   const QString sName = "Quillet";
   const QFont oFont = MovieFont(kNamePoints, QFont::Bold, fScale);
   const QFontMetricsF oMetrics(oFont);
@@ -149,7 +149,7 @@ void SplashMovie::DrawName(QPainter& oPainter, double fScale) const {
   oPainter.setPen(InkColour(Ink::Text));
   for (int i = 0; i < sName.size(); ++i) {
     const double fLeft = kNameLeft + oMetrics.horizontalAdvance(sName.left(i)) / fScale;
-    // The last ones have no more of the line before them, and stand when it is written.
+    // The line ends before the nib is past the last letters: they are in place once it is written.
     const double fSeen = std::max(Eased(LineTip(m_fNow), fLeft, fLeft + kReach),
                                   Eased(m_fNow, kWritten - 0.25, kWritten));
     oPainter.setOpacity(fSeen);
@@ -168,7 +168,7 @@ void SplashMovie::DrawLine(QPainter& oPainter) const {
                     QPointF(std::max(LineTip(m_fNow), kNameLeft + kLineWidth / 2.0), kLineTop));
 }
 
-/// What it is for, and below it the edition and the version.
+/// The slogan, and below it the edition and the version.
 void SplashMovie::DrawWords(QPainter& oPainter, double fScale) const {
   constexpr double kRise = 6.0;
   const double fSeen = Eased(m_fNow, kWordsCome, kWordsStand);

@@ -1,5 +1,5 @@
-// The movie of the start: a quill writes the product's name. Sends "start" when it begins, and
-// "stop" at its end, which any key or click brings forward.
+// The splash movie: a quill writes the product's name. Sends "start" when it begins and "stop" when
+// it ends, which any key or click does at once.
 #pragma once
 
 #include <QElapsedTimer>
@@ -10,8 +10,8 @@
 
 namespace quillet {
 
-/// Drawn in its design's 553 by 305 units, scaled to its size. Begins when it is played, and keeps
-/// its last picture. A key or click ends it; those that come later are its window's.
+/// Designed in 553 by 305 units, scaled to its size. Begins when it is played, and keeps showing
+/// its last picture. A key or click ends it; later ones go to its window.
 class SplashMovie : public QWidget, public Movie {
  public:
   /// `sParameters` is "Version=" with the edition: "UK", "US" or "EU".
@@ -38,7 +38,7 @@ class SplashMovie : public QWidget, public Movie {
   SendCommand m_oSend;
   QTimer m_oTicks;
   QElapsedTimer m_oClock;
-  double m_fNow = 0.0;  ///< seconds since the beginning
+  double m_fNow = 0.0;  ///< seconds since it began
   bool m_bStarted = false;
   bool m_bStopped = false;
 };

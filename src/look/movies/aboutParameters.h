@@ -1,4 +1,4 @@
-// What the about movie is told.
+// The parameters of the about movie.
 #pragma once
 
 #include <QString>
@@ -12,7 +12,7 @@ struct AboutParameters {
 };
 
 /// Reads "AboutInfo=" with the message, "&music=" with a tune's number and "&mute=" with "true" or
-/// "false". The message comes as it is, whatever it holds, so the other two are looked for at the
+/// "false". The message isn't escaped and may hold anything, so the other two are looked for at the
 /// end. What can't be understood counts as the first tune, not mute, or no message.
 [[nodiscard]] AboutParameters ParseAboutParameters(const QString& sParameters);
 

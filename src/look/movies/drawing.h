@@ -1,4 +1,4 @@
-// What the larger movies draw with.
+// Drawing routines of the larger movies.
 #pragma once
 
 #include <QFont>
@@ -14,7 +14,7 @@ namespace quillet {
 /// The quill of the program's icon, with the tip of its nib in the lower left corner.
 void DrawQuill(QPainter& oPainter, const QRectF& oPlace);
 
-/// How far something has come at `fNow` that begins and ends at those times: 0 to 1, slow at both
+/// The progress at `fNow` of something that begins and ends at those times: 0 to 1, slow at both
 /// ends.
 [[nodiscard]] double Eased(double fNow, double fBegin, double fEnd);
 

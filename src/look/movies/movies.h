@@ -21,13 +21,13 @@ class Movie {
   virtual ~Movie() = default;
 
   [[nodiscard]] virtual QWidget& Widget() = 0;
-  /// For a movie that waits to be played.
+  /// For a movie that waits until it is played.
   virtual void Play() {}
-  /// For a button: whether its view is the one on show.
+  /// For a button: whether its view is showing.
   virtual void SetCurrent(bool /*bCurrent*/) {}
 };
 
-/// Makes the movie of that file name, in any case, on a stage; null if there is none.
+/// Makes the movie with that file name, in any case, on a stage; null if there is none.
 /// `sParameters` is what follows the "?" of its path.
 [[nodiscard]] Movie* MakeMovie(const QString& sFileName, const QString& sParameters,
                                QWidget& oStage, SendCommand oSend);
