@@ -13,7 +13,7 @@ class ComboBox : public QComboBox, public Control {
   [[nodiscard]] const char* TypeName() const override { return "ComboBox"; }
 
  protected:
-  /// Goes through the list while it has the focus; else the wheel is the page's.
+  /// Steps through the list while it has the focus; otherwise the wheel scrolls the page.
   void wheelEvent(QWheelEvent* pEvent) override;
 };
 

@@ -18,7 +18,7 @@ void Control::Place(int nLeft, int nTop, int nWidth, int nHeight) {
   m_nTop = nTop;
   m_nWidth = nWidth;
   m_nHeight = nHeight;
-  // From edge to edge, so that neighbours meet at every zoom.
+  // Convert the edges, not the size, so that neighbours meet at every zoom.
   const QPoint oTopLeft(Pixels(nLeft), Pixels(nTop));
   QRect oPlace(oTopLeft, QPoint(Pixels(nLeft + nWidth) - 1, Pixels(nTop + nHeight) - 1));
   oPlace.setWidth(std::max(oPlace.width(), PixelsForCaption()));

@@ -1,4 +1,4 @@
-// What a section reads and writes of any control, whatever the toolkit calls it.
+// What a section reads and writes of any control, whatever its toolkit class.
 #pragma once
 
 #include <QString>
@@ -11,8 +11,8 @@ class QWidget;
 
 namespace quillet {
 
-/// Mixed into a widget that it is part of. Places are whole twips and are the truth; the widget's
-/// pixels follow them at the current zoom, and nothing is ever read back from pixels.
+/// A mixin for widgets. Places are kept in whole twips; the widget's pixels follow from them at the
+/// current zoom, and nothing is ever read back from pixels.
 class Control {
  public:
   Control(const Control&) = delete;
@@ -39,7 +39,7 @@ class Control {
   void SetHeight(int nHeight) { Place(m_nLeft, m_nTop, m_nWidth, nHeight); }
   void Place(int nLeft, int nTop, int nWidth, int nHeight);
 
-  /// The control's own flag: a control that is visible in a hidden panel can't be seen.
+  /// The control's own flag: true even if a hidden panel hides the control.
   [[nodiscard]] bool Visible() const { return m_bVisible; }
   void SetVisible(bool bVisible);
 
@@ -50,27 +50,27 @@ class Control {
   [[nodiscard]] std::uint32_t ForeColor() const { return m_nForeColor; }
   virtual void SetForeColor(std::uint32_t nColour);
 
-  /// The words on it; a label, box or option only. "&&" stands for one ampersand, a single "&"
-  /// marks the access key.
+  /// The control's text, if its kind has any. "&&" is an ampersand, a single "&" marks the access
+  /// key.
   [[nodiscard]] virtual QString Caption() const { return {}; }
   virtual void SetCaption(const QString& /*sCaption*/) {}
 
-  /// The control, a Frame or a panel, that this one stands in; null for a window.
+  /// The Frame or panel that contains this control; null for a window.
   [[nodiscard]] Control* Container() const;
 
   [[nodiscard]] QWidget& Widget() const { return *m_oWidget; }
 
-  /// Takes its place and its font anew, after a change of zoom.
+  /// Updates its place and font after a change of zoom.
   virtual void Rescale();
 
  protected:
   explicit Control(QWidget& oWidget) : m_oWidget(&oWidget) {}
 
-  /// How wide the widget must be for its caption not to be cut off: where the design has been too
-  /// narrow for the font, the widget reaches beyond its place to the right.
+  /// The width that the whole caption needs: where the design is too narrow for the font, the
+  /// widget extends beyond its place to the right.
   [[nodiscard]] virtual int PixelsForCaption() const { return 0; }
 
-  /// Called at the end of Place, for what follows the control's size.
+  /// Called at the end of Place, for anything that depends on the control's size.
   virtual void Placed() {}
 
  private:
@@ -96,10 +96,10 @@ class Choice : public Control {
   using Control::Control;
 };
 
-/// A control's caption as it reads, without the mark of its access key.
+/// A control's caption as shown, without the mark of its access key.
 [[nodiscard]] QString WordsOf(const Control& oControl);
 
-/// Rescale of every control below a widget.
+/// Rescales every control below a widget.
 void RescaleAll(QWidget& oWidget);
 
 }  // namespace quillet

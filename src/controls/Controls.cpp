@@ -49,7 +49,7 @@ void Label::Rescale() {
 OptionButton::OptionButton(QWidget* pParent) : MarkedButton(pParent) {
   setAutoExclusive(false);
   OptionInterface::Install();
-  // Before any other listener, so that a click finds one option chosen at the most.
+  // Connect before any other listener, so that a click finds at most one option chosen.
   connect(this, &QAbstractButton::toggled, this, &OptionButton::PutOutOthers);
 }
 

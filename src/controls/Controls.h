@@ -18,7 +18,7 @@ class Label : public QLabel, public Control {
   [[nodiscard]] QString Caption() const override { return m_sCaption; }
   void SetCaption(const QString& sCaption) override;
   void SetForeColor(std::uint32_t nColour) override;
-  /// Its own size and weight at zoom 1.
+  /// Its size and weight at zoom 1.
   void SetFontSize(double fPoints, QFont::Weight eWeight);
   void Rescale() override;
 
@@ -33,8 +33,7 @@ class Label : public QLabel, public Control {
   QFont::Weight m_eWeight = QFont::Medium;
 };
 
-/// One of the toolkit's buttons with a mark before its words, which takes clicks in all of its
-/// place.
+/// A toolkit button with a mark before its text, which can be clicked anywhere in its place.
 template <typename Kind>
 class MarkedButton : public Kind, public Choice {
  public:
@@ -65,8 +64,8 @@ class CheckBox : public MarkedButton<QCheckBox> {
   [[nodiscard]] const char* TypeName() const override { return "CheckBox"; }
 };
 
-/// One of the options of its container. Unlike the toolkit's it can be unset by code, so that none
-/// is chosen. Raises toggled() as its click; an option that another one puts out raises nothing.
+/// One of the options of its container. Unlike the toolkit's, it can be unset by code, so that none
+/// is chosen. Raises toggled() as its click; an option that another one unsets raises nothing.
 class OptionButton : public MarkedButton<QRadioButton> {
   Q_OBJECT
 
@@ -84,7 +83,7 @@ class OptionButton : public MarkedButton<QRadioButton> {
   void ChooseNeighbour(int nStep);
 };
 
-/// Holds other controls, which can't be used while it is disabled.
+/// Holds other controls, and disables them with itself.
 class Frame : public QFrame, public Control {
  public:
   explicit Frame(QWidget* pParent) : QFrame(pParent), Control(static_cast<QWidget&>(*this)) {}

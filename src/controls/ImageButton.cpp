@@ -115,7 +115,7 @@ QColor ImageButton::WordsColour() const {
 void ImageButton::paintEvent(QPaintEvent* /*pEvent*/) {
   constexpr double kRadius = 5.0;
   constexpr double kRingRadius = 7.5;
-  constexpr double kRing = 2.0;  // how far the focus line lies outside
+  constexpr double kRing = 2.0;  // how far outside the focus line is
   const QRectF oFace = Face();
   QPainter oPainter(this);
   oPainter.setRenderHint(QPainter::Antialiasing);
@@ -128,7 +128,7 @@ void ImageButton::paintEvent(QPaintEvent* /*pEvent*/) {
   DrawLabel(oPainter, oFace);
 }
 
-/// The words and the picture, as one in the middle of the face, or at its left.
+/// The text and the picture together, centred on the face or at its left.
 void ImageButton::DrawLabel(QPainter& oPainter, const QRectF& oFace) const {
   const int nMnemonic = style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this) != 0
                             ? Qt::TextShowMnemonic

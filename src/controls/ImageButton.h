@@ -1,4 +1,4 @@
-// A button that is drawn as what it does.
+// A button with text, a picture, or both.
 #pragma once
 
 #include <QAbstractButton>
@@ -7,17 +7,17 @@
 
 namespace quillet {
 
-/// What stands beside a button's words.
+/// The picture beside a button's text.
 enum class ButtonPicture {
   None,
-  Back,    ///< a chevron to the left, before the words
-  Next,    ///< a chevron to the right, behind them
-  Finish,  ///< a tick, before them
+  Back,    ///< a left chevron, before the text
+  Next,    ///< a right chevron, after the text
+  Finish,  ///< a tick, before the text
   About,
   Settings,
 };
 
-/// Works by the mouse, by Space and Enter, and by the access key of its caption.
+/// Works with the mouse, Space and Enter, and the access key in its caption.
 class ImageButton : public QAbstractButton, public Control {
  public:
   explicit ImageButton(QWidget* pParent);
@@ -29,16 +29,16 @@ class ImageButton : public QAbstractButton, public Control {
   [[nodiscard]] ButtonPicture Picture() const { return m_ePicture; }
   void SetPicture(ButtonPicture ePicture);
 
-  /// The one that goes on: drawn in the accent.
+  /// The main button of its window: drawn in the accent.
   void SetPrimary(bool bPrimary);
 
-  /// One that chooses a page: without an edge, its words at the left, and lit while it is checked.
+  /// A button that selects a page: no edge, text at the left, and highlighted while checked.
   void SetPage(bool bPage);
 
-  /// How much of the right side stays free, in twips, where a neighbour's place begins early.
+  /// How much to leave free at the right, in twips, where a neighbour overlaps its place.
   void SetGap(int nGap);
 
-  /// Its face begins at the very left of the place, and the line of the focus reaches beyond it.
+  /// Its face begins at the very left of its place, and the focus line extends beyond it.
   void SetFlush(bool bFlush);
 
   [[nodiscard]] QSize sizeHint() const override;

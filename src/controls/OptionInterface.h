@@ -1,4 +1,4 @@
-// What a screen reader is told of an option. The toolkit takes one that can be unset by code for a
+// What a screen reader is told about an option. The toolkit mistakes one that code can unset for a
 // check box.
 #pragma once
 
@@ -11,7 +11,7 @@ class OptionInterface : public QAccessibleWidget {
   explicit OptionInterface(QWidget* pOption)
       : QAccessibleWidget(pOption, QAccessible::RadioButton) {}
 
-  /// Answers for every OptionButton from now on.
+  /// From now on, describes every OptionButton.
   static void Install();
 
   [[nodiscard]] QString text(QAccessible::Text eText) const override;

@@ -7,7 +7,7 @@
 
 namespace quillet {
 
-/// Raises valueChanged() once a drag of its thumb has ended, and else at each step.
+/// Raises valueChanged() when a drag of its thumb ends, and otherwise at each step.
 class ScrollBar : public QScrollBar, public Control {
  public:
   explicit ScrollBar(QWidget* pParent);

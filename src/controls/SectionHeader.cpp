@@ -10,7 +10,7 @@
 namespace quillet {
 namespace {
 
-// What the tag says of a drag.
+// The tag, by whether the header is being dragged.
 constexpr const char* kAtRest = "0";
 constexpr const char* kDragged = "1";
 

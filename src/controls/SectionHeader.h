@@ -8,19 +8,19 @@
 
 namespace quillet {
 
-/// Any button of the mouse drags. Its tag is "1" while it is being dragged, and else "0".
+/// Any mouse button drags. Its tag is "1" while it is being dragged, else "0".
 class SectionHeader : public QWidget, public Control {
   Q_OBJECT
 
  public:
   explicit SectionHeader(QWidget* pParent);
   [[nodiscard]] const char* TypeName() const override { return "Image"; }
-  /// The words on it, which the design leaves out: the section's name.
+  /// The text on it, which the design leaves out: the section's name.
   void SetCaption(const QString& sCaption) override;
   [[nodiscard]] QString Caption() const override { return m_sCaption; }
 
  signals:
-  /// It is being dragged: how far the pointer is from where it was pressed, in twips.
+  /// While it is dragged: how far the pointer is from where it was pressed, in twips.
   void Moved(float fX, float fY);
 
  protected:

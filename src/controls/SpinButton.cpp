@@ -15,7 +15,7 @@ constexpr int kRepeat = 70;
 void DrawTriangle(QPainter& oPainter, const QRectF& oRect, bool bUp) {
   const double fHalfWidth = oRect.width() * 0.16;
   const double fHalfHeight = fHalfWidth * (bUp ? -0.7 : 0.7);
-  // A little towards the middle, where the two arrows belong together.
+  // A little towards the middle, so that the two arrows look like a pair.
   const QPointF oMiddle = oRect.center() + QPointF(0, bUp ? 1.0 : -1.0);
   oPainter.drawPolygon(QPolygonF{oMiddle + QPointF(-fHalfWidth, -fHalfHeight),
                                  oMiddle + QPointF(fHalfWidth, -fHalfHeight),
@@ -53,7 +53,7 @@ void SpinButton::paintEvent(QPaintEvent* /*pEvent*/) {
   oPainter.setRenderHint(QPainter::Antialiasing);
   oPainter.setPen(Qt::NoPen);
   if (isEnabled() && m_eHover != Arrow::None) {
-    // Clear of the outline around the whole box.
+    // Keep clear of the outline around the whole box.
     const QRectF oInside = QRectF(rect()).adjusted(1, 2, -2, -2);
     const Ink eInk = m_ePressed == m_eHover ? Ink::FieldEdge : Ink::Hairline;
     oPainter.fillRect(oInside & QRectF(RectOf(m_eHover)), InkColour(eInk));
@@ -101,7 +101,7 @@ void SpinButton::changeEvent(QEvent* pEvent) {
   QWidget::changeEvent(pEvent);
 }
 
-/// Goes on only while the pointer is on the arrow that was pressed.
+/// Steps only while the pointer is on the arrow that was pressed.
 void SpinButton::timerEvent(QTimerEvent* /*pEvent*/) {
   m_oRepeat.start(kRepeat, this);
   if (m_eHover == m_ePressed) {

@@ -1,4 +1,4 @@
-// Two arrows, one above the other, that step a value round and round.
+// Two arrows, one above the other, that step a value and wrap round.
 #pragma once
 
 #include <QBasicTimer>
@@ -8,7 +8,7 @@
 
 namespace quillet {
 
-/// It never takes the focus. Held down, it goes on stepping.
+/// Never takes the focus. Keeps stepping while it is held down.
 class SpinButton : public QWidget {
   Q_OBJECT
 
@@ -18,7 +18,7 @@ class SpinButton : public QWidget {
   [[nodiscard]] const SpinRange& Range() const { return m_oRange; }
   [[nodiscard]] int Value() const { return m_nValue; }
 
-  /// Goes one increment up or down, and beyond an end on from the other one.
+  /// Goes one increment up or down, wrapping round at the ends.
   void Step(bool bUp);
 
  signals:

@@ -1,4 +1,4 @@
-// How views and windows make their controls and place them.
+// How views and windows make and place their controls.
 #pragma once
 
 #include <span>
@@ -8,7 +8,7 @@
 
 namespace quillet {
 
-/// Makes a control with a name, for its parent to own.
+/// Makes a named control, which its parent owns.
 template <typename Kind, typename... Arguments>
 Kind* Make(const char* sName, Arguments&&... oArguments) {
   auto* const pControl = new Kind(std::forward<Arguments>(oArguments)...);
