@@ -50,7 +50,7 @@ int main(int nArguments, char** asArguments) {
   }
 
   QApplication::setQuitOnLastWindowClosed(true);
-  // A start that had to close the window again has nothing left to run.
+  // If the start had to close the window, there is nothing left to run.
   const int nStatus = g_frmMain != nullptr ? QApplication::exec() : 0;
   g_frmMain.reset();
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

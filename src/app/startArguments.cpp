@@ -16,7 +16,7 @@
 namespace quillet {
 namespace {
 
-/// A word of the command line, and its bytes where they aren't text that the toolkit can hold.
+/// An argument, and its bytes, which may not be text that the toolkit can hold.
 struct Word {
   QString sText;
   std::string sBytes;
@@ -32,8 +32,8 @@ std::vector<Word> WordsOf(int nArguments, char** asArguments) {
   return aoWords;
 }
 
-/// The switch of the log may stand anywhere, in any spelling that the log itself accepts. Other
-/// switches in the manner of "/x" are of no use here; a missing auction is one that is told of.
+/// The log's switch may be anywhere, in any case. Other switches like "/x" mean nothing here; a
+/// missing auction isn't skipped but reported.
 bool IsPassedOver(const Word& oWord) {
   const bool bLog = oWord.sText.contains("DEBUG=TRUE", Qt::CaseInsensitive);
   const bool bSwitch =
@@ -41,7 +41,7 @@ bool IsPassedOver(const Word& oWord) {
   return (bLog || bSwitch) && !FileExists(oWord.sBytes);
 }
 
-/// What the toolkit takes for itself later, with one dash or two.
+/// The options that the toolkit handles later, with one dash or two.
 void AddOptionsOfToolkit(QCommandLineParser& oParser) {
   constexpr const char* kWithValue[] = {
       "platform", "platformpluginpath", "platformtheme", "plugin",  "qwindowgeometry", "geometry",
@@ -62,7 +62,7 @@ void AddOptionsOfToolkit(QCommandLineParser& oParser) {
   oParser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
 }
 
-/// Answers what needs no window, and ends the process then.
+/// Handles the options that need no window, and then ends the process.
 QStringList FilesAmong(const std::vector<Word>& aoWords) {
   QCommandLineParser oParser;
   oParser.setApplicationDescription("Works out what a sale on eBay costs, and what it leaves you.");

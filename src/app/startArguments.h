@@ -5,8 +5,8 @@
 
 namespace quillet {
 
-/// The auction file to open after the start, as an absolute path; empty for none. Answers --help,
-/// --version and mistakes by itself, and ends the process then; no screen is needed for that.
+/// The auction file to open after the start, as an absolute path; empty for none. Handles --help,
+/// --version and mistakes itself and then ends the process, without needing a screen.
 [[nodiscard]] std::string AuctionFileToOpen(int& nArguments, char** asArguments);
 
 }  // namespace quillet

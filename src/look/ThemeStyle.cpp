@@ -96,8 +96,7 @@ void DrawButton(QPainter& oPainter, const QStyleOption& oOption) {
 
 /// The mark of a box or an option, greyed together with the text when disabled.
 void DrawMark(QPainter& oPainter, const QStyleOption& oOption, const QRectF& oMark, bool bRound) {
-  constexpr double kCorner =
-      0.22;  // of the mark's size; more, and a small box looks like an option
+  constexpr double kCorner = 0.22;  // of the mark's size; a rounder box would look like an option
   constexpr double kTickInset = 0.22;
   constexpr double kDotInset = 0.32;
   const bool bOn = (oOption.state & QStyle::State_On) != 0;

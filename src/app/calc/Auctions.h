@@ -16,11 +16,11 @@ class Auctions {
   /// The names must live as long as this.
   explicit Auctions(std::span<const std::string> asFiles) : m_asFiles(asFiles) {}
 
-  /// Waits until it is clear whether there is more than one. To be asked before the first is taken.
+  /// Waits until it is clear whether there is more than one. Call it before the first Take.
   [[nodiscard]] bool AreSeveral();
 
-  /// Fills `oBatch` with what is to be done next; false if there is no more. Waits for the first
-  /// line of a stream, and takes those behind it only if they are there.
+  /// Fills `oBatch` with the next auctions; false if there are no more. Waits for the first line of
+  /// a stream, and takes the lines after it only if they are already there.
   [[nodiscard]] bool Take(Batch& oBatch);
 
  private:
@@ -31,7 +31,7 @@ class Auctions {
 
   std::span<const std::string> m_asFiles;  ///< what is left
   LineStream m_oLines{kStandardInput};
-  std::int64_t m_nLines = 0;  ///< taken of the stream
+  std::int64_t m_nLines = 0;  ///< taken from the stream
 };
 
 }  // namespace quillet

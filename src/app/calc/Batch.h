@@ -1,4 +1,4 @@
-// Auctions that are worked on at one go: some lines of a stream, or some files.
+// Auctions that are worked on together: some lines of a stream, or some files.
 #pragma once
 
 #include <cstddef>
@@ -16,20 +16,20 @@ struct Complaint {
 };
 
 struct Batch {
-  // What is to be done.
+  // The input.
   std::span<const std::string> asFiles;  ///< their paths
-  std::string sLines;                    ///< whole lines, with an LF behind each
+  std::string sLines;                    ///< whole lines, each ending with an LF
   std::int64_t nFirstLine = 0;           ///< the number of the first
   bool bOverlong = false;                ///< the last line, left empty, is too long for an auction
   std::string sFailure;                  ///< why the stream ended early; empty if it didn't
 
-  // What comes out.
+  // The output.
   std::string sResults;
   std::vector<Complaint> aoComplaints;
   std::int64_t nAuctions = 0;
   bool bFailed = false;
 
-  /// Keeps the memory of its texts, for what comes next.
+  /// Keeps the memory of its texts for reuse.
   void Clear();
 };
 

@@ -26,8 +26,8 @@ void Jobs::Run() {
   }
 }
 
-/// After a failure another job may wait for input that never comes, and nothing wakes it: so the
-/// program ends here.
+/// After a failure the program ends here, since another job may be waiting for input that never
+/// comes, and nothing could wake it.
 void Jobs::Work() {
   try {
     Renderer oRenderer(m_oOptions);
@@ -61,7 +61,7 @@ Jobs::Slot* Jobs::Take() {
   return &oSlot;
 }
 
-/// A system that gives no more threads has the work done by those that run.
+/// If the system has no more threads, those that run do all the work.
 void Jobs::StartAnother() {
   try {
     m_aoThreads.emplace_back([this] { Work(); });
@@ -75,7 +75,7 @@ void Jobs::Finish(Slot& oSlot) {
   std::unique_lock oLock(m_oPrinting);
   oSlot.bReady = true;
   if (m_bPrinting) {
-    return;  // whoever prints comes to it
+    return;  // the job that is printing gets to it
   }
   m_bPrinting = true;
   for (Slot* pNext = &SlotOf(m_nPrinted); pNext->bReady; pNext = &SlotOf(m_nPrinted)) {

@@ -1,4 +1,4 @@
-// Threads that work on batches side by side; the results come out in order.
+// Threads that work on batches in parallel; the results come out in order.
 #pragma once
 
 #include <condition_variable>
@@ -13,14 +13,14 @@
 
 namespace quillet {
 
-/// Each job takes a batch, works on it, and prints it if its turn has come, with those behind it
-/// that are ready. There is a fixed number of batches, so memory doesn't grow with the work.
+/// Each job takes a batch, works on it, and prints it when its turn has come, along with any after
+/// it that are ready. The number of batches is fixed, so memory doesn't grow with the work.
 class Jobs {
  public:
-  /// All must live as long as this. The options' form is not the automatic one.
+  /// All must live as long as this. The options' form must not be the automatic one.
   Jobs(const Options& oOptions, Auctions& oAuctions, Printer& oPrinter);
 
-  /// Works on this thread too, and returns when all is printed. A failure to print ends the
+  /// Works on this thread too, and returns when everything is printed. A failure to print ends the
   /// program.
   void Run();
 
@@ -31,7 +31,7 @@ class Jobs {
   };
 
   void Work();
-  /// The next batch to work on, null if there is no more.
+  /// The next batch to work on; null if there are no more.
   Slot* Take();
   void StartAnother();
   void Finish(Slot& oSlot);

@@ -16,18 +16,18 @@ class LineStream {
  public:
   explicit LineStream(int nHandle) : m_nHandle(nHandle) {}
 
-  /// True if the next line is there, so that nothing has to be waited for.
+  /// True if the next line is there, without waiting.
   [[nodiscard]] bool IsReady();
 
-  /// Waits for the next line; false if there is none. Error() tells if the end came early.
+  /// Waits for the next line; false if there is none. Error() says whether the stream ended early.
   [[nodiscard]] bool Await();
 
-  /// Waits until it is clear whether another line stands behind the next one.
+  /// Waits until it is clear whether another line follows the next one.
   [[nodiscard]] bool AwaitSecond();
 
   /// The next line, which must be there, without its end (LF or CR LF; the last line needs none).
-  /// Valid until anything else is asked. Of a line that is longer than kLongestAuction nothing is
-  /// kept, and `bOverlong` is set.
+  /// Valid until the next call. A line longer than kLongestAuction is dropped, and sets
+  /// `bOverlong`.
   [[nodiscard]] std::string_view Take(bool& bOverlong);
 
   [[nodiscard]] const std::error_code& Error() const { return m_oError; }
@@ -35,7 +35,7 @@ class LineStream {
  private:
   enum class State { Nothing, Begun, Whole, Taken };
 
-  /// Replaces what is left by more input; false at the end.
+  /// Replaces what is left with more input; false at the end.
   bool Fill();
   /// Moves what is left of the current line to m_sLine.
   void TakePiece();
@@ -43,7 +43,7 @@ class LineStream {
   int m_nHandle;
   std::vector<char> m_acBlock = std::vector<char>(std::size_t{1} << 16U);
   std::string_view m_sLeft;  ///< what is left of the block
-  std::string m_sLine;       ///< the next line, as far as it has come
+  std::string m_sLine;       ///< the next line, as far as it has been read
   State m_eState = State::Nothing;
   bool m_bOverlong = false;
   bool m_bEnded = false;

@@ -17,7 +17,7 @@ inline constexpr const char* kStandardInputName = "-";
 
 struct Options {
   std::optional<std::string> sPrices;  ///< a fee schedule other than the one beside the program
-  std::optional<std::string> sCheck;   ///< an update file to check, and nothing else to do
+  std::optional<std::string> sCheck;   ///< an update file to check; then nothing else is done
   bool bBreakEven = false;             ///< asks for the price that breaks even
   std::optional<Goal> oGoal;           ///< asks for the price that meets it
   Format eFormat = Format::Automatic;
@@ -25,8 +25,8 @@ struct Options {
   std::vector<std::string> asFiles;  ///< never empty unless sCheck is set
 };
 
-/// Reads the command line. If it asks for help or is wrong, says so and sets `nStatus`, which the
-/// program then ends with; the options are then nothing.
+/// Reads the command line. If it asks for help or is wrong, prints that, sets `nStatus`, with which
+/// the program then ends, and returns nothing.
 [[nodiscard]] std::optional<Options> ReadOptions(int nArguments, char** asArguments, int& nStatus);
 
 }  // namespace quillet

@@ -23,7 +23,7 @@ void Printer::Print(const Batch& oBatch) {
   m_oProgress.Advance(oBatch.nAuctions);
 }
 
-/// The first result needs nothing to part it from others.
+/// The first result needs no separator.
 void Printer::Write(std::string_view sResults) {
   if (!sResults.empty()) {
     sResults.remove_prefix(std::exchange(m_nToSkip, 0));

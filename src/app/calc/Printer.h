@@ -1,4 +1,4 @@
-// Puts out the results of batches, and what there is to complain about in them.
+// Prints the results of batches, and the complaints about them.
 #pragma once
 
 #include <cstddef>
@@ -13,10 +13,10 @@ namespace quillet {
 
 class Printer {
  public:
-  /// Prints what stands before the first result of such a report.
+  /// Prints the report's header.
   explicit Printer(const Report& oReport);
 
-  /// The next batch; an OutputFailure if its results can't be written.
+  /// Prints the next batch; throws an OutputFailure if its results can't be written.
   void Print(const Batch& oBatch);
 
   [[nodiscard]] Status HowItWent() const { return m_eStatus; }

@@ -1,12 +1,12 @@
-// One line on standard error that tells how far a long run has come.
+// One line on standard error that shows how far a long run has got.
 #pragma once
 
 #include <cstdint>
 
 namespace quillet {
 
-/// Shows itself only where somebody is watching: when standard error is a terminal, the results go
-/// elsewhere, and the work has taken a second.
+/// Shows itself only if standard error is a terminal, the results go elsewhere, and the work has
+/// taken a second.
 class Progress {
  public:
   Progress();
@@ -14,7 +14,7 @@ class Progress {
   Progress& operator=(const Progress&) = delete;
   ~Progress();
 
-  /// So many more auctions are done.
+  /// Counts more auctions as done.
   void Advance(std::int64_t nAuctions);
 
  private:

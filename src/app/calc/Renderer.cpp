@@ -43,7 +43,7 @@ void Renderer::Add(Batch& oBatch) {
   ++oBatch.nAuctions;
   oBatch.bFailed = oBatch.bFailed || m_oResult.sError || m_oResult.sMessage;
   m_oReport->Add(m_oResult, oBatch.sResults);
-  // A file that failed is worth a word in any form of the results; a stream may hold thousands.
+  // Complain about a failed file in every form of the results; a stream may have thousands.
   if (m_oResult.sError && (m_oResult.nLine == 0 || !m_oReport->HoldsMessages())) {
     Complain(oBatch, m_oResult.Name() + ": " + *m_oResult.sError);
   }

@@ -1,4 +1,4 @@
-// From what a batch holds to the text of its results.
+// Turns the auctions of a batch into the text of its results.
 #pragma once
 
 #include <memory>
@@ -11,14 +11,14 @@
 
 namespace quillet {
 
-/// Each thread has one of its own.
+/// Each thread has its own.
 class Renderer {
  public:
-  /// The options, whose form is not the automatic one, must live as long as this.
+  /// The options must live as long as this; their form must not be the automatic one.
   explicit Renderer(const Options& oOptions)
       : m_oOptions(oOptions), m_oReport(MakeReport(oOptions)) {}
 
-  /// Fills what comes out in `oBatch`.
+  /// Fills the output fields of `oBatch`.
   void Render(Batch& oBatch);
 
  private:

@@ -14,10 +14,10 @@ class Report {
  public:
   virtual ~Report() = default;
 
-  /// What stands before the first result.
+  /// The text before the first result.
   [[nodiscard]] virtual std::string Header() const { return {}; }
 
-  /// What parts two results. Add puts it before each.
+  /// The text between two results. Add puts it before each.
   [[nodiscard]] virtual std::string_view Separator() const { return {}; }
 
   virtual void Add(const Result& oResult, std::string& sOut) = 0;
@@ -28,18 +28,18 @@ class Report {
 
 // The options must live as long as their report.
 
-/// Of the form that they ask for; the automatic one is none.
+/// A report in the form that the options name, which must not be the automatic one.
 [[nodiscard]] std::unique_ptr<Report> MakeReport(const Options& oOptions);
 
-/// A table for people: the labels of the summary and what stands behind them, in colour if asked,
-/// and the prices that were asked for.
+/// A table for people: the labels and figures of the summary, in colour if wanted, and the
+/// requested prices.
 [[nodiscard]] std::unique_ptr<Report> MakeTableReport(const Options& oOptions, bool bColour);
 
 // For programs, with the same columns: figures in the shortest form that reads back as the same
 // 32-bit float, with a point.
-/// A header line; a cell may be empty, and a price that there isn't is "none".
+/// With a header line; a cell may be empty, and a price that doesn't exist is "none".
 [[nodiscard]] std::unique_ptr<Report> MakeCsvReport(const Options& oOptions);
-/// One object a line; null where nothing is.
+/// One object per line; null where there is no value.
 [[nodiscard]] std::unique_ptr<Report> MakeJsonReport(const Options& oOptions);
 
 }  // namespace quillet

@@ -1,4 +1,4 @@
-// What comes out for one auction.
+// The result for one auction.
 #pragma once
 
 #include <cstdint>
@@ -22,7 +22,7 @@ struct Figures {
   Single fFinalValueFee;
   Single fPayPalFee;
   std::optional<std::string> sProfitPercent;  ///< in digits, as the summary shows it
-  std::optional<Cents> nBreakEven;            ///< what was asked for; nothing if no price does it
+  std::optional<Cents> nBreakEven;            ///< if requested; nothing if no price does it
   std::optional<Cents> nGoalPrice;
 };
 

@@ -11,10 +11,10 @@ enum Status : int {
   kUnusable = 2,                ///< wrong usage, or a fee schedule that can't be used
 };
 
-/// Writes a line to standard error, with the program's name in front and no control characters.
+/// Writes a line to standard error, after the program's name and without control characters.
 void Complain(std::string_view sText);
 
-/// In a handler: complains of what was caught, and tells how the program then ends.
+/// In a handler: complains about what was caught, and returns how the program then ends.
 [[nodiscard]] Status StatusOfCaught();
 
 /// "quillet-calc", or the name of the other region's program.

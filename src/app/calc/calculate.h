@@ -8,8 +8,8 @@
 
 namespace quillet {
 
-/// Fills all of `oResult` but its name from the text of an auction, which is used up. A text
-/// without anything in it is an error.
+/// Fills all of `oResult` but its name from the text of an auction, which may be altered. An empty
+/// text is an error.
 void Calculate(std::string& sText, const Options& oOptions, Result& oResult);
 
 /// The same for the auction in the file that `oResult` names.

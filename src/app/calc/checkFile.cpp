@@ -29,7 +29,7 @@ Status CheckScheduleFile(const std::string& sPath) {
   }
   const std::string sText = DecodeText(std::move(sBytes));
   clsPrices oPrices;
-  IgnoreFailure([&] { oPrices.LoadText(sText); });  // the findings tell why it ends early
+  IgnoreFailure([&] { oPrices.LoadText(sText); });  // the findings say why it ends early
   if (!HoldsAPrice(oPrices, sPath)) {
     return kUnusable;
   }

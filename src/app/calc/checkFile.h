@@ -8,12 +8,12 @@
 
 namespace quillet {
 
-/// False, with a complaint, if there is not one price in it that this program asks for.
+/// False, with a complaint, if it has none of the prices that this program uses.
 [[nodiscard]] bool HoldsAPrice(const clsPrices& oPrices, const std::string& sPath);
 
 /// Prints what is wrong with an update file of this program's region, one finding a line:
-/// FILE:LINE: text. A file that can't be read, or holds no
-/// price, is kUnusable. Throws an OutputFailure.
+/// FILE:LINE: text. Gives kUnusable for a file that can't be read or holds no price. May throw an
+/// OutputFailure.
 [[nodiscard]] Status CheckScheduleFile(const std::string& sPath);
 
 }  // namespace quillet

@@ -1,4 +1,4 @@
-// The columns of the results that programs read.
+// The columns of the results for programs.
 #pragma once
 
 #include <string>
@@ -10,16 +10,17 @@
 
 namespace quillet {
 
-/// What stands in a column for one auction.
+/// The kind of value in one cell.
 enum class Cell { None, Number, Text };
 
 struct Column {
   std::string_view sName;
-  /// Puts what the column holds for a result into an empty text; that may be a word for none.
+  /// Writes the column's value for a result into `sText`, which is empty; it may be a word for
+  /// none.
   Cell (*fnRead)(const Result& oResult, std::string& sText);
 };
 
-/// Those that every result has, and behind them those of the prices that are asked for.
+/// The columns that every result has, followed by those of the requested prices.
 [[nodiscard]] std::vector<Column> ColumnsFor(const Options& oOptions);
 
 }  // namespace quillet

@@ -6,11 +6,11 @@
 
 namespace quillet {
 
-/// Makes the schedule that was asked for the program's; complains and gives kUnusable if it can't
-/// be used.
+/// Loads the requested schedule as the program's; complains and gives kUnusable if it can't be
+/// used.
 [[nodiscard]] Status LoadSchedule(const Options& oOptions);
 
-/// Complains of what fails on the way.
+/// Complains about anything that fails on the way.
 [[nodiscard]] Status RunAuctions(Options oOptions);
 
 }  // namespace quillet
