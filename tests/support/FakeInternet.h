@@ -1,5 +1,5 @@
-// An Internet that does as it is told. What it is asked for goes into the diagnostic log with a "*"
-// in front, so that one list shows the whole order of calls and of log lines.
+// An Internet that does as it is told. Its calls go to the diagnostic log after a "*", so that one
+// list shows the order of calls and log lines.
 #pragma once
 
 #include <map>
@@ -76,8 +76,8 @@ class FakeInternet : public Internet {
   std::map<std::string, std::string> asFiles;    ///< by name; an empty one is missing
   std::map<std::string, std::string> asAnswers;  ///< by page
   std::string sLastRequest;
-  std::size_t nPiece = 100;      ///< bytes that come at once
-  std::size_t nNextPiece = 100;  ///< the same, behind the first
+  std::size_t nPiece = 100;      ///< bytes in the first piece
+  std::size_t nNextPiece = 100;  ///< bytes in each later piece
   int nClosed = 0;
 
  private:

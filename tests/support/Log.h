@@ -19,8 +19,8 @@ inline void WriteTestFile(const std::string& sPath, const std::string& sContent)
   std::ofstream(sPath, std::ios::binary) << sContent;
 }
 
-/// The platform's words for what it says of a file that is missing, and of a folder that stands
-/// where a file is to be written or read.
+/// The platform's messages for a missing file, and for a folder in place of a file to write or
+/// read.
 inline std::string MissingWords() {
   return RemoveFile("no such file").message();
 }
@@ -29,7 +29,7 @@ inline std::string FolderWords(bool bWritten) {
   return (bWritten ? ReplaceFile(".", "") : ReadWholeFile(".", 0, sContent)).message();
 }
 
-/// The comments of QlDebug.log in `oFolder`, behind the two blanks that end the time of each.
+/// The comments of QlDebug.log in `oFolder`, which follow two blanks after the time of each.
 inline std::vector<std::string> LogComments(const TemporaryFolder& oFolder) {
   std::vector<std::string> asComments;
   std::ifstream oFile(oFolder / "QlDebug.log");

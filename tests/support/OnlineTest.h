@@ -1,4 +1,4 @@
-// What tests of the update share: a program's folder of its own, settings in memory, and the log.
+// What update tests share: a program folder of their own, settings in memory, and the log.
 #pragma once
 
 #include <string>

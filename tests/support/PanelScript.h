@@ -1,4 +1,4 @@
-// Drives a section as its user would, by the names of its controls, and reads it back in words.
+// Drives a section as its user would, by the names of its controls, and reads it back as text.
 #pragma once
 
 #include <QAbstractButton>
@@ -32,7 +32,7 @@ inline std::vector<Control*> AllControls(const SectionPanel& oPanel) {
   return aoAll;
 }
 
-/// The control of that name, wherever it stands in the panel; an exception if there is none.
+/// The control with that name, anywhere in the panel; throws if there is none.
 inline Control& ControlOf(const SectionPanel& oPanel, const std::string& sName) {
   for (Control* const pControl : AllControls(oPanel)) {
     if (pControl->Name() == sName) {
@@ -51,7 +51,7 @@ inline void ClickOn(const SectionPanel& oPanel, const std::string& sNames) {
   }
 }
 
-/// Types into a numeric box in place of what it holds, and leaves it.
+/// Types over the text of a numeric box, and leaves the box.
 inline void TypeInto(const SectionPanel& oPanel, const std::string& sName,
                      const std::string& sText) {
   QLineEdit* const pText = dynamic_cast<ctlNumericText&>(ControlOf(oPanel, sName)).TextBox();
@@ -60,7 +60,7 @@ inline void TypeInto(const SectionPanel& oPanel, const std::string& sName,
   pText->clearFocus();
 }
 
-/// The names of the controls that a test accepts, in the panel's order, separated by blanks.
+/// The names of the controls that a predicate accepts, in the panel's order, separated by blanks.
 template <typename Accept>
 std::string NamesWhere(const SectionPanel& oPanel, Accept&& fnAccept) {
   std::string sNames;
@@ -72,7 +72,7 @@ std::string NamesWhere(const SectionPanel& oPanel, Accept&& fnAccept) {
   return sNames;
 }
 
-/// The boxes and options that are chosen, but for the Show boxes.
+/// The boxes and options that are chosen, except the Show boxes.
 inline std::string ChosenIn(const SectionPanel& oPanel) {
   return NamesWhere(oPanel, [](const Control& oControl) {
     const auto* const pChoice = dynamic_cast<const Choice*>(&oControl);
@@ -84,7 +84,7 @@ inline bool IsGrey(const Control& oControl) {
   return oControl.ForeColor() == kColourGreyText;
 }
 
-/// How far a caption may reach, in its panel's pixels: to the next control of its row on view, or
+/// How far a caption may reach, in its panel's pixels: to the next visible control of its row, or
 /// to the panel's edge.
 inline int RoomFor(const Control& oCaptioned) {
   const QWidget& oWidget = oCaptioned.Widget();
@@ -99,7 +99,7 @@ inline int RoomFor(const Control& oCaptioned) {
   return nRoom - oWidget.x();
 }
 
-/// What is cut off of the captions and amounts on view in a window or a part of it.
+/// The visible captions and amounts that are cut off in a window or a part of it.
 inline std::string ClippedIn(const QWidget& oWindow) {
   std::string sClipped;
   for (const QWidget* const pWidget : oWindow.findChildren<QWidget*>()) {

@@ -1,4 +1,4 @@
-// Where the rows of the sections stand.
+// Where the rows of the sections are.
 #pragma once
 
 #include <QRect>
@@ -21,7 +21,7 @@ inline std::vector<Control*> RowsIn(const SectionPanel& oPanel) {
   return aoRows;
 }
 
-/// Those rows on view that lie on one another by more than a pixel.
+/// The visible rows that overlap by more than a pixel.
 inline std::string OverlapsIn(const SectionPanel& oPanel) {
   constexpr int kPixel = 15;
   std::string sOverlaps;
@@ -55,7 +55,7 @@ inline std::vector<SectionPanel*> AllPanels(const SectionSet& oSet) {
   return aoPanels;
 }
 
-/// The height of each panel and the tops of its rows on view.
+/// The height of each panel and the tops of its visible rows.
 inline std::string PlacesOf(const std::array<SectionPanel*, 5>& aoSections) {
   std::string sPlaces;
   for (const SectionPanel* const pSection : aoSections) {
@@ -70,9 +70,9 @@ inline std::string PlacesOf(const std::array<SectionPanel*, 5>& aoSections) {
   return sPlaces;
 }
 
-/// The places out of config mode of sections that were just made, with the lists that are stored.
+/// The places, out of config mode, of newly made sections with the stored lists.
 inline std::string PlacesAfterRestart() {
-  QWidget oWindow(nullptr, Qt::ToolTip);  // takes the focus from no other
+  QWidget oWindow(nullptr, Qt::ToolTip);  // doesn't take the focus from others
   const SectionSet oSet(oWindow, [](bool /*bDirty*/) {});
   oWindow.show();
   for (SectionPanel* const pSection : oSet.Sections()) {

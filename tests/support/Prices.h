@@ -33,7 +33,7 @@ inline void UseShippedSchedule() {
   UsePrices(std::move(oPrices));
 }
 
-/// The lines of a tier table; an end of -1 is no upper limit.
+/// The lines of a tier table; an end of -1 means no upper limit.
 inline std::string Tiers(const std::string& sName,
                          const std::vector<std::array<const char*, 3>>& aoTiers) {
   std::string sLines = sName + "Ranges," + std::to_string(aoTiers.size()) + "\n";

@@ -1,4 +1,4 @@
-// What the sections and the summary of a view must show of an auction.
+// What the sections and the summary of a view must show for an auction.
 #pragma once
 
 #include <QLineEdit>
@@ -103,8 +103,8 @@ inline bool ShowsNumber(const ctlNumericText& oBox, double fNumber) {
          std::abs(oBox.Value() - fWanted) < 0.006 + std::abs(fNumber) * 1e-6;
 }
 
-/// What of a section isn't as a calculated auction has it: inputs, and the section's total. A car
-/// ad that was loaded may stand beside a box that is open and not ticked.
+/// How a section differs from a calculated auction: inputs, and the section's total. A loaded car
+/// ad may go with a box that is enabled but not ticked.
 inline std::string WrongIn(const SectionPanel& oSection, clsCalculate& oAuction) {
   std::string sWrong;
   const std::string sKey = oSection.SectionKey();
@@ -164,13 +164,13 @@ inline std::string FiguresOf(const ctlSellingCosts& oSummary) {
   return sFigures;
 }
 
-/// What of a view isn't as an auction has it. The figures are those of another auction with the
-/// same inputs, which has never been on view.
+/// How a view differs from an auction. The figures come from another auction with the same inputs,
+/// which has never been shown.
 inline std::string WrongOnScreen(const SectionSet& oSet, clsCalculate& oAuction) {
   clsCalculate oFresh;
   std::string sText = TextOf(oAuction);
   oFresh.Serialize(sText, false);
-  oFresh.m_oOutlay = oAuction.m_oOutlay;  // amounts have but seven digits in the text
+  oFresh.m_oOutlay = oAuction.m_oOutlay;  // amounts have only seven digits in the text
   oFresh.m_oPostage = oAuction.m_oPostage;
   oFresh.DoCalc();
   std::string sWrong;

@@ -55,14 +55,14 @@ class TestHost : public Host {
   const std::string& DecimalSeparator() const override { return sDecimalSeparator; }
   const NumberStyle& Numbers() const override { return oNumbers; }
 
-  std::deque<Answer> aeAnswers;                      ///< to the message boxes to come
-  std::deque<std::optional<std::string>> asChoices;  ///< of the file dialogs to come
+  std::deque<Answer> aeAnswers;                      ///< for the next message boxes
+  std::deque<std::optional<std::string>> asChoices;  ///< for the next file dialogs
   std::vector<ShownMessage> aoShown;
   std::vector<FileDialog> aoDialogs;
   std::vector<std::string> asLinks;
-  std::int64_t nTicks = 0;  ///< a millisecond passes at each pumping
+  std::int64_t nTicks = 0;  ///< a millisecond passes with each pump
   int nPumped = 0;
-  std::function<void()> fnOnPump;  ///< done at each pumping too
+  std::function<void()> fnOnPump;  ///< called with each pump
   std::string sCommandLine;
   std::string sProgramFolder = ".";
   std::string sDocumentsFolder = ".";
@@ -82,7 +82,7 @@ class ScopedHost : public TestHost {
   Host& m_oBefore;
 };
 
-/// A folder of its own, gone at the end.
+/// A temporary folder, removed at the end.
 class TemporaryFolder {
  public:
   TemporaryFolder() {

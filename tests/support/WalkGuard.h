@@ -29,18 +29,18 @@ namespace quillet {
 struct WalkStep {
   std::string sWhat{};
   bool bTouches = false;     ///< edits the auction on view
-  bool bLaysOut = false;     ///< packs the rows anew
+  bool bLaysOut = false;     ///< packs the rows again
   bool bShowsAgain = false;  ///< hides the calculator and shows it again
-  bool bCleans = false;      ///< loads or saves the auction that is then on view
+  bool bCleans = false;      ///< loads or saves the auction then on view
   /// The texts that the two auctions are given; empty where there is none.
   std::string sWorking{};
   std::string sDefault{};
 };
 
 inline constexpr int kMostRaised = 120;  // by a step; walks have seen 54
-inline constexpr int kRunaway = 20000;   // beyond it the stack is near its end
+inline constexpr int kRunaway = 20000;   // beyond it the stack nearly overflows
 
-/// A text as it is once it was on view: without a shop there is no duration.
+/// An auction's text after it has been shown: without a shop there is no duration.
 inline std::string AsShown(std::string sText) {
   clsCalculate oAuction;
   oAuction.Serialize(sText, false);
@@ -76,7 +76,7 @@ class WalkGuard {
   WalkGuard(const WalkGuard&) = delete;
   WalkGuard& operator=(const WalkGuard&) = delete;
 
-  /// Before a step: notes how things stand.
+  /// Before a step: records the state.
   void Note() {
     m_nRaised = 0;
     m_pOnViewBefore = &OnView();
@@ -87,7 +87,7 @@ class WalkGuard {
     }
   }
 
-  /// After it: fails the test for each rule that is broken. What costs much is checked if `bAll`.
+  /// After it: fails the test for each broken rule. Slow checks run only with `bAll`.
   void Check(const WalkStep& oStep, bool bAll) {
     EXPECT_LE(m_nRaised, kMostRaised) << "clicks and changes that one step has raised";
     CheckDocument(m_aoDocuments[0], oStep, oStep.sWorking);
@@ -99,7 +99,7 @@ class WalkGuard {
   }
 
  private:
-  /// An auction as it stood before the step.
+  /// An auction as it was before the step.
   struct Document {
     clsCalculate* pAuction;
     bool bDirty = false;
@@ -108,8 +108,7 @@ class WalkGuard {
 
   Document& OnView() { return m_aoDocuments[m_oWindow.Calculator().ConfigMode() ? 1 : 0]; }
 
-  /// Only what the user does to it changes an auction, or marks it: an input, or a box that is
-  /// left.
+  /// Only the user changes an auction or marks it dirty: by an input, or by leaving a box.
   void CheckDocument(const Document& oBefore, const WalkStep& oStep, const std::string& sGiven) {
     SCOPED_TRACE(oBefore.pAuction->m_sName);
     const bool bTouched = &oBefore == m_pOnViewBefore && (oStep.bTouches || m_bInBox);
@@ -126,7 +125,7 @@ class WalkGuard {
     }
   }
 
-  /// The view shows its auction, and no star if that is clean.
+  /// The view shows its auction, and no star if it is clean.
   void CheckView() {
     clsCalculate& oAuction = *OnView().pAuction;
     EXPECT_FALSE(m_oWindow.windowTitle().endsWith('*') && !oAuction.IsDirty());
@@ -135,7 +134,7 @@ class WalkGuard {
     }
   }
 
-  /// A number of more than 32 bits ends its section's work in the middle, without a mark or a word.
+  /// A number beyond 32 bits silently ends its section's work halfway, without marking it dirty.
   bool HoldsTooMuch() const {
     const SectionSet& oSet = m_oWindow.Calculator().Set();
     const auto fnTooMuch = [](const Control& oBox) {
@@ -146,8 +145,8 @@ class WalkGuard {
            fnTooMuch(ControlOf(oSet.ctlSellingFeaturesSection, "txtExtraPictures"));
   }
 
-  /// The rows on view are those that the mode, the list and the region ask for, and none lies on
-  /// another. A calculator that is shown again looks as after a restart.
+  /// The visible rows are those that the mode, the list and the region ask for, and none overlap. A
+  /// calculator that is shown again looks as it does after a restart.
   void CheckPlaces(const WalkStep& oStep) {
     for (const SectionPanel* const pPanel : m_aoPanels) {
       SCOPED_TRACE(pPanel->SectionKey());

@@ -15,7 +15,7 @@
 namespace {
 
 void FailOnWarning(QtMsgType eType, const QMessageLogContext& /*oContext*/, const QString& sText) {
-  // The offscreen screen can't do everything, and on Windows it knows no fonts but the program's.
+  // The offscreen screen can't do everything, and on Windows it knows only the program's fonts.
   const bool bOfScreen = sText.startsWith("This plugin does not support") ||
                          sText.startsWith("QFontDatabase: Cannot find font directory");
   if (eType >= QtWarningMsg && eType != QtInfoMsg && !bOfScreen) {
