@@ -69,7 +69,7 @@ Single clsAuctionType::DoCalcListingFee_UK(const clsOutlay& oOutlay) const {
 }
 
 Single clsAuctionType::DoCalcReserveFee_UK(const clsOutlay& oOutlay) const {
-  // The fee arises only when the quantity is 0. That is how it is meant to be.
+  // The fee is charged only when the quantity is 0. That is intended.
   if (oOutlay.m_lQuantity != 0) {
     return 0;
   }

@@ -11,8 +11,8 @@
 
 namespace quillet {
 
-// The values of these codes stand in auction files. Fields hold them as numbers, since a file may
-// hold others too; a code outside the list takes no part in any fee.
+// The values of these codes are stored in auction files. Fields hold them as numbers, since a file
+// may hold others too; a code outside the list takes no part in any fee.
 
 enum eAuctionType : std::int32_t {
   kAuctionStandard = 0,
@@ -44,25 +44,25 @@ class clsAuctionType {
   clsAuctionType() { Serialize(m_sDefaultState, true); }
 
   // Fees are in the auction's currency and not rounded to pennies. A price that the schedule lacks
-  // leaves its part of a fee as it was; a tier table that it lacks is a Failure.
+  // leaves its part of a fee as it was; a missing tier table throws a Failure.
 
-  /// DoCalc with the outlay of the last DoCalcListingFee; without one it is a Failure.
+  /// DoCalc with the outlay of the last DoCalcListingFee; throws a Failure if there was none.
   [[nodiscard]] Single DoCalcAuto();
   /// Reserve, listing and final value fee together.
   [[nodiscard]] Single DoCalc(const clsOutlay& oOutlay);
   /// The insertion fee. Keeps `oOutlay` for DoCalcAuto; it must live as long as this object.
   [[nodiscard]] Single DoCalcListingFee(const clsOutlay& oOutlay);
-  /// The reserve fee: it arises only at quantity 0, for every kind of listing.
+  /// The reserve fee: charged only at quantity 0, for every kind of listing.
   [[nodiscard]] Single DoCalcReserveFee(const clsOutlay& oOutlay) const;
   [[nodiscard]] Single DoCalcFinalValueFee(const clsOutlay& oOutlay) const;
 
   /// Appends the section "[TYPE]" to `sData`, or reads it from there (docs/auction-file.md).
   void Serialize(std::string& sData, bool bSave);
 
-  /// Back to the fresh state, but for m_bDirty.
+  /// Resets everything but m_bDirty.
   void Clear() { Serialize(m_sDefaultState, false); }
 
-  // The United States rules; the routines above hand on to them in that region.
+  // The United States rules, to which the routines above delegate in that region.
   [[nodiscard]] Single DoCalcListingFee_US(const clsOutlay& oOutlay) const;
   [[nodiscard]] Single DoCalcReserveFee_US(const clsOutlay& oOutlay) const;
   [[nodiscard]] Single DoCalcFinalValueFee_US(const clsOutlay& oOutlay) const;

@@ -15,7 +15,7 @@ struct VehicleKeys {
   KeyText oReserve;
 };
 
-/// By eMotorType, parts excepted.
+/// By eMotorType, except parts.
 constexpr std::array<VehicleKeys, 5> kVehicleKeys = {{
     {"AuctionTypeMotorPassenger", "TransactionFeeMotorPassenger", "ReserveMotorPassenger"},
     {"AuctionTypeMotorMotorcycle", "TransactionFeeMotorMotorcycle", "ReserveMotorMotorbike"},
@@ -92,7 +92,7 @@ Single clsAuctionType::DoCalcListingFee_US(const clsOutlay& oOutlay) const {
 }
 
 Single clsAuctionType::DoCalcReserveFee_US(const clsOutlay& oOutlay) const {
-  // The fee arises only when the quantity is 0, and never in a shop. That is how it is meant to be.
+  // The fee is charged only when the quantity is 0, and never in a shop. That is intended.
   if (oOutlay.m_lQuantity != 0 || m_bShopInventory) {
     return 0;
   }

@@ -23,7 +23,7 @@ void clsCalculate::DoCalc() {
   m_fReserveCost = m_oAuctionType.DoCalcReserveFee(m_oOutlay);
   m_fFinalValueFee = m_oAuctionType.DoCalcFinalValueFee(m_oOutlay);
   if (m_oOutlay.m_lQuantity < 1) {
-    m_fFinalValueFee = 0;  // in the figure shown only; the sum below keeps the fee
+    m_fFinalValueFee = 0;  // only in the figure shown; the sum below keeps the fee
   }
   m_fSellCost = m_oAuctionType.DoCalc(m_oOutlay) + m_fSellCost;
   m_fSellCost = m_oSellingFeatures.DoCalc(&m_oAuctionType, &m_oOutlay) + m_fSellCost;

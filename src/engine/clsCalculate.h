@@ -24,19 +24,19 @@ class clsCalculate {
   /// True if any model has changed since last saved.
   [[nodiscard]] bool IsDirty() const;
 
-  /// Works out all totals. A Failure of a look-up passes through, and leaves the totals that come
-  /// behind it as they were.
+  /// Works out all totals. A Failure of a look-up passes through, and leaves the totals after it as
+  /// they were.
   void DoCalc();
 
   /// The whole text of the auction (docs/auction-file.md): appended to `sData`, or read from there.
-  /// A section that is missing ends the reading and is shown in a message box; what was read before
-  /// it stays, and the caller sees a normal return: false.
+  /// A missing section ends the reading with a message box; what was read before it stays, and the
+  /// routine returns false.
   bool Serialize(std::string& sData, bool bSave);
 
-  /// Takes over another auction's inputs, by way of its text: not its name, nor its totals.
+  /// Copies another auction's inputs through its text: not its name, nor its totals.
   void Copy(clsCalculate& oSourceAuction);
 
-  /// All five models back to their fresh state. The totals stay until the next DoCalc.
+  /// Resets all five models. The totals stay until the next DoCalc.
   void Clear();
 
   std::string m_sName;

@@ -19,7 +19,7 @@ class clsOutlay {
   /// Appends the section "[OUTLAY]" to `sData`, or reads it from there (docs/auction-file.md).
   void Serialize(std::string& sData, bool bSave);
 
-  /// Back to the fresh state, but for m_bDirty.
+  /// Resets everything but m_bDirty.
   void Clear() { Serialize(m_sDefaultState, false); }
 
   Single m_fOutlay;             ///< cost of one item
@@ -27,7 +27,7 @@ class clsOutlay {
   Single m_fReservePrice;       ///< of the listing; 0 for none
   Single m_fEstimatedEndPrice;  ///< hoped-for sale price of one item
   std::int32_t m_lQuantity = 0;
-  bool m_bAddTax = false;  ///< local tax comes on top of the outlay
+  bool m_bAddTax = false;  ///< local tax is added to the outlay
   bool m_bDirty = false;   ///< changed since last saved
 
  private:

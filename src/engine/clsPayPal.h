@@ -21,11 +21,11 @@ class clsPayPal {
   clsPayPal() { Serialize(m_sDefaultState, true); }
 
   /// The fee on an amount received: a percentage and a fixed charge, rounded to the smallest unit
-  /// of the currency with an exact half going down. Keeps what it is given for DoCalcAuto; the
-  /// outlay may be null and must otherwise live as long as this object. A premier or business
-  /// account whose band has no value, or whose tier tables are missing, is a Failure.
+  /// of the currency with an exact half going down. Keeps its arguments for DoCalcAuto; the outlay
+  /// may be null and must otherwise live as long as this object. Throws a Failure for a premier or
+  /// business account whose band has no value or whose tier tables are missing.
   [[nodiscard]] Single DoCalc(Single fAmount, const clsOutlay* oOutlay);
-  /// DoCalc with what the latest one was given.
+  /// DoCalc with the arguments of the latest one.
   [[nodiscard]] Single DoCalcAuto();
 
   /// True for premier and business accounts.
@@ -39,7 +39,7 @@ class clsPayPal {
   /// Appends the section "[PAYPAL]" to `sData`, or reads it from there (docs/auction-file.md).
   void Serialize(std::string& sData, bool bSave);
 
-  /// Back to the fresh state, but for m_bDirty and what DoCalc keeps.
+  /// Resets everything but m_bDirty and what DoCalc keeps.
   void Clear() { Serialize(m_sDefaultState, false); }
 
   bool m_bEnabled = false;  ///< the seller takes PayPal

@@ -17,7 +17,7 @@ std::optional<Single> TierValue(const KeyText& oKey, Single fWeight) {
   return oTier.m_fValue;
 }
 
-/// How many steps lie between two weights, a part of a step counted whole.
+/// The number of steps between two weights; a part of a step counts as a whole one.
 Single StepsBetween(Single fFrom, Single fTo, Single fStep) {
   if (fStep == 0) {
     throw Failure(FailureNumber::DivisionByZero,

@@ -21,19 +21,19 @@ class clsPostage {
  public:
   clsPostage() { Serialize(m_sDefaultState, true); }
 
-  // Amounts are in the auction's currency. A price that the schedule lacks is 0; a tier table of
-  // weights that it lacks is a Failure.
+  // Amounts are in the auction's currency. A price that the schedule lacks is 0; a missing table of
+  // weights throws a Failure.
 
   /// Cost of the postage. Keeps the outlay, which may be null and must otherwise live as long as
   /// this object.
   [[nodiscard]] Single DoCalc(const clsOutlay* oOutlay);
   /// The price of a class at the current weight, chosen or not; 0 if it can't be priced.
   [[nodiscard]] Single DoCalcOnWeight(std::int32_t ePostageClass) const;
-  /// The premium of an insurance band; 0 when the band can't be had.
+  /// The premium of an insurance band; 0 if the band isn't available.
   [[nodiscard]] Single DoCalcOnInsurance(std::int32_t eBand) const;
   [[nodiscard]] Single DoCalcOnRecordedDelivery() const;  ///< 0 unless chosen and available
   [[nodiscard]] Single DoCalcOnProofOfDelivery() const;   ///< 0 unless chosen and available
-  /// The profit on postage, by the outlay of the latest DoCalc. It counts even when the postage is
+  /// The profit on postage, with the outlay of the latest DoCalc. It counts even when postage is
   /// switched off.
   [[nodiscard]] Single DoCalcProfit() const;
 
@@ -43,15 +43,15 @@ class clsPostage {
   /// Manual always; the three priced classes in the United Kingdom, as long as the weight has a
   /// price there.
   [[nodiscard]] bool CanHaveClass(std::int32_t ePostageClass) const;
-  /// The class behind the given one; behind the last comes 1, not 0.
+  /// The class after the given one; after the last comes 1, not 0.
   [[nodiscard]] static std::int32_t GetNextClass(std::int32_t ePostageClass);
-  /// The band behind the given one; behind the last comes 0.
+  /// The band after the given one; after the last comes 0.
   [[nodiscard]] static std::int32_t GetNextInsurance(std::int32_t eBand);
 
   /// Appends the section "[POSTAGE]" to `sData`, or reads it from there (docs/auction-file.md).
   void Serialize(std::string& sData, bool bSave);
 
-  /// Back to the fresh state, but for m_bDirty and what DoCalc keeps.
+  /// Resets everything but m_bDirty and what DoCalc keeps.
   void Clear() { Serialize(m_sDefaultState, false); }
 
   bool m_bEnabled = false;  ///< the item is posted at all
@@ -62,7 +62,7 @@ class clsPostage {
   bool m_bRecordedDelivery = false;
   bool m_bProofOfDelivery = false;
   bool m_bMakeProfit = false;
-  Single m_fProfit;                          ///< for one sending
+  Single m_fProfit;                          ///< on each parcel
   bool m_bDirty = false;                     ///< changed since last saved
   bool m_bSendIndividually = false;          ///< each unit sold goes in a package of its own
   const clsOutlay* m_oLastOutlay = nullptr;  ///< of the latest DoCalc; not owned

@@ -17,7 +17,7 @@ struct FeaturePrice {
 
 using F = clsSellingFeatures;
 
-/// Every price that the schedule is asked for, by the name behind the key's prefix.
+/// Every price that is looked up in the schedule, by the name after the key's prefix.
 constexpr std::array<FeaturePrice, 22> kFeaturePrices = {{
     {"HomePage", &F::m_fHomePage},
     {"HomePageMulti", &F::m_fHomePageMulti},
@@ -48,7 +48,7 @@ struct FlatFeature {
   Single clsSellingFeatures::*fPrice;
 };
 
-/// The features behind Feature Plus that cost their flat price, in the order of the sum. Buy It Now
+/// The features after Feature Plus that cost their flat price, in the order of the sum. Buy It Now
 /// has a price of its own and no field here.
 constexpr std::array<FlatFeature, 16> kFlatFeatures = {{
     {kFeatureHighlight, &F::m_fHighlight},
@@ -69,7 +69,7 @@ constexpr std::array<FlatFeature, 16> kFlatFeatures = {{
     {kFeatureCarAd, &F::m_fCarAd},
 }};
 
-/// The features that the sum takes elsewhere than with the flat ones.
+/// The features that are added elsewhere than with the flat ones.
 constexpr std::array<FlatFeature, 4> kOtherFeatures = {{
     {kFeatureHomePage, &F::m_fHomePage},
     {kFeaturePlus, &F::m_fPlus},
@@ -128,7 +128,7 @@ Single clsSellingFeatures::DoCalc(const clsAuctionType* oAuctionType, const clsO
   if (HasFeature(kFeatureListIn2Categories)) {
     fSum = fSum * m_fListIn2Categories;
   }
-  // Behind the factor, so that these two are never doubled.
+  // After the factor, so that these two are never doubled.
   if (HasFeature(kFeatureHomePage)) {
     fSum = fSum + GetHomePageFee();
   }
@@ -168,7 +168,7 @@ PriceKey clsSellingFeatures::GetPriceKey(const KeyText& oName) const {
   return oKey.Append(oName);
 }
 
-/// A price that the schedule lacks stays what it was, be it that of another kind of listing.
+/// A price that the schedule lacks stays as it was, even if it is that of another kind of listing.
 void clsSellingFeatures::RefreshPrices() {
   const std::int32_t nShop = AuctionType().m_eShopDuration;
   const clsPrices& oPrices = Prices();

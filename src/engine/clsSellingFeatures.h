@@ -11,7 +11,7 @@
 
 namespace quillet {
 
-/// One bit a feature. The values stand in auction files and never change.
+/// One bit per feature. The values are stored in auction files and never change.
 enum eFeature : std::int32_t {
   kFeatureHomePage = 0x1,
   kFeaturePlus = 0x2,
@@ -41,22 +41,22 @@ class clsSellingFeatures {
   clsSellingFeatures() { Serialize(m_sDefaultState, true); }
 
   void AddFeature(std::int32_t lFeature) { m_lFeatures |= lFeature; }
-  /// Takes the bits out if all of them are set; otherwise nothing changes at all.
+  /// Clears the bits if all of them are set; otherwise does nothing.
   void RemoveFeature(std::int32_t lFeature);
   void SetFeature(std::int32_t lFeature, bool bOn);
   /// True when every bit is set, so also for 0.
   [[nodiscard]] bool HasFeature(std::int32_t lFeature) const;
 
-  /// False if a chosen feature isn't on offer by the prices of the latest DoCalc.
+  /// False if a chosen feature isn't on offer at the prices of the latest DoCalc.
   [[nodiscard]] bool HasOnlyWhatIsOnOffer() const;
 
-  /// The fee of all chosen features, one for the whole auction, not rounded to pennies. Keeps what
-  /// it is given, which must live as long as this object; a null keeps the one given before. Also
-  /// refreshes the prices below. A feature without a price in the schedule keeps the price that it
-  /// had. Without any auction type it is a Failure, and so is a tier table that is missing.
+  /// The fee for all chosen features, one for the whole auction, not rounded to pennies. Keeps its
+  /// arguments, which must live as long as this object; a null keeps the one given before. Also
+  /// refreshes the prices below; a feature without a price in the schedule keeps the price that it
+  /// had. Throws a Failure if no auction type was ever given or a tier table is missing.
   [[nodiscard]] Single DoCalc(const clsAuctionType* oAuctionType, const clsOutlay* oOutlay);
 
-  /// What the latest DoCalc gave.
+  /// The result of the latest DoCalc.
   [[nodiscard]] Single LastFee() const { return m_fLastFee; }
 
   /// Appends the section "[FEATURES]" to `sData`, or reads it from there (docs/auction-file.md).

@@ -8,7 +8,7 @@
 
 namespace quillet {
 
-/// Profit by selling cost in percent, cut to a whole number, in decimal digits: "33" for 1 by 3.
+/// Profit / selling cost in percent, cut to a whole number, in decimal digits: "33" for 1 / 3.
 /// Nothing unless both are above 0. Reads the totals of the latest DoCalc.
 [[nodiscard]] std::optional<std::string> ProfitPercentText(const clsCalculate& oAuction);
 
