@@ -1,4 +1,4 @@
-// The same item listed otherwise.
+// The same item listed in other ways.
 #pragma once
 
 #include <string>
@@ -18,13 +18,13 @@ struct Alternative {
   Change oChange;  ///< makes the auction this one
   Single fFees;    ///< all but outlay and postage
   Single fProfit;
-  Single fDifference;  ///< of the profit to that of the auction as it is
+  Single fDifference;  ///< the profit less that of the auction as it is
 };
 
-/// What the kind of listing and the region allow: first the ways to list the item, as it is among
-/// them, the one with the highest profit in front; then with or without PayPal, without each
-/// feature that is on, lower offers, and unsold. A listing on which a chosen feature isn't on offer
-/// is left out, and so is what can't be calculated.
+/// What the kind of listing and the region allow: first the ways to list the item, including the
+/// present one, highest profit first; then with or without PayPal, without each chosen feature,
+/// lower offers, and unsold. Leaves out listings that don't offer a chosen feature, and those that
+/// can't be calculated.
 [[nodiscard]] std::vector<Alternative> Alternatives(const clsCalculate& oAuction);
 
 }  // namespace quillet

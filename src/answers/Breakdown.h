@@ -27,7 +27,7 @@ struct Part {
 
 struct Breakdown {
   Single fPrice;              ///< of all that is sold
-  Single fPostage;            ///< what the postage comes to
+  Single fPostage;            ///< the cost of postage
   Single fPostageProfit;      ///< what the seller adds to it
   Single fWhole;              ///< all that the buyer pays
   Single fFees;               ///< all but outlay, postage and profit

@@ -1,4 +1,4 @@
-// What a seller might do otherwise with an auction, each as the same choice by hand would do it.
+// What a seller might change in an auction, each as the same choice by hand would do it.
 #pragma once
 
 #include <cstdint>

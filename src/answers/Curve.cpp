@@ -10,7 +10,7 @@
 namespace quillet {
 namespace {
 
-constexpr int kSamples = 100;  // between tiers, too, a fee may bend: where it has reached its cap
+constexpr int kSamples = 100;  // a fee may also bend between tiers, where it reaches its cap
 
 std::vector<Cents> PricesToDraw(const clsOutlay& oOutlay, Cents nFrom, Cents nLast) {
   std::vector<Cents> anPrices = PieceStarts(oOutlay, nFrom, nLast);

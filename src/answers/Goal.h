@@ -14,7 +14,7 @@ enum class GoalKind {
   PercentOfPrice,  ///< of what is asked for all items: the margin
 };
 
-/// Without a word about it: to break even.
+/// By default: to break even.
 struct Goal {
   GoalKind eKind = GoalKind::Profit;
   double fAmount = 0;  ///< at least 0 if it is a percentage
@@ -26,7 +26,7 @@ struct Goal {
   /// The profit that the goal asks for at another price, if the selling cost stays what it is.
   [[nodiscard]] double ProfitNeeded(const clsCalculate& oAuction, Single fPrice) const;
 
-  /// How much more profit it takes if costs rise by 1, which also take 1 from the profit.
+  /// How much more profit is needed if costs rise by 1, which also reduces the profit by 1.
   [[nodiscard]] double WeightOfCosts() const {
     return eKind == GoalKind::PercentOfCost ? 1 + fAmount / 100 : 1;
   }

@@ -17,7 +17,7 @@ inline constexpr Cents kHighestPrice = 999'999'999;
   return nPrice / 100.0;
 }
 
-/// The first price of a range that a test holds for, where it holds for all behind it as well;
+/// The first price of a range for which a test holds, given that it then holds for all later ones;
 /// `nEnd` if it holds for none.
 template <typename Test>
 [[nodiscard]] Cents FirstWhere(Cents nFrom, Cents nEnd, const Test& fnHolds) {

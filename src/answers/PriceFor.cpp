@@ -11,8 +11,8 @@
 namespace quillet {
 namespace {
 
-/// A goal that the fees keep just out of reach would be tried at millions of prices, and none of
-/// them tell more than the rounding of floats.
+/// Without this limit, a goal that the fees keep just out of reach would be tried at millions of
+/// prices that differ only by the rounding of floats.
 constexpr int kMostTries = 20'000;
 
 class Search {

@@ -2,7 +2,7 @@
 
 namespace quillet {
 
-/// What the models keep of one another still points into the auction; DoCalc sets all of it anew.
+/// The copied models still point into the original auction; DoCalc resets all those pointers.
 void Trial::Reset() {
   m_oCopy.m_oAuctionType = m_oAuction.m_oAuctionType;
   m_oCopy.m_oOutlay = m_oAuction.m_oOutlay;

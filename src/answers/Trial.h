@@ -6,9 +6,9 @@
 
 namespace quillet {
 
-/// The copy is made model by model, so that it gives the very figures of the auction: the text
-/// keeps seven digits of an amount, and no price that the schedule has lost since. The auction
-/// must live as long as the trial, and is left as it is.
+/// The copy is made model by model, so that it gives exactly the auction's figures: the text keeps
+/// only seven digits of an amount, and no price that the schedule has lost since. The auction must
+/// live as long as the trial, and isn't changed.
 class Trial {
  public:
   explicit Trial(const clsCalculate& oAuction) : m_oAuction(oAuction) { Reset(); }

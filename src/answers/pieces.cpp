@@ -10,7 +10,7 @@ namespace {
 
 using LookedUp = Single (*)(const clsOutlay& oOutlay, Single fPrice);
 
-/// What the engine looks tiers up by, as far as it grows with the price.
+/// The values that the engine looks tiers up by, if they grow with the price.
 constexpr std::array<LookedUp, 2> kLookedUp = {
     [](const clsOutlay&, Single fPrice) { return fPrice; },
     [](const clsOutlay& oOutlay, Single fPrice) { return Single(fPrice * oOutlay.m_lQuantity); },

@@ -8,8 +8,9 @@
 
 namespace quillet {
 
-/// The prices of a range at which a tier of the schedule begins or has just ended, the first price
-/// itself in front: in order, each once. Between two of them fees grow evenly, but for rounding.
+/// The prices of a range at which a tier of the schedule begins or has just ended, after the
+/// range's first price: in order, each once. Between two of them fees grow evenly, apart from
+/// rounding.
 [[nodiscard]] std::vector<Cents> PieceStarts(const clsOutlay& oOutlay, Cents nFrom, Cents nLast);
 
 }  // namespace quillet
