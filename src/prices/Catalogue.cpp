@@ -86,7 +86,7 @@ std::string_view ChoicesOf(std::string_view sBraced) {
   return sBraced;
 }
 
-/// Calls `fnName` with `sBefore` and each text that the pattern stands for.
+/// Calls `fnName` with `sBefore` followed by each text that the pattern stands for.
 template <typename Function>
 void Expand(const std::string& sBefore, std::string_view sPattern, const Function& fnName) {
   const std::size_t nOpen = sPattern.find('{');
@@ -107,7 +107,7 @@ void Expand(const std::string& sBefore, std::string_view sPattern, const Functio
   }
 }
 
-/// True, and the suffix gone, if the text ends with it.
+/// True, and the suffix is removed, if the text ends with it.
 bool TakeSuffix(std::string_view& sText, std::string_view sSuffix) {
   const bool bEnds = sText.ends_with(sSuffix);
   sText.remove_suffix(bEnds ? sSuffix.size() : 0);

@@ -1,4 +1,4 @@
-// Every key that a region's rules ask the fee schedule for.
+// Every key that a region's rules look up in the fee schedule.
 #pragma once
 
 #include <cstdint>
@@ -16,7 +16,7 @@ enum class KeyKind {
   Text,
   Number,
   BandNumber,        ///< the value of a merchant-rate band
-  OverWeightNumber,  ///< one that is asked for only where first class has tiers
+  OverWeightNumber,  ///< looked up only if first class has tiers
   // Tier tables, by what is looked up in them.
   PriceTiers,        ///< an amount of money
   LotTiers,          ///< an amount of money times a quantity
@@ -63,7 +63,7 @@ class Catalogue {
 };
 
 /// The number of the tier that a key of a table belongs to: 3 for "OpeningRangeEnd3" and "Opening".
-/// 0 if it is no such key. Case doesn't matter.
+/// 0 if it isn't such a key. Case doesn't matter.
 [[nodiscard]] std::int32_t TierOfKey(std::string_view sKey, std::string_view sTable);
 
 }  // namespace quillet

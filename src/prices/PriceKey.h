@@ -1,4 +1,4 @@
-// Keys of prices, put together and hashed without touching the heap.
+// Price keys, built and hashed without using the heap.
 #pragma once
 
 #include <algorithm>
@@ -54,8 +54,8 @@ class KeyText {
   std::uint64_t m_nPower = 1;  ///< kBase to the number of characters
 };
 
-/// A key of at most 128 bytes that is put together from parts. One that grows beyond that is no key
-/// of any table: it reads as empty from then on.
+/// A key of at most 128 bytes, built from parts. One that grows longer is in no table: it reads as
+/// empty from then on.
 class PriceKey {
  public:
   PriceKey(const KeyText& oText) { Append(oText); }  // NOLINT: a text is a key
@@ -107,7 +107,7 @@ class PriceKey {
   State m_oState;
 };
 
-/// Keeps a key as it is: what is appended meanwhile goes when this goes out of scope.
+/// Restores a key: what is appended meanwhile is removed when this goes out of scope.
 class KeyBranch {
  public:
   explicit KeyBranch(PriceKey& oKey) : m_oKey(oKey), m_oState(oKey.m_oState) {}

@@ -22,7 +22,7 @@ enum class TierPart : std::size_t { Start, End, Value };
 inline constexpr std::array<KeyText, 3> kTierWords = {"RangeStart", "RangeEnd", "RangeValue"};
 inline constexpr KeyText kCountWord = "Ranges";
 
-/// One tier as the schedule has it. A number that is missing, or is none, is 0.
+/// One tier as the schedule has it. A number that is missing or invalid is 0.
 struct Tier {
   std::array<Single, kTierWords.size()> afNumbers;  ///< by TierPart
   bool bComplete = false;                           ///< all three are there
@@ -36,12 +36,12 @@ class PriceTable {
  public:
   /// A tier table as LinkTiers has found it.
   struct Tiers {
-    std::optional<std::int16_t> nCount;  ///< nothing if its text is no 16-bit integer
+    std::optional<std::int16_t> nCount;  ///< nothing if its text isn't a 16-bit integer
     std::uint32_t nFirst = 0;            ///< where tier 1 is
     std::uint32_t nLinked = 0;  ///< how many tiers are noted; the others are found by their keys
   };
 
-  /// Makes room for the entries of a text of so many bytes.
+  /// Makes room for the entries of a text of that many bytes.
   void Reserve(std::size_t nBytes);
 
   /// False if the key is there already; the first value then stays.
@@ -50,7 +50,7 @@ class PriceTable {
   /// The value, valid until the next Add or Clear; nothing if there is no such key.
   [[nodiscard]] std::optional<std::string_view> Find(const KeyText& oKey) const;
 
-  /// The value as a number; nothing if there is no such key, or its value is no number.
+  /// The value as a number; nothing if there is no such key or its value isn't a number.
   [[nodiscard]] std::optional<Single> FindNumber(const KeyText& oKey) const;
 
   /// Notes the tier tables and their tiers, which are found from then on, until the next Add.
@@ -65,7 +65,7 @@ class PriceTable {
     return nAt < oTiers.nLinked ? m_aoTiers[oTiers.nFirst + nAt] : FindTier(oName, nTier);
   }
 
-  /// The tiers of all tables, one behind the other, as LinkTiers has noted them.
+  /// The tiers of all tables, one after the other, as LinkTiers has noted them.
   [[nodiscard]] const std::vector<Tier>& AllTiers() const { return m_aoTiers; }
 
   [[nodiscard]] std::size_t Size() const { return m_aoEntries.size(); }
@@ -75,7 +75,7 @@ class PriceTable {
   [[nodiscard]] std::string_view KeyAt(std::size_t nEntry) const;
 
  private:
-  // Keys and values stand one behind the other in m_sTexts; an entry says where.
+  // Keys and values are stored one after the other in m_sTexts; an entry says where.
   struct Entry {
     std::uint32_t nKeyAt = 0;
     std::uint32_t nKeyLength = 0;

@@ -100,7 +100,7 @@ std::string Quoted(std::string_view sText) {
   }
   std::size_t nLength = kLongest;
   while (nLength > 0 && (static_cast<unsigned char>(sText[nLength]) & 0xC0U) == 0x80) {
-    --nLength;  // no character is cut apart
+    --nLength;  // no character is cut in two
   }
   return "\"" + std::string(sText.substr(0, nLength)) + "...\"";
 }

@@ -24,13 +24,13 @@ struct ScheduleEntry {
   std::string sKey;
   std::string sValue;
   std::size_t nLine = 0;
-  bool bAsked = false;  ///< somebody asks for this key
+  bool bAsked = false;  ///< this key is looked up
 };
 
 class Schedule {
  public:
   /// Splits the text into lines and entries, and reports duplicate keys and lines that look like
-  /// entries but are none.
+  /// entries but aren't.
   Schedule(std::string_view sText, const Catalogue& oCatalogue);
 
   /// The entry of a key, now marked as asked for; null if there is none.

@@ -9,11 +9,11 @@
 
 namespace quillet {
 
-/// What is wrong with the text of an update file of this program's region, by line. What is missing
-/// is found in the last line.
+/// What is wrong with the text of an update file of this program's region, by line. A missing key
+/// is reported at the last line.
 [[nodiscard]] std::vector<Finding> CheckSchedule(std::string_view sText);
 
-/// The first of these by which some sale can't be priced: a table is missing or lacks a number, or
+/// The first fault that keeps some sale from being priced: a table is missing or lacks a number, or
 /// a value isn't the number that it must be. Quicker, since nothing else is looked for.
 [[nodiscard]] std::optional<Finding> FirstMissingPrice(std::string_view sText);
 

@@ -32,7 +32,7 @@ struct Lot {
   }
 };
 
-/// A lot whose total, as the fee is asked for, lies between two others.
+/// A lot whose total, as used to look up the fee, is between two others.
 std::optional<Lot> LotBetween(Single fEnd, Single fStart) {
   constexpr std::int32_t kMostItems = 10'000;
   for (std::int32_t nQuantity = 1; nQuantity <= kMostItems; ++nQuantity) {
@@ -140,7 +140,7 @@ class TierCheck {
     }
   }
 
-  /// What is wrong with a tier by itself and behind the one before it.
+  /// What is wrong with a tier by itself and after the one before it.
   void CheckTier(const Tier& oTier) {
     if (!oTier.IsEndless() && oTier.fEnd < oTier.fStart) {
       Report(oTier.pEnd->nLine, oTier.Name() + " ends at " + oTier.pEnd->sValue +
@@ -168,7 +168,7 @@ class TierCheck {
     }
   }
 
-  /// A gap is where a value could stand: by the smallest step that the looked-up value takes.
+  /// A gap is one that a value could fall into, given the smallest step of the looked-up value.
   [[nodiscard]] bool IsGap(double fEnd, double fStart) const {
     constexpr double kCent = 0.01;
     constexpr double kGram = 0.001;

@@ -9,10 +9,10 @@
 
 namespace quillet {
 
-/// Reports whatever is wrong with a table, and asks for all of its keys.
+/// Reports whatever is wrong with a table, and marks all of its keys as looked up.
 void CheckTiers(Schedule& oSchedule, const CatalogueKey& oTable);
 
-/// The number under a key, which is reported if it is no number; nothing if there is none.
+/// The number under a key, which is reported if it isn't one; nothing if there is none.
 [[nodiscard]] std::optional<double> AskNumber(Schedule& oSchedule, const std::string& sKey);
 
 }  // namespace quillet

@@ -27,7 +27,7 @@ std::unique_ptr<clsPrices> g_oPrices;
   throw Failure(FailureNumber::FileAccess, sPath + ": " + sReason);
 }
 
-/// The file's text; a Failure if the last of `nAttempts` still couldn't read it.
+/// The file's text; throws a Failure if the last of `nAttempts` still couldn't read it.
 std::string ReadUpdateFile(const std::string& sPath, int nAttempts) {
   std::string sBytes;
   std::error_code oError;
@@ -53,7 +53,7 @@ std::vector<Single> AllOf(TierPart ePart, const std::vector<Tier>& aoTiers) {
   return afNumbers;
 }
 
-/// A tier table of the schedule, or the lack of it.
+/// A tier table of the schedule, which may be missing.
 class TierReader {
  public:
   TierReader(const PriceTable& oTable, const KeyText& oName, std::int32_t nShop)
@@ -65,7 +65,7 @@ class TierReader {
 
   [[nodiscard]] bool IsThere() const { return m_pTiers != nullptr; }
 
-  /// A Failure if the text isn't a 16-bit integer, or isn't there.
+  /// Throws a Failure if the text is missing or isn't a 16-bit integer.
   [[nodiscard]] std::int16_t Count() const {
     if (m_pTiers == nullptr || !m_pTiers->nCount) {
       RaiseNoCount();
@@ -117,7 +117,7 @@ void clsPrices::LoadUpdateFile() {
   }
 }
 
-/// A copy that is no use makes room for the program's file.
+/// An unusable copy makes way for the program's file.
 void clsPrices::LoadUsersCopy(const std::string& sPath) {
   try {
     LoadFile(sPath, kAttempts);

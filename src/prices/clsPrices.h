@@ -22,41 +22,41 @@ namespace quillet {
 /// separator, are read as such when they are loaded.
 class clsPrices {
  public:
-  /// Bytes; no sane fee schedule is larger, and none that is gets loaded.
+  /// Bytes. A larger file isn't loaded; real fee schedules are far smaller.
   static constexpr std::size_t kLargestFile = std::size_t{1} << 20U;
 
-  /// Reads the region's update file, in five attempts. A user's copy that is no use is put aside
-  /// for the file that came with the program, with a message. If that can't be read, or holds a key
-  /// twice, says so in a message box and closes the application; the table is left as far as it
-  /// got.
+  /// Reads the region's update file, in up to five attempts. An unusable user's copy is put aside,
+  /// with a message, and the file that came with the program is read. If that can't be read, or
+  /// holds a key twice, says so in a message box and closes the application; the table keeps what
+  /// was read.
   void LoadUpdateFile();
 
-  /// Reads a given file in one attempt; a Failure names the file and says what is wrong with it.
+  /// Reads a given file in one attempt; throws a Failure that names the file and its fault.
   void LoadFile(const std::string& sPath);
 
-  /// Takes entries from the text of an update file, on top of what the table holds. A key that is
-  /// there already is a Failure, and ends the reading.
+  /// Adds entries from the text of an update file to the table. A key that is there already ends
+  /// the reading and throws a Failure.
   void LoadText(std::string_view sText);
 
-  /// True and the text under a key as it stands; False and an empty text if there is none.
+  /// True and the text under a key as it is; False and an empty text if there is none.
   bool GetData(const KeyText& oName, std::string_view& sData) const;
 
-  /// True and the value; False, and `fValue` left alone, if the key is missing or no number.
+  /// True and the value; False, and `fValue` left alone, if the key is missing or not a number.
   bool GetPrice(const KeyText& oName, Single& fValue, std::int32_t nShop) const;
 
   /// Fills `oRange` with one tier, from 1. False, and `oRange` left alone, if there is no tier
-  /// table; False, and 0 in their place, if the tier lacks numbers. A count of tiers that isn't a
-  /// 16-bit integer is a Failure.
+  /// table; False, and 0 in their place, if the tier lacks numbers. Throws a Failure if the count
+  /// of tiers isn't a 16-bit integer.
   bool GetRange(const KeyText& oName, std::int16_t nRangeNumber, clsPriceRange& oRange,
                 std::int32_t nShop) const;
 
   /// Fills `oRange` with the first tier that holds a value, both its ends included. If none does:
-  /// False, m_nIndex 0, and the rest of the last tier tried. A tier table that is missing, or whose
-  /// count isn't a 16-bit integer, is a Failure.
+  /// False, m_nIndex 0, and the rest of the last tier tried. Throws a Failure if the tier table is
+  /// missing or its count isn't a 16-bit integer.
   bool HitTestRanges(const KeyText& oName, Single fHitTestValue, clsPriceRange& oRange,
                      std::int32_t nShop) const;
 
-  /// Where the tiers of all tables start and end, without those ends that are no limit: in order,
+  /// Where the tiers of all tables start and end, without the ends that mean no limit: in order,
   /// each once.
   struct TierEdges {
     std::vector<Single> afStarts;
@@ -66,7 +66,7 @@ class clsPrices {
 
   [[nodiscard]] const PriceTable& Table() const { return m_oTable; }
 
-  /// What keeps some sale from being priced, as LoadUpdateFile has found it.
+  /// What keeps some sale from being priced, as LoadUpdateFile found it.
   [[nodiscard]] const std::optional<Finding>& MissingPrice() const { return m_oMissingPrice; }
 
  private:

@@ -13,8 +13,9 @@ class clsTokeniser {
   /// Sets the separator; "," at first.
   void SetToken(std::string_view sToken) { m_sToken = sToken; }
 
-  /// Replaces the content by the fields of `sData` and keeps the separator: how many there are. A
-  /// text of more than 32,766 characters is a Failure. ParsedBlank is set but never cleared here.
+  /// Replaces the content with the fields of `sData`, keeps the separator, and returns the number
+  /// of fields. Throws a Failure on more than 32,766 characters. ParsedBlank is set but never
+  /// cleared here.
   std::int32_t Tokenise(std::string_view sData, std::string_view sToken);
 
   [[nodiscard]] std::int32_t Count() const { return m_lCount; }
@@ -25,7 +26,7 @@ class clsTokeniser {
   [[nodiscard]] bool IsEmpty() const { return m_lCount < 1 && !m_bParsedBlank; }
 
   /// The field at an index from 0. Places kept for later fields read as empty; an index beyond them
-  /// is a Failure.
+  /// throws a Failure.
   [[nodiscard]] const std::string& Element(std::int32_t lElementIdx) const;
 
   /// Appends a field. An empty one isn't stored: it sets ParsedBlank.

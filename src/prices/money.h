@@ -16,7 +16,7 @@ namespace quillet {
 [[nodiscard]] std::string CurrencySymbolText();
 
 /// How many smallest units make one of the currency: 10 to the power of the number of characters
-/// behind the first "." of the schedule's format, so 100 for "0.00"; 1 without one.
+/// after the first "." of the schedule's format, so 100 for "0.00"; 1 without one.
 [[nodiscard]] std::int32_t CurrencyUnitsPerMajor();
 
 }  // namespace quillet

@@ -7,8 +7,8 @@
 
 namespace quillet {
 
-/// A Failure that says why, if the schedule holds nothing that the region asks for; or if it lacks
-/// a table of tiers that the file `sPresent` has, as one does that was cut off.
+/// Throws a Failure that says why, if the schedule holds nothing that the region looks up, or lacks
+/// a table of tiers that the file `sPresent` has, as a file that was cut off may.
 void RequireReplacement(const clsPrices& oPrices, const std::string& sPresent);
 
 }  // namespace quillet

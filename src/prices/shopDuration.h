@@ -7,7 +7,7 @@
 
 namespace quillet {
 
-/// The values stand in auction files.
+/// The values are stored in auction files.
 enum eShop : std::int32_t {
   kShop30Days = 0,
   kShop90Days = 1,
