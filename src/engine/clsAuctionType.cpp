@@ -108,7 +108,7 @@ Single clsAuctionType::DoCalcFinalValueFee_UK(const clsOutlay& oOutlay) const {
     default:
       return 0;
   }
-  // Whether a tier was hit isn't asked: a price outside all tiers pays what the last of them says.
+  // Whether a tier matched is ignored: a price outside all tiers pays the last tier's value.
   clsPriceRange oTier;
   Prices().HitTestRanges("FinalMotor", oOutlay.m_fEstimatedEndPrice, oTier, kShopNone);
   Single fFee = oTier.m_fValue;

@@ -13,7 +13,7 @@ void RequireReplacement(const clsPrices& oPrices, const std::string& sPresent) {
     throw Failure(FailureNumber::TypeMismatch, "It holds no fees for " + EditionName() + ".");
   }
   clsPrices oPresent;
-  IgnoreFailure([&] { oPresent.LoadFile(sPresent); });  // a file that can't be read has nothing to lose
+  IgnoreFailure([&] { oPresent.LoadFile(sPresent); });  // an unreadable file has nothing to lose
   for (const CatalogueKey& oKey : oCatalogue.Keys()) {
     const std::string sCount = oKey.sName + std::string(kCountWord.Text());
     if (oKey.IsTable() && oPresent.Table().Find(sCount) && !oPrices.Table().Find(sCount)) {
