@@ -46,7 +46,7 @@ class Control {
   [[nodiscard]] bool Enabled() const;
   void SetEnabled(bool bEnabled);
 
-  /// A number as in Theme.h.
+  /// A colour as in palette.h.
   [[nodiscard]] std::uint32_t ForeColor() const { return m_nForeColor; }
   virtual void SetForeColor(std::uint32_t nColour);
 

@@ -7,8 +7,9 @@ namespace quillet {
 AuctionOptionsPanel::AuctionOptionsPanel(const AuctionOptions& oOptions, QWidget* pParent)
     : SectionPanel(oOptions.oDesign, pParent), m_oOptions(oOptions) {}
 
-/// No write is guarded: a click that it raises comes back here, until nothing changes any more.
-/// So a grey check box is never ticked: greying would untick it, and its click tick it again.
+/// No write is guarded: a click that it raises comes back here until nothing changes any more. So a
+/// greyed check box must never be ticked: greying would untick it, and its click would tick it
+/// again.
 void AuctionOptionsPanel::ApplyAuctionType(clsAuctionType& oAuctionType) {
   m_oAuctionType = &oAuctionType;
   for (const OptionRow& oRow : m_oOptions.aoRows) {

@@ -1,5 +1,5 @@
-// The small panels of options that refine the kind of listing: one class, and a table for each of
-// which options there are, and which code of the model each of them stands for.
+// The small panels of options that refine the kind of listing: one class, and for each panel a
+// table of its options and the model's code for each.
 #pragma once
 
 #include <cstdint>
@@ -16,7 +16,7 @@ struct OptionRow {
   const char* sCaption;
   int nTop;
   int nWidth;
-  std::int32_t nValue;  ///< what the model's field holds when the input is chosen
+  std::int32_t nValue;  ///< the value of the model's field when the input is chosen
   const char* sShowBox;
   const char* sTag;
 };
@@ -25,7 +25,7 @@ struct OptionRow {
 struct AuctionOptions {
   PanelDesign oDesign;
   std::int32_t clsAuctionType::*m_lField;
-  bool (*fnActive)(const clsAuctionType& oAuctionType);  ///< false: the inputs are grey
+  bool (*fnActive)(const clsAuctionType& oAuctionType);  ///< false: the inputs are greyed
   std::span<const OptionRow> aoRows;
 };
 

@@ -6,7 +6,7 @@
 
 namespace quillet {
 
-/// A figure that ends a gap before the right edge of its place, as far as the place has room.
+/// A figure that ends a little before the right edge of its place, if the place has room.
 class Figure : public Label {
  public:
   static constexpr int kGap = 150;  ///< twips
@@ -17,14 +17,14 @@ class Figure : public Label {
   void paintEvent(QPaintEvent* pEvent) override;
 };
 
-/// The profit, large, with its percentage smaller behind it. Shrinks what doesn't fit, so that the
-/// largest profit is shown whole.
+/// The profit, large, followed by its percentage, smaller. Shrinks what doesn't fit, so that even
+/// the largest profit is shown whole.
 class GrandTotal : public Label {
  public:
   explicit GrandTotal(QWidget* pParent) : Label(pParent) {}
 
-  /// Lets the amount end at a place of the panel, in twips, and take the room from `nFrom` on; both
-  /// 0 let it begin at the left of the label.
+  /// Makes the amount end at a place of the panel, in twips, and use the room from `nFrom` on; if
+  /// both are 0 it begins at the left of the label.
   void SetAmountPlace(int nFrom, int nEnd);
 
  protected:

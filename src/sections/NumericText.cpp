@@ -20,7 +20,7 @@ std::string Zeros(std::int16_t nCount) {
   return std::string(static_cast<std::size_t>(std::max<std::int16_t>(0, nCount)), '0');
 }
 
-/// How many of the last decimal place make one. The number of 16 bits ends at four places.
+/// How many of the last decimal place make one. 16 bits are enough for four places.
 std::int16_t DecimalDivisor(std::int16_t nDecimalPlaces) {
   const std::optional<std::int16_t> nDivisor = ToInteger("1" + Zeros(nDecimalPlaces));
   if (!nDivisor) {
@@ -74,7 +74,7 @@ void NumericText::SetDisplayValue(Single fValue, BoxText& oBox) const {
     oBox.nCaret = oBox.sText.size();
     return;
   }
-  // What is shown has the user's decimal character, whatever separator the box looks for.
+  // The text shown has the user's decimal character, whatever separator the box looks for.
   const bool bInDecimals = CaretRegion(oBox);
   oBox.sText = ToUtf16(sPrefix + FormatNumber(fShown, "0." + Zeros(m_nDecimalPlaces)));
   const std::size_t nAt = Position(oBox.sText, m_sDecimalSeperator);

@@ -1,5 +1,5 @@
-// The rules of a numeric box that need no toolkit: what its text is worth, how a number is shown,
-// where the caret stands and what a step does. Places in a text count UTF-16 units.
+// The rules of a numeric box that need no toolkit: the value of its text, how a number is shown,
+// where the caret is and what a step does. Places in a text count UTF-16 units.
 #pragma once
 
 #include <cstddef>
@@ -13,26 +13,25 @@
 
 namespace quillet {
 
-/// What stands in the box, and the caret in it: the start of the selection if there is one.
+/// The text in the box, and its caret: the start of the selection if there is one.
 struct BoxText {
   std::u16string sText;
   std::size_t nCaret = 0;
 };
 
 struct NumericText {
-  Single m_fMin;  ///< equal bounds are no bounds
+  Single m_fMin;  ///< equal bounds mean none
   Single m_fMax;
-  bool m_bShowMoney = false;  ///< the schedule's currency symbol stands in front
+  bool m_bShowMoney = false;  ///< show the schedule's currency symbol in front
   std::u16string m_sDecimalSeperator = u".";
   std::int16_t m_nDecimalPlaces = 0;
 
   [[nodiscard]] bool HasDecimals() const { return m_nDecimalPlaces >= 1; }
 
-  /// The nearest value within the bounds; bounds that are equal or the wrong way round bound
-  /// nothing.
+  /// The nearest value within the bounds; bounds that are equal or the wrong way round are ignored.
   [[nodiscard]] Single ClampValue(Single fValue) const;
 
-  /// What the text is worth (ToTypedSingle), or nothing if it is no number or too large for a
+  /// The value of the text (ToTypedSingle); nothing if it isn't a number or is too large for a
   /// Single.
   [[nodiscard]] std::optional<Single> ParseCurrentValue(std::u16string_view sText) const;
 
@@ -42,16 +41,15 @@ struct NumericText {
   /// True for a valid text whose number the box can show: without decimals it ends at 32 bits.
   [[nodiscard]] bool CanBeShown(std::u16string_view sText) const;
 
-  /// True if the caret stands behind the decimal separator.
+  /// True if the caret is after the decimal separator.
   [[nodiscard]] bool CaretRegion(const BoxText& oBox) const;
 
-  /// Shows the clamped value. With decimals the caret comes to stand next to the separator, on the
-  /// side that it was on, otherwise at the end. Without decimals a value beyond 32 bits is a
-  /// Failure.
+  /// Shows the clamped value. With decimals the caret moves next to the separator, on the side that
+  /// it was on; otherwise to the end. Without decimals a value beyond 32 bits throws a Failure.
   void SetDisplayValue(Single fValue, BoxText& oBox) const;
 
-  /// Adds `nDelta`, or so many of the last decimal place. A text that is no number stays. Five
-  /// decimal places or more have no decimal step: that is a Failure.
+  /// Adds `nDelta`, or that many of the last decimal place. A text that isn't a number stays.
+  /// Throws a Failure for five decimal places or more, which have no decimal step.
   void StepValue(std::int32_t nDelta, bool bInDecimals, BoxText& oBox) const;
 };
 

@@ -1,4 +1,4 @@
-// What a member of the family of panels is described by: the table of its controls, and switches.
+// The description of a member of the family of panels: the table of its controls, and switches.
 #pragma once
 
 #include <span>
@@ -32,32 +32,31 @@ struct ControlDesign {
   int nWidth;
   int nHeight;
   const char* sTag = "";
-  const char* sContainer = nullptr;                     ///< the Frame that it stands in
+  const char* sContainer = nullptr;                     ///< the Frame that it is in
   SectionPanel* (*fnMake)(QWidget* pParent) = nullptr;  ///< makes the sub-control
 };
 
-/// What a member differs in from the others.
+/// How a member differs from the others.
 struct PanelDesign {
   const char* sTypeName;      ///< such as "ctlOutlay"
   const char* sTitle;         ///< on the header, and in its place while it is hidden
   const char* sSectionKey;    ///< names the panel in the settings
-  const char* sReferenceBox;  ///< the Show box whose place gives the panel's width
+  const char* sReferenceBox;  ///< the Show box whose place sets the panel's width
   /// Whose list ApplyAllVisibility reads; null where the member has no such step.
   const char* sVisibilityList;
   /// The rows are registered once, at their design places, and a click on a Show box rereads the
   /// list. Else they are registered anew at each show, and after each click at the places that they
   /// then have.
   bool bAddingComplete;
-  bool bRowsByLabel;  ///< a Show box stands beside its row's label, whatever else the tag names
+  bool bRowsByLabel;  ///< a Show box is beside its row's label, whatever else the tag names
   int nWidth;
   int nHeight;
   /// In the order of the panel's collection, which the packing keeps within a row: a control that
-  /// the region can take out of a row stands ahead of its row-mates.
+  /// the region may remove from a row comes before its row-mates.
   std::span<const ControlDesign> aoControls;
 };
 
-/// Makes a control of the design's kind, for the parent to own; its place and words are still to be
-/// set.
+/// Makes a control of the design's kind, which the parent owns; its place and text aren't set yet.
 [[nodiscard]] Control* MakeOfKind(const ControlDesign& oDesign, QWidget* pParent);
 
 }  // namespace quillet

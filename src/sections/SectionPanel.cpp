@@ -26,7 +26,7 @@ bool Contains(const std::string& sText, const std::string& sPart) {
   return sText.find(sPart) != std::string::npos;
 }
 
-/// Tells what stands in a Frame from what doesn't.
+/// Tells what is in a Frame from what isn't.
 bool InContainersOfOneType(const Control& a, const Control& b) {
   return std::string_view(a.Container()->TypeName()) == b.Container()->TypeName();
 }
@@ -59,7 +59,7 @@ void SectionPanel::MakeControl(const ControlDesign& oControl) {
   Listen(*pControl);
 }
 
-/// Every event ends here: there is nobody to tell if a routine that it starts fails.
+/// Every event ends here: a Failure has no caller to reach.
 void SectionPanel::Listen(Control& oControl) {
   const auto fnClicked = [this, &oControl] { IgnoreFailure([&] { InputClicked(oControl); }); };
   if (IsShowCheck(oControl)) {
@@ -152,7 +152,7 @@ void SectionPanel::SetRowCaption(Control& oNamed, const QString& sCaption) {
 void SectionPanel::showEvent(QShowEvent* pEvent) {
   QWidget::showEvent(pEvent);
   if (pEvent->spontaneous()) {
-    return;  // the window comes back from being minimised
+    return;  // the window is being restored from minimised
   }
   for (Control* const pControl : m_aoControls) {
     ApplyThemeColours(*pControl);
@@ -175,7 +175,7 @@ int SectionPanel::ContentLeft() const {
   return nLeft;
 }
 
-/// A section covers what it was dragged onto, and bears its name, small, in the place of the header
+/// A section covers what it was dragged onto, and shows its name, small, in place of the header
 /// while that is hidden.
 void SectionPanel::paintEvent(QPaintEvent* /*pEvent*/) {
   const SectionHeader* const pHeader = Header();
@@ -217,8 +217,8 @@ void SectionPanel::EnsureVisibleList() {
   }
 }
 
-/// A show takes the places of the design: by then the rows may be packed, the hidden ones still
-/// where others have come to stand, and what stands on one top would count as one row.
+/// A show uses the places of the design: by then rows may have been packed onto the places of
+/// hidden ones, and controls with the same top would count as one row.
 void SectionPanel::BuildLocator(RowPlaces ePlaces) {
   m_oLocator.Reset();
   m_oLocator.SetSection(SectionKey());
@@ -281,7 +281,7 @@ void SectionPanel::ApplyAllVisibility() {
   }
 }
 
-/// The panel's height is the bottom of the last control placed, whatever its neighbours' are.
+/// The panel's height is the bottom of the last control placed, not of the lowest.
 void SectionPanel::PlaceControls() {
   UpdateControlHeights();
   m_oLocator.UpdateVisibility();
@@ -307,8 +307,8 @@ void SectionPanel::PlaceControls() {
   SetHeight(nHeight);
 }
 
-/// Out of config mode the boxes stand beyond the panel's edge: so that a screen reader passes over
-/// them too, their widgets are hidden, whatever their own flags say.
+/// Out of config mode the boxes are beyond the panel's edge. Their widgets are hidden too, whatever
+/// their own flags say, so that a screen reader skips them.
 void SectionPanel::EnableShowChecks() {
   for (Control* const pControl : m_aoControls) {
     if (IsShowCheck(*pControl)) {
@@ -370,7 +370,7 @@ SectionHeader* SectionPanel::Header() const {
   return dynamic_cast<SectionHeader*>(Find("imgHeader"));
 }
 
-/// A control that a row is made of: what stands in a Frame goes with its Frame.
+/// A control that belongs to a row by itself: what is in a Frame goes with its Frame.
 bool SectionPanel::IsRow(const Control& oControl) const {
   return !IsHeaderImage(oControl) && !IsShowCheck(oControl) && oControl.Container() == this;
 }

@@ -1,10 +1,10 @@
 // The family of input panels: the sections of an auction and the sub-controls within them.
 //
 // A member is a table of its controls and a few switches (PanelDesign), its Apply routine and its
-// UpdateModel; everything else stands here once. Beside each row of inputs stands a box captioned
-// "Show", and the rows whose boxes are ticked are stored as a list of tags. In config mode
-// (ShowConfig) the boxes are on view and every row is shown; in normal mode only the stored rows
-// are, packed upwards, and the panel shrinks to fit. Rows that the region lacks are gone in both.
+// UpdateModel; everything else is here, once. Beside each row of inputs is a box captioned "Show",
+// and the rows whose boxes are ticked are stored as a list of tags. In config mode (ShowConfig) the
+// boxes are visible and every row is shown; in normal mode only the stored rows are, packed
+// upwards, and the panel shrinks to fit. Rows that the region lacks are hidden in both.
 #pragma once
 
 #include <QWidget>
@@ -39,12 +39,12 @@ class SectionPanel : public QWidget, public Control {
   [[nodiscard]] const char* SectionKey() const { return m_oDesign.sSectionKey; }
   [[nodiscard]] const char* Title() const { return m_oDesign.sTitle; }
 
-  /// Config mode of this panel. Every write lays the panel out anew, its sub-controls first.
+  /// Config mode of this panel. Every write lays the panel out again, its sub-controls first.
   [[nodiscard]] bool ShowConfig() const { return m_bShowConfig; }
   void SetShowConfig(bool bShowConfig);
 
-  /// The parent tells that the panel has received or lost the focus: in config mode the header
-  /// comes up for as long.
+  /// The parent calls this when the panel gets or loses the focus: in config mode the header shows
+  /// while it has it.
   void GotFocus();
   void LostFocus();
 
@@ -58,11 +58,11 @@ class SectionPanel : public QWidget, public Control {
   /// Where the rows begin, in twips from the panel's left.
   [[nodiscard]] int ContentLeft() const;
 
-  /// Every input, those of sub-controls too, row by row.
+  /// Every input, including those of sub-controls, row by row.
   [[nodiscard]] QList<QWidget*> InputsInReadingOrder() const;
 
  signals:
-  /// The header is being dragged: how far the pointer is from where it was pressed, in twips.
+  /// While the header is dragged: how far the pointer is from where it was pressed, in twips.
   void Moved(float fX, float fY);
   /// The panel has written its inputs into its model.
   void Changed();
@@ -73,15 +73,15 @@ class SectionPanel : public QWidget, public Control {
 
   /// Writes the inputs into the model and raises Changed.
   virtual void UpdateModel() = 0;
-  /// What the user, or the code, has done to an input other than a Show box.
+  /// Called when the user, or the code, has changed an input other than a Show box.
   virtual void InputClicked(Control& /*oInput*/) { UpdateModel(); }
   /// Adds names to a list that has no Show box for them; true if it added any.
   virtual bool AddOwnNames(clsTokeniser& /*oList*/) const { return false; }
-  /// Whether AddOwnNames also has its say when the user's ticks are stored.
+  /// Whether AddOwnNames is also called when the user's ticks are stored.
   [[nodiscard]] virtual bool StoresOwnNames() const { return false; }
-  /// What a member does beside moving a control to its row's new place.
+  /// What a member does besides moving a control to its row's new place.
   virtual void AfterPlacing(const Control& /*oPlaced*/) {}
-  /// The Show boxes can be reached in config mode only, and stand beside their rows.
+  /// The Show boxes can be reached only in config mode, and are beside their rows.
   virtual void EnableShowChecks();
 
   /// A control of a known kind; there must be one of that name.
@@ -98,7 +98,7 @@ class SectionPanel : public QWidget, public Control {
   [[nodiscard]] std::int32_t ChosenOf(std::span<const OptionCode> aoOptions,
                                       std::int32_t nNone) const;
 
-  /// Sets the caption that a row goes by, and with it what its input and its Show box are called.
+  /// Sets a row's caption, and with it the names of its input and its Show box.
   void SetRowCaption(Control& oNamed, const QString& sCaption);
 
   void showEvent(QShowEvent* pEvent) override;
@@ -114,7 +114,7 @@ class SectionPanel : public QWidget, public Control {
   void Listen(Control& oControl);
   void NameTheInputs();
 
-  /// At which tops and heights the rows are registered.
+  /// The tops and heights at which the rows are registered.
   enum class RowPlaces { kDesigned, kAsTheyStand };
 
   void EnsureVisibleList();

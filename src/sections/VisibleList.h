@@ -9,12 +9,12 @@
 
 namespace quillet {
 
-/// The stored list of a section. IsEmpty is true of one that was never stored, and false of one
-/// that was stored without a word.
+/// The stored list of a section. IsEmpty is true for one that was never stored, and false for one
+/// that was stored without any words.
 [[nodiscard]] clsTokeniser LoadVisibleList(const std::string& sSectionKey);
 
-/// False if the settings can't be written. Where none is stored, the list then holds for as long as
-/// the program runs.
+/// False if the settings can't be written. If none is stored, the list then holds while the program
+/// runs.
 bool SaveVisibleList(const std::string& sSectionKey, const clsTokeniser& oList);
 
 /// True if any word of the list occurs in `sName`, in the same case.

@@ -62,14 +62,14 @@ void clsControlLocator::BuildList(bool bApplyList) {
   SortByTop();
   m_aoIncluded.clear();
   m_asExcluded.clear();
-  // Packing begins where the design's first row stands, whether or not that row is shown.
+  // Packing begins where the design's first row is, whether or not that row is shown.
   std::int32_t lTop = m_aoControls.front().lTop;
   for (std::size_t i = 0; i < m_aoControls.size(); ++i) {
     const Registered& oControl = m_aoControls[i];
     const bool bInclude = (!bApplyList || oControl.bInList) && RegionAllowsControl(oControl.sName);
     if (!bInclude) {
-      // The top stays even if the row ends here, so a dropped row costs no space. It stays, too, if
-      // the row had controls to show before this one: the next row then lies on top of them, which
+      // The top stays even if the row ends here, so a dropped row takes no space. It also stays if
+      // the row had controls to show before this one: the next row then overlaps them, which
       // sections avoid by the order of their controls.
       m_asExcluded.push_back(oControl.sName);
       continue;

@@ -1,6 +1,6 @@
 // Packs the rows of a section: from the controls' design places, the stored list of wanted rows and
 // the region it works out what to show, at which top, and what to hide. It moves nothing itself.
-// A row is what has one design top. All measures are twips.
+// Controls with the same design top form a row. All measures are twips.
 #pragma once
 
 #include <cstddef>
@@ -22,18 +22,18 @@ class clsControlLocator {
   /// Starts over as if new, unless AddingComplete is set. Always false.
   bool Reset();
 
-  /// Registers a control at its design place. What stands in a Frame moves with it and isn't
+  /// Registers a control at its design place. A control in a Frame moves with it and isn't
   /// registered; nothing is once AddingComplete is set.
   void AddControl(const std::string& sName, std::int32_t lTop, std::int32_t lHeight, bool bInFrame);
 
-  /// From now on what is registered stays.
+  /// From now on the registered controls stay.
   void SetAddingComplete(bool bComplete) { m_bAddingComplete = bComplete; }
   [[nodiscard]] bool AddingComplete() const { return m_bAddingComplete; }
 
-  /// How high a control has become; counts at the next BuildList.
+  /// Sets a control's new height; takes effect at the next BuildList.
   void UpdateHeight(const std::string& sName, std::int32_t lHeight);
 
-  /// Reads the stored list anew; counts at the next BuildList.
+  /// Rereads the stored list; takes effect at the next BuildList.
   void UpdateVisibility();
 
   /// Packs the rows that the region has and, with `bApplyList`, the stored list names.

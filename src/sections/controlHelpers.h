@@ -10,7 +10,7 @@
 
 namespace quillet {
 
-// Colours as in Theme.h, from the settings.
+// Colours as in palette.h, from the settings.
 [[nodiscard]] std::uint32_t SubtotalColour();  ///< of section totals
 [[nodiscard]] std::uint32_t TotalColour();     ///< of the profit
 
@@ -18,8 +18,8 @@ namespace quillet {
 /// text to any other. Other controls stay as they are.
 void ApplyThemeColours(Control& oControl);
 
-/// Greys or ungreys an input. A numeric box is also disabled and leaves the tab order, a check box
-/// that goes grey is unticked; with `bAlsoContainer` the Frame around it is disabled or enabled.
+/// Greys or ungreys an input. A numeric box is also disabled and leaves the tab order, a greyed
+/// check box is unticked; with `bAlsoContainer` the Frame around it is disabled or enabled.
 void SetControlActive(bool bActive, Control& oControl, bool bAlsoContainer);
 
 /// A box captioned "Show": a CheckBox whose name contains "chkShow".

@@ -92,7 +92,7 @@ void ctlAuctionType::InputClicked(Control& oInput) {
   UpdateModel();
 }
 
-/// The shop takes standard auctions only: whichever of the two was clicked last wins.
+/// The shop takes only standard auctions: whichever of the two was clicked last wins.
 void ctlAuctionType::SyncShopInventory(bool bShopClicked) {
   if (!bShopClicked) {
     SetValueOf("chkShopInventory", 0);

@@ -21,14 +21,14 @@ constexpr int kDesignWidth = 1980;
 constexpr int kDesignHeight = 345;
 constexpr int kSpinUnit = 255;  // the spin button is as many of these wide as it is high
 constexpr int kTextMargin = 60;
-constexpr int kNarrow = 1000;  // a box so wide needs all its room to hold "$999.99"
+constexpr int kNarrow = 1000;  // a box this wide needs all its room for "$999.99"
 constexpr int kNarrowMargin = 15;
 constexpr int kRightMargin = -30;  // the toolkit leaves room of its own
 constexpr int kFreeBelow = 20;     // boxes on neighbouring rows don't touch
 constexpr int kKeyStep = 1;
 constexpr int kShiftedKeyStep = 10;
 
-/// Lets everything pass, but for the line break behind a number that is copied from a spreadsheet.
+/// Lets everything pass except the line break after a number copied from a spreadsheet.
 class DropTrailingBreaks : public QValidator {
  public:
   using QValidator::QValidator;
@@ -64,7 +64,7 @@ ctlNumericText::ctlNumericText(QWidget* pParent)
   m_pText->setPalette(oPalette);
   m_pText->installEventFilter(this);
   m_pSpin->setObjectName("UpDown1");
-  // A click on the spin button finds the focus in the text, and moves it nowhere else.
+  // A click on the spin button puts the focus in the text and nowhere else.
   setFocusPolicy(Qt::StrongFocus);
   setFocusProxy(m_pText);
   connect(m_pText, &QLineEdit::textChanged, this, &ctlNumericText::txtValue_Change);
@@ -97,7 +97,7 @@ std::string ctlNumericText::Text() const {
 
 void ctlNumericText::SetText(const std::string& sText) {
   if (!IsNumeric(sText)) {
-    if (sText != Text()) {  // else the caret stays where a step has put it
+    if (sText != Text()) {  // else the caret stays where a step put it
       m_pText->setText(QString::fromStdString(sText));
     }
     return;
@@ -149,7 +149,7 @@ BoxText ctlNumericText::Box() const {
   return {m_pText->text().toStdU16String(), static_cast<std::size_t>(nCaret)};
 }
 
-/// What stays as it is keeps its selection and its history of changes.
+/// An unchanged text keeps its selection and its undo history.
 void ctlNumericText::Show(const BoxText& oBox) {
   const BoxText oBefore = Box();
   if (oBox.sText != oBefore.sText) {
@@ -160,9 +160,9 @@ void ctlNumericText::Show(const BoxText& oBox) {
   }
 }
 
-/// The keys' events end here: there is nobody to tell of a failure. The toolkit's text box
-/// does nothing of its own with the arrows, so the caret stays where the step has put it. Enter
-/// goes on to whoever has a use for it.
+/// Key events end here: a Failure has no caller to reach. The toolkit's text box doesn't handle the
+/// arrows itself, so the caret stays where the step put it. Enter is passed on unless the text is
+/// refused.
 bool ctlNumericText::txtValue_KeyDown(const QKeyEvent& oEvent) {
   if (oEvent.key() == Qt::Key_Return || oEvent.key() == Qt::Key_Enter) {
     const bool bEntered = CommitTyping();
@@ -210,9 +210,9 @@ void ctlNumericText::SetRefused(bool bRefused) {
   }
 }
 
-/// The text takes the focus for the whole control, so both are left at once: first the good text
-/// comes back, so that whoever listens reads no number that isn't there to stay. That it isn't what
-/// was typed is to be seen until the box gets another text.
+/// The text takes the focus for the whole control, so both are left at once. The good text comes
+/// back first, so that listeners read the number that stays. The red edge shows that it isn't what
+/// was typed, until the box gets another text.
 void ctlNumericText::UserControl_LostFocus() {
   const std::u16string sText = m_pText->text().toStdU16String();
   const bool bValid = m_oNumber.IsTextValid(sText);
@@ -267,8 +267,8 @@ bool ctlNumericText::eventFilter(QObject* pWatched, QEvent* pEvent) {
   return QWidget::eventFilter(pWatched, pEvent);
 }
 
-/// Steps as the spin button does, in the box that has the focus: over any other the page scrolls.
-/// With Ctrl held the wheel belongs to the window's zoom.
+/// Steps like the spin button in the box that has the focus; over any other the page scrolls. With
+/// Ctrl held the wheel zooms the window.
 void ctlNumericText::wheelEvent(QWheelEvent* pEvent) {
   constexpr int kNotch = 120;
   if (!m_pText->hasFocus() || (pEvent->modifiers() & Qt::ControlModifier) != 0 ||

@@ -2,7 +2,7 @@
 // and a spin button. The arrow keys and the spin button step the number: left of the decimal
 // separator by whole units, right of it by the last decimal place. Anything may be typed; when the
 // focus leaves with a bad text, the last good one comes back, and the edge stays red until the box
-// gets another text or is left anew.
+// gets another text or is left again.
 #pragma once
 
 #include <QLineEdit>
@@ -33,30 +33,30 @@ class ctlNumericText : public QWidget, public Control {
   void SetDecimalPlaces(std::int16_t nPlaces);
   [[nodiscard]] bool ShowMoney() const { return m_oNumber.m_bShowMoney; }
   void SetShowMoney(bool bShowMoney);
-  /// "." at first. It is what is looked for in the text; what is shown has the user's own
-  /// (Host::DecimalSeparator), so an owner sets it to that.
+  /// "." at first. This one is looked for in the text; the text shown has the user's own
+  /// (Host::DecimalSeparator), so owners set it to that.
   [[nodiscard]] std::string DecimalSeperator() const;
   void SetDecimalSeperator(const std::string& sSeparator);
 
-  /// The bounds; equal ones, as at first, are none. What is shown stays until it is next written.
+  /// The bounds; equal ones, as at first, mean none. The shown text stays until it is next written.
   [[nodiscard]] Single Min() const { return m_oNumber.m_fMin; }
   void SetMin(Single fMin) { m_oNumber.m_fMin = fMin; }
   [[nodiscard]] Single Max() const { return m_oNumber.m_fMax; }
   void SetMax(Single fMax) { m_oNumber.m_fMax = fMax; }
 
-  /// What stands in the box, with the currency symbol. A number that is written is shown in the
-  /// box's format and within its bounds, any other text as it is; it raises nothing. A number too
-  /// large for a Single, or without decimals for 32 bits, is a Failure.
+  /// The text in the box, with the currency symbol. Writing a number shows it in the box's format
+  /// and within its bounds, any other text as it is; it raises nothing. Throws a Failure for a
+  /// number too large for a Single, or without decimals for 32 bits.
   [[nodiscard]] std::string Text() const;
   void SetText(const std::string& sText);
 
-  /// The number in the box; 0 if the text is none. What is written is ignored: the box only shows
+  /// The number in the box; 0 if the text isn't one. A written value is ignored: the box only shows
   /// its own number in its format again.
   [[nodiscard]] Single Value() const;
   void SetValue(Single fIgnored);
 
-  /// A number as in Theme.h; in an input, window text is the colour of its text, and window that
-  /// of its ground.
+  /// A colour as in palette.h; in an input, "window text" is the colour of its text, and "window"
+  /// that of its background.
   void SetForeColor(std::uint32_t nColour) override;
   [[nodiscard]] std::uint32_t BackColor() const { return m_nBackColor; }
   void SetBackColor(std::uint32_t nColour);
@@ -66,18 +66,18 @@ class ctlNumericText : public QWidget, public Control {
 
   void Refresh() { update(); }
 
-  /// Enters what was typed, as leaving the box does. One that nobody has typed into has nothing to
-  /// enter. False, and a red edge, if it was refused.
+  /// Enters what was typed, as leaving the box does; does nothing if nothing was typed. False, and
+  /// a red edge, if it was refused.
   bool CommitTyping();
 
   /// The same for the box that has the focus, if one has.
   static bool CommitFocused();
 
-  /// Takes the red edge back, for another auction's amount.
+  /// Removes the red edge, for another auction's amount.
   void ForgetRefusal() { SetRefused(false); }
 
-  /// Moves the focus to a view for the program's own sake. A box that is left by it enters what was
-  /// typed, and is silent where nothing was.
+  /// Moves the focus to a view on the program's own account. A box that loses it enters what was
+  /// typed, and raises nothing if nothing was.
   static void LeaveFor(QWidget& oView);
 
   /// The part that takes the focus.
@@ -109,7 +109,7 @@ class ctlNumericText : public QWidget, public Control {
   std::u16string m_sLastValidText;
   int m_nLastSpinValue = 0;
   int m_nWheel = 0;         ///< how far the wheel has turned since the last step
-  bool m_bRefused = false;  ///< what the user typed is no number for this box
+  bool m_bRefused = false;  ///< what the user typed isn't a number for this box
   std::uint32_t m_nBackColor = kColourWindow;
   QLineEdit* m_pText;
   SpinButton* m_pSpin;

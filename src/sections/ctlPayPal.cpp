@@ -57,8 +57,8 @@ constexpr std::array kAccounts =
 
 ctlPayPal::ctlPayPal(QWidget* pParent) : SectionPanel(kDesign, pParent) {}
 
-/// The bands have no Show box, so that their panel's own name stands in the list for them. It is
-/// missing from a list that the user's ticks have just made, until the section is shown again.
+/// The bands have no Show box, so their panel's own name is in the list for them. It is missing
+/// from a list that the user's ticks have just made, until the section is shown again.
 bool ctlPayPal::AddOwnNames(clsTokeniser& oList) const {
   if (oList.Exists(kBusinessTypes, false)) {
     return false;

@@ -13,7 +13,7 @@ class ctlPayPal : public SectionPanel {
   explicit ctlPayPal(QWidget* pParent);
 
   /// Shows a model, and writes into it from then on. The model takes the outlay for its latest.
-  /// Both must outlive the panel; a null outlay is a Failure.
+  /// Both must outlive the panel; a null outlay throws a Failure.
   void ApplyFeatures(clsPayPal& oPayPal, const clsOutlay* oOutlay);
 
  protected:

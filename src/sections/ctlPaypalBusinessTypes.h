@@ -13,7 +13,7 @@ class ctlPaypalBusinessTypes : public SectionPanel {
   explicit ctlPaypalBusinessTypes(QWidget* pParent);
 
   /// Shows a model, which must outlive the panel, and writes into it from then on: at once, if
-  /// another band was on show.
+  /// another band was shown.
   void ApplyFeatures(clsPayPal& oPayPal);
 
  protected:

@@ -24,7 +24,7 @@ constexpr ControlDesign ShowBox(const char* sName, int nTop, const char* sTag) {
   return {sName, kCheckBox, "Show", 3480, nTop, 855, 255, sTag};
 }
 
-// Within a row the control that has the caption comes first: the Show box is called after it.
+// Within a row the control that has the caption comes first: it names the Show box.
 constexpr std::array kControls = std::to_array<ControlDesign>({
     {"chkProfit", kCheckBox, "Make Profit", 0, 4280, 1815, 255},
     {"txtProfit", kMoney, "", 1920, 4280, 1335, 255},
@@ -129,7 +129,7 @@ void ctlPostage::ShowPrices(const clsPostage& oPostage) {
   fnShow("lblProofOfDelivery", oPostage.DoCalcOnProofOfDelivery());
 }
 
-/// What is grey still takes a click, but for the profit's amount and what stands in a Frame:
+/// A greyed input can still be clicked, except the profit's amount and what is in a Frame:
 /// UpdateModel undoes the choice.
 void ctlPostage::ShowWhatIsOpen(const clsPostage& oPostage, const clsOutlay& oOutlay) {
   const auto fnShow = [this](const std::string& sService, bool bOpen) {
@@ -154,7 +154,7 @@ void ctlPostage::UpdateModel() {
   clsPostage& oPostage = *m_oPostage;
   oPostage.m_bEnabled = ValueOf("chkUsePostage") != 0;
   oPostage.m_fWeight = The<ctlNumericText>("txtWeight").Value();
-  // A class that has no price at this weight is passed over; manual postage always has one.
+  // A class that has no price at this weight is skipped; manual postage always has one.
   std::int32_t& eClass = oPostage.m_ePostageClass;
   eClass = ChosenOf(kClasses, eClass);
   while (!oPostage.CanHaveClass(eClass)) {
@@ -163,7 +163,7 @@ void ctlPostage::UpdateModel() {
   oPostage.m_fManualPostage = The<ctlNumericText>("txtManual").Value();
   oPostage.m_bRecordedDelivery =
       ValueOf("chkRecordedDelivery") != 0 && oPostage.CanHaveRecordedDelivery();
-  // Behind the recorded delivery, which it needs.
+  // After recorded delivery, which it needs.
   oPostage.m_bProofOfDelivery =
       ValueOf("chkProofOfDelivery") != 0 && oPostage.CanHaveProofOfDelivery();
   oPostage.m_bMakeProfit = ValueOf("chkProfit") != 0;
@@ -174,8 +174,7 @@ void ctlPostage::UpdateModel() {
   emit Changed();
 }
 
-/// The words of three rows don't name them as the region knows them: those boxes are hidden with
-/// their rows.
+/// The tags of three rows aren't the names that the region knows: hide those boxes with their rows.
 void ctlPostage::EnableShowChecks() {
   for (Control* const pControl : Controls()) {
     if (IsShowCheck(*pControl)) {

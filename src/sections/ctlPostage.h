@@ -1,4 +1,4 @@
-// The section of how the item is sent, with the price of each service beside it.
+// The section for how the item is sent, with the price of each service beside it.
 #pragma once
 
 #include "engine/clsPostage.h"
@@ -12,8 +12,8 @@ class ctlPostage : public SectionPanel {
  public:
   explicit ctlPostage(QWidget* pParent);
 
-  /// Shows a model, and writes into it from then on. Both must outlive the panel; a null outlay is
-  /// a Failure.
+  /// Shows a model, and writes into it from then on. Both must outlive the panel; a null outlay
+  /// throws a Failure.
   void ApplyFeatures(clsPostage& oPostage, const clsOutlay* oOutlay);
 
  protected:

@@ -13,7 +13,7 @@ class ctlPostageParcelInsurance : public SectionPanel {
   explicit ctlPostageParcelInsurance(QWidget* pParent);
 
   /// Shows a model, which must outlive the panel, and writes into it from then on: at once, if
-  /// another band was on show.
+  /// another band was shown.
   void ApplyAuctionType(clsPostage& oPostage);
 
  protected:

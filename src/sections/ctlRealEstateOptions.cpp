@@ -36,8 +36,8 @@ constexpr PanelDesign kDesign = {.sTypeName = "ctlRealEstateOptions",
 
 ctlRealEstateOptions::ctlRealEstateOptions(QWidget* pParent) : SectionPanel(kDesign, pParent) {}
 
-/// No write is guarded. In particular a box that goes grey is unticked, and its click takes the
-/// flag from the listing too.
+/// No write is guarded. In particular a greyed box is unticked, and its click clears the listing's
+/// flag too.
 void ctlRealEstateOptions::ApplyAuctionType(clsAuctionType& oAuctionType) {
   m_oAuctionType = &oAuctionType;
   for (const char* const sName : kInnerPanels) {

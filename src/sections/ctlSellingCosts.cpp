@@ -81,7 +81,7 @@ ctlSellingCosts::ctlSellingCosts(QWidget* pParent)
   SetMode(0);
 }
 
-/// A figure reads as the number alone: a screen reader adds what it is of.
+/// A figure's text is only the number: this tells a screen reader what it is.
 void ctlSellingCosts::DescribeFigures() {
   for (std::size_t i = 0; i + 1 < m_aoLabels.size(); i += 2) {
     m_aoLabels[i + 1]->setAccessibleDescription(m_aoLabels[i]->text());

@@ -1,4 +1,4 @@
-// The summary: the eight figures that a calculation comes to.
+// The summary: the eight figures that a calculation gives.
 #pragma once
 
 #include <QWidget>

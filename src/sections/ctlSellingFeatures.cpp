@@ -16,7 +16,7 @@ namespace {
 using enum ControlKind;
 using F = clsSellingFeatures;
 
-/// A row that is a box; with a Frame around it, if it can be closed.
+/// A row with one box; with a Frame around it if it can be closed.
 struct FeatureRow {
   eFeature eBit;
   const char* sBox;
@@ -137,8 +137,8 @@ bool IsVehicleOrParts(const clsAuctionType& oType) {
 /// A box is open if its price isn't below 0 and the listing is of the right kind.
 struct Opening {
   const char* sBox;
-  Single F::*fPrice;                        ///< null where the price has no say
-  bool (*fnAllows)(const clsAuctionType&);  ///< null where any listing will do
+  Single F::*fPrice;                        ///< null if the price doesn't matter
+  bool (*fnAllows)(const clsAuctionType&);  ///< null if any listing will do
 };
 
 /// One after the other: of two lines for a box the latter decides whether it is open, and either
@@ -234,8 +234,8 @@ void ctlSellingFeatures::InputClicked(Control& oInput) {
   UpdateModel();
 }
 
-/// The picture pack bounds the number of pictures by its first tier and its last, under a key that
-/// takes no account of the kind of listing.
+/// The picture pack limits the number of pictures by its first and last tier, under a key that
+/// ignores the kind of listing.
 void ctlSellingFeatures::SetPictureBounds() {
   auto& oCount = The<ctlNumericText>("txtExtraPictures");
   if (ValueOf("chkPicturePack") == 0) {

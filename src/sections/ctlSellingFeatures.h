@@ -1,4 +1,4 @@
-// The section of the paid extras of a listing: a box each, and how many extra pictures.
+// The section for the paid extras of a listing: a box for each, and the number of extra pictures.
 #pragma once
 
 #include "engine/clsSellingFeatures.h"
@@ -12,17 +12,17 @@ class ctlSellingFeatures : public SectionPanel {
  public:
   explicit ctlSellingFeatures(QWidget* pParent);
 
-  /// Shows a model, and writes into it from then on. What is open follows the prices of the model's
-  /// latest DoCalc; the total shown is of a new one. All three must outlive the panel, and a null
-  /// listing is a Failure.
+  /// Shows a model, and writes into it from then on. Which boxes are open follows the prices of the
+  /// model's latest DoCalc; the total shown is from a new one. All three must outlive the panel; a
+  /// null listing throws a Failure.
   void ApplyFeatures(clsSellingFeatures& oFeatures, const clsAuctionType* oAuctionType,
                      const clsOutlay* oOutlay);
 
   /// Unticks the car ad, whose box ApplyFeatures leaves alone.
   void UntickCarAd();
 
-  /// Writes the boxes into the model if that holds a feature whose box is unticked, and tells
-  /// whether it did. A car ad whose box is open is no reason for it.
+  /// Writes the boxes into the model if that has a feature whose box is unticked, and returns
+  /// whether it did. A car ad whose box is open doesn't count.
   bool DropUnticked();
 
  protected:

@@ -10,7 +10,7 @@ namespace {
 
 using ControlSpan = std::span<Control* const>;
 
-/// The words on a control, or on the first one that stands in it.
+/// The text of a control, or of the first one inside it.
 QString CaptionOf(ControlSpan aoControls, const Control& oControl) {
   const auto pFound = std::find_if(aoControls.begin(), aoControls.end(), [&](const Control* p) {
     return (p == &oControl || p->Container() == &oControl) && !p->Caption().isEmpty();
@@ -18,8 +18,8 @@ QString CaptionOf(ControlSpan aoControls, const Control& oControl) {
   return pFound == aoControls.end() ? QString() : WordsOf(**pFound);
 }
 
-/// The words in a control's row, a label's rather than a box's. The row is known by its place in
-/// the design: packed rows come to stand where hidden ones were.
+/// The text in a control's row, a label's rather than a box's. The row is known by its place in the
+/// design: packed rows end up where hidden ones were.
 QString CaptionBeside(ControlSpan aoControls, std::span<const ControlDesign> aoDesigns,
                       std::size_t nControl) {
   QString sWords;

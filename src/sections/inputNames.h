@@ -8,8 +8,8 @@
 
 namespace quillet {
 
-/// Numeric boxes and Show boxes have no words of their own: they are called after their row.
-/// `fnRowOf` finds the control that a Show box stands beside, or null.
+/// Numeric boxes and Show boxes have no text of their own: they are named after their row.
+/// `fnRowOf` finds the control beside a Show box, or null.
 void NameInputs(std::span<Control* const> aoControls, std::span<const ControlDesign> aoDesigns,
                 const std::function<const Control*(const Control& oBox)>& fnRowOf);
 

@@ -37,7 +37,7 @@ std::u16string_view TrimBlanks(std::u16string_view sText) {
   return sText;
 }
 
-/// Takes a part off either end of a text; false if it stands at neither.
+/// Takes a part off either end of a text; false if it is at neither.
 bool TakeOff(std::u16string_view& sText, std::u16string_view sPart) {
   if (sPart.empty() || sText.size() < sPart.size()) {
     return false;
@@ -51,7 +51,7 @@ bool TakeOff(std::u16string_view& sText, std::u16string_view sPart) {
   return bBehind;
 }
 
-/// What stands around a number, each at most once.
+/// What may surround a number, each at most once.
 struct Surroundings {
   bool bSign = false;
   bool bNegative = false;
@@ -74,8 +74,8 @@ bool TakeSymbol(std::u16string_view& sText, Surroundings& oAround) {
   return oAround.bSymbol;
 }
 
-/// What may part the groups. A locale that has one kind of space, or of apostrophe, has them all:
-/// keyboards have but one.
+/// What may separate the groups. A locale that has one kind of space, or of apostrophe, accepts
+/// them all: keyboards have only one.
 std::u16string GroupMarks(std::u16string_view sDecimal) {
   const std::u16string sGroup = ToUtf16(TheHost().Numbers().sGroup);
   if (sGroup.size() != 1 || sGroup == sDecimal) {
@@ -89,7 +89,7 @@ std::u16string GroupMarks(std::u16string_view sDecimal) {
   return sGroup;
 }
 
-/// The digits of a whole number without their grouping; nothing if it can't be meant as one.
+/// The digits of a whole number without their grouping; nothing if the grouping is wrong.
 std::optional<std::string> Ungrouped(std::u16string_view sWhole) {
   const NumberStyle& oStyle = TheHost().Numbers();
   std::string sDigits;
