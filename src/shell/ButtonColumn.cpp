@@ -98,7 +98,7 @@ void ButtonColumn::Rescale() {
   }
 }
 
-/// At its distance from the bottom, but never over the other buttons.
+/// Keeps its distance from the bottom, but never overlaps the other buttons.
 void ButtonColumn::PlaceAbout() {
   const int nBottom = Twips(Content().height());
   PlaceButton(*m_pAbout, std::max(nBottom - m_lAboutBottomGap, kAboutTop));

@@ -29,7 +29,7 @@ class ButtonColumn : public ScrollFrame {
   /// `nWindowHeight` is the height, in twips, that the window is designed for.
   ButtonColumn(int nWindowHeight, QWidget* pParent);
 
-  /// Takes the left of a window of this height, in twips.
+  /// Fills the left side of a window of this height, in twips.
   void PlaceBeside(int nHeight);
 
   /// Marks the button of the view that is shown.

@@ -65,7 +65,7 @@ void DesktopApplication::EndSession(QSessionManager& oSession) {
   }
 }
 
-/// The splash, a download or a question may be on the way: no stack is unwound through them.
+/// The splash, a download or a question may be active: don't unwind the stack through them.
 void DesktopApplication::EndAtOnce() {
   if (m_pMain != nullptr) {
     m_pMain->EndUnasked();

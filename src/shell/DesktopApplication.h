@@ -26,14 +26,14 @@ class DesktopApplication : public Application {
   void CloseConnection() override { m_oDownloads.CloseConnection(); }
   [[nodiscard]] std::unique_ptr<MainWindow> CreateMainWindow() override;
 
-  /// Opens an auction file in the main window; nothing happens if that doesn't stand.
+  /// Opens an auction file in the main window; does nothing if there is no window.
   void OpenAuction(const std::string& sPath);
 
-  /// The session of the desktop is ending: asks the usual question where that is allowed; Cancel
-  /// keeps the session.
+  /// The desktop session is ending: asks the usual question if that is allowed; Cancel keeps the
+  /// session.
   void EndSession(QSessionManager& oSession);
 
-  /// The system ends the program: settings are stored, nothing is asked or waited for.
+  /// The system ends the program: stores the settings, without asking or waiting.
   [[noreturn]] void EndAtOnce();
 
  private:

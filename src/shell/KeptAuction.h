@@ -1,4 +1,4 @@
-// An auction as it stands, kept from what pushing it into sections may write into it.
+// A copy of an auction, to undo what pushing it into sections may write into it.
 #pragma once
 
 #include <string>
@@ -9,13 +9,14 @@ namespace quillet {
 
 class KeptAuction {
  public:
-  /// Copies the models: the text alone has seven digits of an amount. `oAuction` must outlive it.
+  /// Copies the models, since the text keeps only seven digits of an amount. `oAuction` must
+  /// outlive this.
   explicit KeptAuction(clsCalculate& oAuction);
 
-  /// Whether the auction's text is what it was.
+  /// Whether the auction's text is the same as before.
   [[nodiscard]] bool IsUnchanged() const;
 
-  /// Puts the models back, with their flags and what their latest calculation has left in them.
+  /// Restores the models, with their flags and the results of their latest calculation.
   void PutBack();
 
  private:

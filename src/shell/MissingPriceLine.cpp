@@ -12,7 +12,7 @@ MissingPriceLine::MissingPriceLine(QWidget* pParent) : Label(pParent) {
   SetVisible(false);
 }
 
-/// The file by its name alone; the tooltip tells where it lies.
+/// Shows only the file's name; the tooltip says where it is.
 void MissingPriceLine::Refresh() {
   const std::optional<Finding>& oMissing = Prices().MissingPrice();
   if (oMissing) {

@@ -1,17 +1,17 @@
-// Tells what keeps the fee schedule from pricing some sale.
+// Says what keeps the fee schedule from pricing some sale.
 #pragma once
 
 #include "controls/Controls.h"
 
 namespace quillet {
 
-/// One line beside the summary, in the colour of a warning; gone while nothing is missing. It ends
-/// at the right, and what its place can't hold is in its tooltip.
+/// One line beside the summary, in the colour of a warning; hidden while nothing is missing. It is
+/// right-aligned, and its tooltip has whatever doesn't fit.
 class MissingPriceLine : public Label {
  public:
   explicit MissingPriceLine(QWidget* pParent);
 
-  /// Asks the program's fee schedule anew.
+  /// Checks the program's fee schedule again.
   void Refresh();
 
  protected:

@@ -18,8 +18,8 @@ namespace quillet {
 
 namespace {
 
-/// A section that turns visible gives its rows the colour of text, and nothing fills it in anew
-/// when its page comes: what can't be chosen stays grey.
+/// A section that becomes visible gives its rows the colour of text, and isn't filled in again when
+/// its page comes up: so this keeps disabled controls grey.
 void ShowWithGreys(SectionPanel& oSection) {
   std::vector<Control*> aoGrey;
   for (QWidget* const pWidget : oSection.findChildren<QWidget*>()) {
@@ -34,7 +34,7 @@ void ShowWithGreys(SectionPanel& oSection) {
   }
 }
 
-/// As wide to the left as to the right of the frame's middle, which the instruction stands above.
+/// Extends equally to either side of the frame's middle, which the instruction is above.
 QRectF CardOf(const Control& oFrame, const SectionPanel& oSection) {
   constexpr int kSides = 225;
   constexpr int kAbove = 105;
@@ -57,13 +57,13 @@ PageScroller::PageScroller(QWidget* pParent)
           [this](const QWidget* /*pOld*/, const QWidget* pNow) { ScrollTo(pNow); });
 }
 
-/// The sections go after the viewport, and an input among them that has the focus loses it then.
+/// The sections are destroyed after the viewport, and a focused input among them then loses focus.
 PageScroller::~PageScroller() {
   qApp->disconnect(this);
 }
 
-/// The section is laid out first, then shown, which is when it learns the places of its rows. One
-/// that was left scrolled is at its beginning again.
+/// Lays the section out, then shows it, which is when it learns the places of its rows. A section
+/// that was scrolled goes back to its top.
 void PageScroller::Show(Frame& oFrame, SectionPanel& oSection) {
   m_pFrame = &oFrame;
   m_pSection = &oSection;
@@ -87,10 +87,10 @@ void PageScroller::CentreFrame() {
   m_pFrame->SetTop(0);
 }
 
-/// Whether there is a bar depends on the section, and how far it goes on the frame, so that a bar
-/// may have a little way to go where there is nothing more to see.
+/// Whether there is a bar depends on the section, but its range on the frame, so a bar may still
+/// scroll a little when there is nothing more to see.
 void PageScroller::UpdateScrollBar() {
-  // A section may have grown taller than its frame: what is drawn of it isn't cut off there.
+  // A section may have grown taller than its frame, which mustn't cut it off.
   m_pFrame->resize(m_pFrame->width(),
                    Pixels(std::max(m_pFrame->Height(), m_pSection->Top() + m_pSection->Height())));
   if (Height() >= m_pSection->Height()) {
@@ -114,7 +114,7 @@ void PageScroller::vsbVert_Change() {
   parentWidget()->update();
 }
 
-/// With Ctrl held the wheel belongs to the window's zoom.
+/// With Ctrl held the wheel zooms the window.
 void PageScroller::wheelEvent(QWheelEvent* pEvent) {
   constexpr int kTwipsPerUnit = 6;  // three rows for the 120 units of a notch
   if ((pEvent->modifiers() & Qt::ControlModifier) != 0 || !m_pVert->Visible()) {
@@ -125,7 +125,7 @@ void PageScroller::wheelEvent(QWheelEvent* pEvent) {
   pEvent->accept();
 }
 
-/// Brings an input that the keyboard has reached into view.
+/// Scrolls an input that the keyboard has reached into view.
 void PageScroller::ScrollTo(const QWidget* pInput) {
   if (!m_pVert->Visible() || pInput == nullptr || !m_pSection->isAncestorOf(pInput)) {
     return;
@@ -140,7 +140,7 @@ void PageScroller::ScrollTo(const QWidget* pInput) {
   }
 }
 
-/// Where it is scrolled, a rule closes it above.
+/// When it is scrolled, a rule marks its top.
 void PageScroller::PaintCard(QPainter& oPainter) const {
   if (m_pSection == nullptr || m_pSection->Height() <= 0) {
     return;

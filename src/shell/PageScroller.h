@@ -18,13 +18,13 @@ class PageScroller : public Frame {
   PageScroller& operator=(const PageScroller&) = delete;
   ~PageScroller() override;
 
-  /// A page comes on view, scrolled to its beginning. Both must outlive the viewport.
+  /// Shows a page, scrolled to its top. Both must outlive the viewport.
   void Show(Frame& oFrame, SectionPanel& oSection);
 
-  /// Centres the page on view and scrolls it back, after a change of the viewport's size.
+  /// Centres the current page and scrolls it back, after a change of the viewport's size.
   void LayOut();
 
-  /// Draws the card of the page on view on the viewport's parent, as much of it as can be seen.
+  /// Draws the current page's card on the viewport's parent, as much of it as is visible.
   void PaintCard(QPainter& oPainter) const;
 
  protected:
@@ -37,7 +37,7 @@ class PageScroller : public Frame {
   void ScrollTo(const QWidget* pInput);
 
   ScrollBar* m_pVert;
-  Frame* m_pFrame = nullptr;  ///< of the page on view, as is the section
+  Frame* m_pFrame = nullptr;  ///< of the current page, like the section
   SectionPanel* m_pSection = nullptr;
 };
 

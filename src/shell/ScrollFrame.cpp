@@ -14,7 +14,7 @@ ScrollFrame::ScrollFrame(QWidget* pParent)
   setFocusPolicy(Qt::NoFocus);
   setWidgetResizable(true);
   setWidget(new QWidget);
-  // Later, when what stands in the content has scrolled to the input itself.
+  // Queued, so that anything inside the content has scrolled to the input first.
   connect(qApp, &QApplication::focusChanged, this, &ScrollFrame::FollowFocus, Qt::QueuedConnection);
 }
 
@@ -31,7 +31,7 @@ bool ScrollFrame::eventFilter(QObject* pWatched, QEvent* pEvent) {
   return bHandled;
 }
 
-/// With Ctrl held the wheel belongs to the window's zoom.
+/// With Ctrl held the wheel zooms the window.
 void ScrollFrame::wheelEvent(QWheelEvent* pEvent) {
   if ((pEvent->modifiers() & Qt::ControlModifier) != 0) {
     pEvent->ignore();
@@ -40,12 +40,13 @@ void ScrollFrame::wheelEvent(QWheelEvent* pEvent) {
   }
 }
 
-/// The toolkit would scroll at once, to where the focus stops for a moment while a view is hidden.
+/// The toolkit would scroll at once, to wherever the focus is briefly while a view is hidden.
 bool ScrollFrame::focusNextPrevChild(bool bNext) {
   return QWidget::focusNextPrevChild(bNext);  // NOLINT(bugprone-parent-virtual-call)
 }
 
-/// What takes the focus by a click alone, a section or a view, stays where the user has it.
+/// Ignores what takes the focus only by a click, a section or a view: it stays where the user has
+/// it.
 void ScrollFrame::FollowFocus() {
   constexpr int kMargin = 360;
   const QWidget* pNow = QApplication::focusWidget();
@@ -54,7 +55,7 @@ void ScrollFrame::FollowFocus() {
     return;
   }
   if (pNow->parentWidget()->focusProxy() == pNow) {
-    pNow = pNow->parentWidget();  // a box takes the focus by its text
+    pNow = pNow->parentWidget();  // in a box it is the text that takes the focus
   }
   const QRect oInput(pNow->mapTo(widget(), QPoint()), pNow->size());
   ensureVisible(oInput.center().x(), oInput.center().y(), oInput.width() / 2 + Pixels(kMargin),

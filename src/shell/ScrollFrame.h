@@ -7,7 +7,7 @@
 
 namespace quillet {
 
-/// Scrolls by its thin bars and by the wheel, and to an input that gets the focus.
+/// Scrolls with its thin bars and the wheel, and to an input that gets the focus.
 class ScrollFrame : public QScrollArea, public Control {
   Q_OBJECT
 
@@ -15,11 +15,11 @@ class ScrollFrame : public QScrollArea, public Control {
   explicit ScrollFrame(QWidget* pParent);
   [[nodiscard]] const char* TypeName() const override { return "Frame"; }
 
-  /// The parent of what stands in it: as large as the frame, or as its smallest size, which is set
-  /// as that of any widget.
+  /// The parent of its content: as large as the frame, or as its own minimum size, which is set as
+  /// for any widget.
   [[nodiscard]] QWidget& Content() const { return *widget(); }
 
-  /// Scrolls back to the beginning.
+  /// Scrolls back to the top left.
   void ShowBeginning();
 
  signals:

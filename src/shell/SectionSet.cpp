@@ -20,7 +20,7 @@ SectionSet::SectionSet(QWidget& oView, std::function<void(bool)> fnChanged)
 
 void SectionSet::RefreshSums(clsCalculate& oDocument, bool bUpdateControlDisplays) {
   if (bUpdateControlDisplays && !oDocument.m_oAuctionType.m_bShopInventory) {
-    oDocument.m_oAuctionType.m_eShopDuration = kShopNone;  // as the section would have it
+    oDocument.m_oAuctionType.m_eShopDuration = kShopNone;  // as the section would set it
   }
   Refresh(oDocument, bUpdateControlDisplays ? &SectionSet::BringOnView : nullptr);
 }
@@ -53,8 +53,8 @@ void SectionSet::ShowSums(clsCalculate& oDocument) {
   ctlSellingCostsSection.ApplySellingCosts(oDocument);
 }
 
-/// Sections write into an auction what they still show of another one. So both are put back, and
-/// pushed again, until the boxes show what comes; codes that no option has are kept all the same.
+/// Sections may write what they still show of another auction. So both auctions are restored, and
+/// pushed again, until nothing changes; codes that no option has are kept all the same.
 void SectionSet::BringOnView(clsCalculate& oDocument) {
   constexpr int kMostPushes = 5;
   KeptAuction oKept(oDocument);
@@ -77,7 +77,7 @@ void SectionSet::BringOnView(clsCalculate& oDocument) {
   ShowSums(oDocument);
 }
 
-/// A feature whose box went grey, or was struck out, is charged no longer.
+/// A feature whose box was greyed or removed is no longer charged.
 void SectionSet::PushChange(clsCalculate& oDocument) {
   PushModels(oDocument);
   if (ctlSellingFeaturesSection.DropUnticked()) {
@@ -100,8 +100,8 @@ void SectionSet::PushModels(clsCalculate& oDocument) {
   ctlPostageSection.ApplyFeatures(oDocument.m_oPostage, pOutlay);
 }
 
-/// A parcel's band is kept with a class that can't have it, but the list of bands doesn't take it
-/// over from there: it has to be on show before.
+/// A parcel's insurance band is kept even with a class that can't have it, but the list of bands
+/// doesn't take it from there: so this shows it first, as a parcel.
 void SectionSet::ShowKeptInsurance(clsCalculate& oDocument) {
   clsPostage& oPostage = oDocument.m_oPostage;
   if (!oPostage.CanHaveInsurance(oPostage.m_eInsuranceBand)) {

@@ -17,19 +17,18 @@ namespace quillet {
 class SectionSet {
  public:
   /// Makes the controls as children of the view, which owns them and must outlive the set.
-  /// `fnChanged` is told at each calculation whether the auction is dirty.
+  /// Each calculation calls `fnChanged` with whether the auction is dirty.
   SectionSet(QWidget& oView, std::function<void(bool bDirty)> fnChanged);
 
   // Both calculate an auction and show it in the summary. A call from within does nothing; a
   // Failure ends the routine silently.
 
-  /// An auction comes on view: with `bUpdateControlDisplays` its models are pushed into the
-  /// sections, which changes neither it nor the auction that was on view before, nor their flags.
-  /// Both must outlive the set.
+  /// Shows an auction: with `bUpdateControlDisplays` its models are pushed into the sections, which
+  /// changes neither it nor the auction shown before, nor their flags. Both must outlive the set.
   void RefreshSums(clsCalculate& oDocument, bool bUpdateControlDisplays);
 
-  /// The user has changed the auction on view: its models are pushed into the sections once, so
-  /// that they react, and what can't be had any more is taken out of it.
+  /// The user has changed the auction shown: its models are pushed into the sections once, so that
+  /// they react, and features that it can't have any more are removed from it.
   void FollowChange(clsCalculate& oDocument);
 
   [[nodiscard]] bool IsRefreshing() const { return m_bRefreshing; }

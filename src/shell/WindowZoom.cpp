@@ -37,7 +37,7 @@ void WindowZoom::Step(bool bLarger) {
 }
 
 void WindowZoom::Fit(const QSize& oWhole) {
-  // The window manager hasn't framed the window yet: an ordinary frame is allowed for.
+  // The window manager hasn't framed the window yet: allow for an ordinary frame.
   const QSize oFrame(16, 48);
   const QRect oScreen = m_oWindow.screen()->availableGeometry();
   const QSize oRoom = oScreen.size() - oFrame;
@@ -54,7 +54,7 @@ QSize WindowZoom::RoomOnScreen() const {
          (m_oWindow.frameGeometry().size() - m_oWindow.size());
 }
 
-/// The window comes back with a zoom that it went with.
+/// Zooming back restores the window's size too.
 void WindowZoom::ResizeWithZoom() {
   if (!m_oWindow.isMaximized()) {
     const QSize oWanted(Pixels(m_oChosenSize.width()), Pixels(m_oChosenSize.height()));

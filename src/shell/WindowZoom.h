@@ -1,4 +1,4 @@
-// The zoom of the main window, and the size that the window takes with it.
+// The zoom of the main window, and the window's size, which follows it.
 #pragma once
 
 #include <QSize>
@@ -10,27 +10,27 @@ namespace quillet {
 
 class WindowZoom {
  public:
-  /// `fnLayOut` lays the window, which must outlive this, out anew after each change.
+  /// `fnLayOut` lays the window out again after each change. The window must outlive this.
   WindowZoom(QWidget& oWindow, std::function<void()> fnLayOut);
 
-  /// Takes the stored zoom, and 100 percent where there is none. The caller lays out.
+  /// Loads the stored zoom, or 100 percent if there is none. The caller lays out.
   void Load();
 
-  /// Draws everything at another size, in percent, and remembers it. The window goes with it, as
-  /// far as the screen has room.
+  /// Draws everything at another size, in percent, and remembers it. The window is resized to
+  /// match, as far as the screen has room.
   void SetPercent(int nPercent);
 
-  /// Goes on to the next size.
+  /// Steps to the next size.
   void Step(bool bLarger);
 
   /// No zoom was stored when it was loaded.
   [[nodiscard]] bool IsFirstStart() const { return m_bFirstStart; }
 
-  /// For a first start: the largest zoom at which all of it, in twips, fits the screen, and a
-  /// window that holds it in the screen's middle.
+  /// For a first start: sets the largest zoom at which `oWhole`, in twips, fits the screen, and
+  /// centres a window that holds it.
   void Fit(const QSize& oWhole);
 
-  /// The largest that the window can be made on its screen, without the edges around it.
+  /// The largest size that the window can have on its screen, without the frame around it.
   [[nodiscard]] QSize RoomOnScreen() const;
 
  private:

@@ -1,4 +1,4 @@
-// Where a step stands among the wizard's: a row of numbered dots with the steps' names.
+// Shows the current step of the wizard: a row of numbered dots with the steps' names.
 #pragma once
 
 #include <QStringList>
@@ -18,7 +18,7 @@ class WizardSteps : public QWidget, public Control {
   /// Counted from 0. The steps before it are shown as done.
   void SetCurrent(int nCurrent);
 
-  /// "Step 2 of 5 · Outlay", which is also what stands here when the room is short.
+  /// "Step 2 of 5 · Outlay", which is also shown instead if there isn't enough room.
   [[nodiscard]] QString Caption() const override;
 
  protected:

@@ -84,7 +84,7 @@ ctlCalculator::ctlCalculator(QWidget* pParent)
   connect(qApp, &QApplication::focusChanged, this, &ctlCalculator::FollowFocus);
 }
 
-/// The sections go after the view, and an input among them that has the focus loses it then.
+/// The sections are destroyed after the view, and a focused input among them then loses focus.
 ctlCalculator::~ctlCalculator() {
   qApp->disconnect(this);
 }
@@ -164,7 +164,7 @@ void ctlCalculator::paintEvent(QPaintEvent* /*pEvent*/) {
                       QPointF(width() - Pixels(kLineLeft), Pixels(kLineTop + kBelowLine))});
 }
 
-/// Each right behind its section, so that what is in front has its whole edge.
+/// Each right behind its section, so that the one in front shows its whole edge.
 void ctlCalculator::Placed() {
   m_pMissingPrice->Place(kMissingPriceLeft, kMissingPriceTop,
                          Width() - kMissingPriceGap - kMissingPriceLeft, kMissingPriceHeight);
@@ -190,7 +190,7 @@ void ctlCalculator::UserControl_Show() {
   RefreshSums(true);
 }
 
-/// The cards, and the way of the Tab key, go by the places of the sections as they are now.
+/// The cards, and the Tab order, follow the present places of the sections.
 void ctlCalculator::FollowPlaces() {
   PlaceCards();
   OrderTabs();
@@ -256,8 +256,8 @@ void ctlCalculator::SaveSectionPositions() const {
   }
 }
 
-/// The first time, remembers where the design has the sections. A stored place that is no number is
-/// as good as none.
+/// The first time, remembers where the design has the sections. A stored place that isn't a number
+/// is ignored.
 void ctlCalculator::LoadSectionPositions() {
   const auto fnStored = [](const SectionPanel& oSection, const char* sName, int nPlace) {
     return ToLong(Registry().Find(SectionOf(oSection), sName).value_or("")).value_or(nPlace);

@@ -25,22 +25,22 @@ class ctlCalculator : public QWidget, public Control {
   ~ctlCalculator() override;
   [[nodiscard]] const char* TypeName() const override { return "ctlCalculator"; }
 
-  /// Every write lays all sections out anew, puts them where they are stored and refreshes them.
+  /// Every write lays all sections out again, puts them at their stored places and refreshes them.
   [[nodiscard]] bool ConfigMode() const { return m_bConfigMode; }
   void SetConfigMode(bool bConfigMode);
 
   /// Puts the sections back where the design has them, and stores that.
   void ResetControlPositions();
 
-  /// Calculates a document that comes on view, and shows it; it is kept. Without one, the one kept
-  /// before, or else the working auction.
+  /// Calculates and shows a document, and keeps it. Without one, uses the one kept before, or else
+  /// the working auction.
   void RefreshSums(bool bUpdateControlDisplays, clsCalculate* pDocument = nullptr);
 
   /// The size, in twips, that holds the summary and all sections but the auction type's, which
   /// doesn't count for the window's smallest size.
   void CalcMinSize(int& nWidth, int& nHeight) const;
 
-  /// The size, in twips, that holds everything as it stands, or as it is in config mode.
+  /// The size, in twips, that holds everything as it is now, or as it is in config mode.
   void WholeSize(bool bInConfigMode, int& nWidth, int& nHeight) const;
 
   [[nodiscard]] SectionSet& Set() { return m_oSet; }

@@ -36,7 +36,7 @@ constexpr int kMissingPriceHeight = 255;
 constexpr int kButtonTop = 120;
 constexpr int kButtonWidth = 1965;
 constexpr int kButtonHeight = 495;
-constexpr int kButtonGap = 300;  // so that neighbours, whose places overlap, stand apart
+constexpr int kButtonGap = 300;  // keeps neighbours, whose places overlap, apart
 
 constexpr double kInfoPoints = 13.0;
 
@@ -148,7 +148,7 @@ void ctlWizard::MakeButtons() {
   connect(m_pCancel, &QAbstractButton::clicked, this, &ctlWizard::FinishWizard);
 }
 
-/// On the last page there is nothing to go on to: only Finish, by its own name or by Enter, ends.
+/// Alt+Right does nothing on the last page: only Finish and Enter end the wizard.
 void ctlWizard::MakeKeys() {
   const auto fnAdd = [this](const char* sKeys, const auto& fnAction) {
     auto* const pShortcut = new QShortcut(QKeySequence(sKeys), this);
@@ -191,7 +191,7 @@ void ctlWizard::UserControl_Show() {
   UserControl_Resize();
 }
 
-/// What was typed on the page before is entered first, as by any other way to leave its box.
+/// Text typed on the previous page is entered first, as by any other way of leaving its box.
 void ctlWizard::ShowPage(std::int16_t nPage) {
   LeaveInput();
   for (const WizardPage& tPage : m_aPages) {
@@ -222,7 +222,7 @@ void ctlWizard::imgBack_Click() {
   ShowPage(static_cast<std::int16_t>(m_tCurrent->lIndex - 1));
 }
 
-/// A page with an amount that was refused stays once, for that to be seen.
+/// A page with a refused amount stays once, so that the user sees it.
 void ctlWizard::imgNext_Click() {
   if (!ctlNumericText::CommitFocused()) {
     return;
@@ -246,7 +246,7 @@ void ctlWizard::Placed() {
   }
 }
 
-/// The buttons keep to the right edge, but never lie over the summary.
+/// The buttons keep to the right edge, but never overlap the summary.
 void ctlWizard::UserControl_Resize() {
   m_lLaidWidth = Width();
   m_lLaidHeight = Height();
@@ -280,7 +280,7 @@ void ctlWizard::mousePressEvent(QMouseEvent* /*pEvent*/) {
   setFocus(Qt::MouseFocusReason);
 }
 
-/// From beside the section Tab goes to where the page begins.
+/// From outside the section Tab goes to the page's first input.
 bool ctlWizard::focusNextPrevChild(bool bNext) {
   if (!hasFocus() || !bNext || !m_tCurrent) {
     return QWidget::focusNextPrevChild(bNext);
@@ -289,7 +289,7 @@ bool ctlWizard::focusNextPrevChild(bool bNext) {
   return true;
 }
 
-/// Buttons take these keys for themselves.
+/// Buttons handle these keys themselves.
 void ctlWizard::keyPressEvent(QKeyEvent* pEvent) {
   if (!m_tCurrent || pEvent->isAutoRepeat()) {
     QWidget::keyPressEvent(pEvent);
@@ -321,7 +321,7 @@ void ctlWizard::FocusFirstInput() {
     return p->isEnabled() && p->isVisibleTo(m_tCurrent->oSection);
   });
   if (pFirst != aoInputs.end()) {
-    (*pFirst)->setFocus(Qt::TabFocusReason);  // what is typed replaces what stands there
+    (*pFirst)->setFocus(Qt::TabFocusReason);  // typing replaces the text there
   }
 }
 

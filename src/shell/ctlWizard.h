@@ -25,8 +25,8 @@ struct WizardPage {
   Frame* pFrame;
   SectionPanel* oSection;  ///< in the frame
   std::string sInfo;       ///< the instruction above it
-  bool bFirst;             ///< nothing to go back to
-  bool bLast;              ///< going on finishes
+  bool bFirst;             ///< no page to go back to
+  bool bLast;              ///< Next finishes
 };
 
 class ctlWizard : public QWidget, public Control {
@@ -39,8 +39,7 @@ class ctlWizard : public QWidget, public Control {
   /// Calculates the working auction and shows it.
   void RefreshSums(bool bUpdateControlDisplays);
 
-  /// The page on view; none before the view was first shown, when it starts at the first one, as it
-  /// does each time.
+  /// The current page; none before the view is first shown. Each showing starts at the first page.
   [[nodiscard]] const std::optional<WizardPage>& Current() const { return m_tCurrent; }
 
   [[nodiscard]] SectionSet& Set() { return m_oSet; }

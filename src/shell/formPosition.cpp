@@ -23,7 +23,7 @@ std::string SectionOf(const QWidget& oForm) {
 std::optional<int> Stored(const QWidget& oForm, const char* sName) {
   const std::string sText = Registry().Find(SectionOf(oForm), sName).value_or("");
   std::optional<int> nStored;
-  IgnoreFailure([&] {  // a number beyond all places is as good as none
+  IgnoreFailure([&] {  // a number too large for a place is ignored
     if (const std::optional<Single> fValue = ToSingle(sText)) {
       nStored = RoundToLong(*fValue);
     }
@@ -36,7 +36,7 @@ int StoredPixels(const QWidget& oForm, const char* sName, int nOtherwise) {
   return nTwips ? RoundToLong(*nTwips / kTwipsPerPixel) : nOtherwise;
 }
 
-/// Whether enough of the title bar, or of what lies below it, is on a screen to drag the window by.
+/// Whether enough of the title bar, or of the area below it, is on a screen to drag the window by.
 bool CanBeGrasped(const QRect& oInside) {
   constexpr int kTitleBar = 24;
   constexpr int kLeastWidth = 80;
@@ -57,9 +57,8 @@ QRect BroughtOntoScreen(QRect oInside) {
 
 }  // namespace
 
-// The place kept is that of the window's inside: how thick a frame the desktop draws around it is
-// known only while it is on view, so with the frame counted in, a window would wander and grow from
-// one start to the next.
+// The place kept is that of the window's inside: the thickness of its frame is known only while it
+// is visible, so with the frame included, a window would drift and grow from one start to the next.
 
 void SaveFormPosition(const QWidget& oForm) {
   const QRect oNormal = oForm.normalGeometry();

@@ -45,7 +45,7 @@ constexpr int kMinSnap = 1;
 constexpr int kMaxSnap = 1000;
 constexpr double kSettingPoints = 7.5;  // so that the longest caption ends before its button
 
-/// A rule between the images and the pages. The pages, which are opaque, lie over it.
+/// A rule between the images and the pages. The pages, which are opaque, cover it.
 class Line : public QWidget, public Control {
  public:
   explicit Line(QWidget* pParent) : QWidget(pParent), Control(static_cast<QWidget&>(*this)) {
@@ -252,8 +252,7 @@ void frmAbout::FillStartMode(const std::string& sStored) {
   m_pCboStartMode->setCurrentIndex(sStored == "1" ? 1 : 0);  // what is neither counts as the first
 }
 
-/// A text that was typed and not yet left is entered first, or put right, and stored as the plain
-/// number that it is worth.
+/// Enters a text that was typed and not yet left, or corrects it, and stores it as a plain number.
 void frmAbout::imgApply_Click() {
   m_pTxtSnapToGrid->CommitTyping();
   m_pTxtSnapToGrid->SetValue({});
@@ -276,7 +275,7 @@ void frmAbout::aniFlash_FSCommand(const QString& sCommand) {
   }
 }
 
-/// The user who comes back from another window or from a menu hasn't entered the box anew.
+/// Coming back from another window or a menu doesn't count as entering the box again.
 bool frmAbout::eventFilter(QObject* pWatched, QEvent* pEvent) {
   if (pEvent->type() == QEvent::FocusIn) {
     const Qt::FocusReason eReason = static_cast<QFocusEvent*>(pEvent)->reason();
@@ -296,7 +295,7 @@ void frmAbout::keyPressEvent(QKeyEvent* pEvent) {
   }
 }
 
-/// The images stand on the ground of the main window's buttons.
+/// The images have the background of the main window's buttons.
 void frmAbout::paintEvent(QPaintEvent* /*pEvent*/) {
   QPainter oPainter(this);
   const int nEdge = Pixels(kPageLeft);

@@ -20,7 +20,7 @@ class frmAbout : public QDialog {
   Q_OBJECT
 
  public:
-  /// `pOwner` is the window that it stands before.
+  /// `pOwner` is the window that it is in front of.
   explicit frmAbout(QWidget* pOwner);
 
   /// 0 is the page about the product, 1 that of the settings.
@@ -30,7 +30,7 @@ class frmAbout : public QDialog {
   void ResetSettings();
 
  signals:
-  /// The sections of the calculator are to go back to where the design has them.
+  /// The user wants the calculator's sections back where the design has them.
   void ResetControlPositions();
 
  protected:

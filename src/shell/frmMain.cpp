@@ -125,7 +125,7 @@ void frmMain::Form_Activate() {
   }
 }
 
-/// The whole calculator, with its boxes for config mode, is to be seen.
+/// Makes room for the whole calculator, with its boxes for config mode.
 void frmMain::FitFirstStart() {
   int nWidth = 0;
   int nHeight = 0;
@@ -135,7 +135,7 @@ void frmMain::FitFirstStart() {
 
 void frmMain::ClickButton(int nIndex) {
   if (nIndex == kButtonSave) {
-    ctlNumericText::CommitFocused();  // a command by key leaves the focus where it is
+    ctlNumericText::CommitFocused();  // a keyboard command doesn't move the focus
   } else {
     LeaveBox();
   }
@@ -182,7 +182,7 @@ void frmMain::ShowCalculator() {
   m_pLhs->MarkCurrent(kButtonCalculator);
 }
 
-/// The stored default auction replaces what is unsaved of it, without a word.
+/// The stored default auction silently replaces unsaved changes to it.
 void frmMain::ShowConfiguration() {
   m_oDocuments.SaveOrLoadDefaultAuction(false);
   PushDocument(true, DefaultAuction(), kDefaultAuctionTitle);
@@ -192,7 +192,7 @@ void frmMain::ShowConfiguration() {
 void frmMain::PushDocument(bool bConfigMode, clsCalculate& oDocument, const std::string& sTitle) {
   m_pWizard->SetVisible(false);
   m_pCalculator->SetVisible(true);
-  m_pCalculator->setFocus();  // from a row that goes it would wander into a box
+  m_pCalculator->setFocus();  // from a row that is hidden it would move to some box
   m_pCalculator->SetConfigMode(bConfigMode);
   m_pCalculator->RefreshSums(true, &oDocument);
   m_pCalculator->CalcMinSize(m_lCalcMinWidth, m_lCalcMinHeight);
@@ -245,8 +245,8 @@ void frmMain::Rescale() {
   RescaleAll(*this);
 }
 
-/// Below the size that its view needs the window can't be made, unless the screen is smaller still.
-/// What the whole view needs, and the screen can't give, the frame scrolls.
+/// The window can't be smaller than its view needs, unless the screen is smaller still. Where the
+/// whole view doesn't fit the screen, the frame scrolls.
 void frmMain::Form_Resize() {
   if (isMinimized()) {
     return;
@@ -267,7 +267,7 @@ void frmMain::Form_Resize() {
   PlaceViews();
 }
 
-/// What the view takes, in pixels, with nothing cut off.
+/// The view's size, in pixels, with nothing cut off.
 QSize frmMain::WholeView() const {
   if (!m_pCalculator->Visible()) {
     return {Pixels(m_lMinWidth - kRhsLeft), Pixels(m_lMinHeight)};
@@ -287,8 +287,8 @@ void frmMain::PlaceViews() {
   }
 }
 
-/// A box that is left writes into the auction on view. So it is left before a command that may
-/// bring another one, which would else be changed by it.
+/// A box that loses the focus writes into the auction shown. So it must lose it before a command
+/// that may show another auction, which it would otherwise change.
 void frmMain::LeaveBox() {
   if (qobject_cast<QLineEdit*>(QApplication::focusWidget()) != nullptr) {
     ctlNumericText::LeaveFor(m_pWizard->Visible() ? m_pWizard->Widget() : m_pCalculator->Widget());
@@ -316,8 +316,7 @@ void frmMain::EndUnasked() {
 void frmMain::closeEvent(QCloseEvent* pEvent) {
   ctlNumericText::CommitFocused();
   SaveFormPosition(*this);
-  // A session that has ended closes the window itself; one that went on after all leaves that to
-  // the user.
+  // A session that ends closes the window itself; if it went on after all, the user closes it.
   const bool bAsked = m_bEndAgreed && !pEvent->spontaneous();
   if (!bAsked && !m_oDocuments.PromptBeforeExit()) {
     pEvent->ignore();

@@ -29,18 +29,18 @@ class frmMain : public QWidget, private DocumentView {
   /// Loads, shows and activates the window; the first document is set up when this returns.
   void Show();
 
-  /// As a click on a button of the column. An unknown one says so in a message box.
+  /// Like a click on a button of the column. Reports an unknown one in a message box.
   void ClickButton(int nIndex);
 
-  /// Loads an auction file as the Load button does with the file that the user chooses, and shows
-  /// it in the calculator.
+  /// Loads an auction file, like the Load button once the user has chosen one, and shows it in the
+  /// calculator.
   void OpenAuction(const std::string& sPath);
 
-  /// The session of the desktop is ending: stores the window's place, and asks about what is
-  /// unsaved if it may. False if the user cancelled; else the close that follows asks nothing.
+  /// The desktop session is ending: stores the window's place, and asks about unsaved changes if it
+  /// may. False if the user cancelled; else the close that follows asks nothing.
   [[nodiscard]] bool EndSession(bool bMayAsk);
 
-  /// The program is ending at once: stores the window's place, and what is unsaved is lost.
+  /// The program is ending at once: stores the window's place; unsaved changes are lost.
   void EndUnasked();
 
   /// Draws everything at another size, in percent, and remembers it.
@@ -85,10 +85,10 @@ class frmMain : public QWidget, private DocumentView {
   std::unique_ptr<frmAbout> m_frmAboutBox;  ///< while it is open
   int m_lMinWidth = 0;                      ///< twips; the smallest size while the wizard shows
   int m_lMinHeight = 0;                     ///< likewise
-  int m_lCalcMinWidth = 0;                  ///< twips; what CalcMinSize told last
+  int m_lCalcMinWidth = 0;                  ///< twips; the latest result of CalcMinSize
   int m_lCalcMinHeight = 0;                 ///< likewise
   bool m_bFirstActivate = true;
-  bool m_bEndAgreed = false;  ///< nothing has changed since EndSession has asked
+  bool m_bEndAgreed = false;  ///< nothing has changed since EndSession asked
 };
 
 }  // namespace quillet

@@ -9,8 +9,8 @@ namespace quillet {
 
 class ShockwaveFlash;
 
-/// Borderless, in the middle of the screen and not in the task bar. Its movie is playing when it is
-/// made; it isn't shown yet.
+/// Borderless, in the middle of the screen and not in the task bar. When made, its movie is already
+/// playing, but the window isn't shown yet.
 class frmSplash : public QWidget, public SplashWindow {
   Q_OBJECT
 

@@ -16,7 +16,7 @@ bool InOneColumn(const SectionPlace& a, const SectionPlace& b) {
 
 }  // namespace
 
-/// Each column is the one of the leftmost section that is left over.
+/// Each column is that of the leftmost remaining section.
 std::vector<std::size_t> ReadingOrder(const std::vector<SectionPlace>& aoPlaces) {
   std::vector<std::size_t> anOrder(aoPlaces.size());
   std::iota(anOrder.begin(), anOrder.end(), std::size_t{0});

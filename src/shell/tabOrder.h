@@ -1,4 +1,4 @@
-// In what order the Tab key goes through sections that lie anywhere.
+// The Tab order of sections that may be anywhere.
 #pragma once
 
 #include <cstddef>
@@ -16,8 +16,8 @@ struct SectionPlace {
   int nWidth;
 };
 
-/// The places by their index: column by column from the left, and downward in each. Two sections
-/// stand in one column if at least half of the narrower one lies above or below the other.
+/// The indices of the places: column by column from the left, and downward in each. Two sections
+/// are in one column if at least half of the narrower one is above or below the other.
 [[nodiscard]] std::vector<std::size_t> ReadingOrder(const std::vector<SectionPlace>& aoPlaces);
 
 /// Lets Tab go from the view through all inputs of the sections, one section after the other.
