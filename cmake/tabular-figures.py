@@ -57,7 +57,7 @@ def use_tabular_digits(font):
     for glyph in digits.values():
         advance, bearing = metrics[glyph]
         if widest - advance > MOST_UNEVEN * font["head"].unitsPerEm:
-            sys.exit(f"{glyph} is no tabular figure: {advance} of {widest} units wide")
+            sys.exit(f"{glyph} isn't a tabular figure: {advance} of {widest} units wide")
         metrics[glyph] = (widest, bearing)
 
 

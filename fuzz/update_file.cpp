@@ -18,7 +18,7 @@ bool SameTier(const clsPriceRange& oLeft, const clsPriceRange& oRight) {
          oLeft.m_fValue == oRight.m_fValue;
 }
 
-/// The tier, or a count of -1 where asking for it is a Failure.
+/// The tier, or a count of -1 if asking for it throws a Failure.
 template <typename Ask>
 clsPriceRange Asked(Ask&& fnAsk) {
   clsPriceRange oTier;
@@ -74,7 +74,7 @@ void CheckTable(const clsPrices& oLinked, const clsPrices& oUnlinked, const std:
 
 void CheckTables(const clsPrices& oLinked, const clsPrices& oUnlinked) {
   constexpr std::size_t kMostTables = 20;
-  constexpr std::size_t kLongestKey = 100;  // longer ones are no key of any table
+  constexpr std::size_t kLongestKey = 100;  // longer ones aren't in any table
   std::size_t nTables = 0;
   for (std::size_t i = 0; i < oLinked.Table().Size() && nTables < kMostTables; ++i) {
     const std::string sKey(oLinked.Table().KeyAt(i));

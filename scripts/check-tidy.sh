@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# clang-tidy over all sources of this platform; needs a build's compile commands, from a build
-# without precompiled headers: their format is another compiler's, and they would hide an include
-# that is missing. The rooms that calculate get every check of .clang-tidy. The others get those that
-# find what no warning does: each check walks the toolkit's headers anew, and that is most of the time.
+# clang-tidy over all sources of this platform; needs the compile commands of a build without
+# precompiled headers: their format is another compiler's, and they would hide a missing include.
+# The rooms that calculate get every check of .clang-tidy. The others get those that find what no
+# warning does: each check walks the toolkit's headers again, which takes most of the time.
 set -euo pipefail
 build=$1
 calculating=(src/{base,prices,engine,answers,documents,online}/'*.cpp')

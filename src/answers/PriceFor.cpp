@@ -19,9 +19,9 @@ class Search {
  public:
   Search(const clsCalculate& oAuction, const Goal& oGoal) : m_oTrial(oAuction), m_oGoal(oGoal) {}
 
-  /// The lowest price of one piece, whose end is no more in it; `nEnd` if none does it. The next
-  /// to try is the first one that would do it if it cost no more than the one just tried: within a
-  /// piece, costs never fall as the price rises, so all before it fall short.
+  /// The lowest price of one piece, `nEnd` excluded; `nEnd` if none does it. The next to try is the
+  /// first that would do it if it cost no more than the one just tried: within a piece, costs never
+  /// fall as the price rises, so all before it fall short.
   [[nodiscard]] Cents LowestIn(Cents nPrice, Cents nEnd) {
     constexpr int kFew = 8;
     constexpr Cents kFarEnough = 10'000;
@@ -46,10 +46,10 @@ class Search {
            fMostProfit >= m_oGoal.ProfitNeeded(oTried, fPrice);
   }
 
-  /// Where those steps are small, since what a higher price brings goes nearly all to the fees or
-  /// to the goal: a piece is straight or bends upwards, but for rounding to the smallest unit, so
-  /// it lies below the line from the price just tried to the one before `nEnd`. The price where
-  /// that line comes near to the goal; `nEnd` if it doesn't.
+  /// For when those steps are small because fees or the goal take nearly all that a higher price
+  /// brings. A piece is straight or bends upwards, apart from rounding to the smallest unit, so it
+  /// is below the line from the price just tried to the one before `nEnd`. Gives the price where
+  /// that line comes near the goal; `nEnd` if it doesn't.
   [[nodiscard]] Cents SkipByChord(Cents nPrice, Cents nEnd) {
     const double fHere = Surplus();
     m_oTrial.AtPrice(nEnd - 1);

@@ -135,7 +135,7 @@ Single clsAuctionType::OpeningFee(const clsOutlay& oOutlay) const {
   return bHit ? oTier.m_fValue : Single(0);
 }
 
-/// Each tier's percentage of the slice of the price that lies in the tier, times the quantity.
+/// Each tier's percentage of the part of the price that is in the tier, times the quantity.
 Single clsAuctionType::ProgressiveFinalValueFee(const clsOutlay& oOutlay) const {
   const KeyText oKey = m_bShopInventory ? KeyText("ShopFinal") : KeyText("Final");
   const Single fPrice = oOutlay.m_fEstimatedEndPrice;

@@ -32,7 +32,7 @@ class clsPayPal {
   [[nodiscard]] bool CanHaveMerchantRate() const { return m_eAccountType > kAccountPersonal; }
 
   /// The name (`nAttribute` 0) or value (any other) of a merchant-rate band; empty if the schedule
-  /// lacks it. A band of 0 stands for m_nBusinessBand, and is replaced by it.
+  /// lacks it. A band of 0 means m_nBusinessBand, and is replaced by it.
   [[nodiscard]] std::string GetBusinessRateBandAttribute(std::int32_t nAttribute,
                                                          std::int32_t& nBand) const;
 

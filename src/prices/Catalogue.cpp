@@ -13,7 +13,7 @@ enum Regions : unsigned { kUk = 1, kUs = 2, kBoth = 3 };
 struct Row {
   unsigned nRegions;
   KeyKind eKind;
-  std::string_view sPattern;  ///< "{a,b}" stands for a or b, and the name of a set for the set
+  std::string_view sPattern;  ///< "{a,b}" means a or b, and the name of a set means the set
   std::int32_t nPercentTier = 0;
 };
 

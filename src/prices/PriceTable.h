@@ -56,7 +56,7 @@ class PriceTable {
   /// Notes the tier tables and their tiers, which are found from then on, until the next Add.
   void LinkTiers();
 
-  /// The tier table whose count stands under the key; null if there is none.
+  /// The tier table whose count is under the key; null if there is none.
   [[nodiscard]] const Tiers* FindTiers(const KeyText& oCountKey) const;
 
   /// A tier of the table of that name, from 1.

@@ -42,11 +42,11 @@ struct PanelDesign {
   const char* sTitle;         ///< on the header, and in its place while it is hidden
   const char* sSectionKey;    ///< names the panel in the settings
   const char* sReferenceBox;  ///< the Show box whose place sets the panel's width
-  /// Whose list ApplyAllVisibility reads; null where the member has no such step.
+  /// The panel whose list ApplyAllVisibility reads; null if the member has no such step.
   const char* sVisibilityList;
-  /// The rows are registered once, at their design places, and a click on a Show box rereads the
-  /// list. Else they are registered anew at each show, and after each click at the places that they
-  /// then have.
+  /// True: the rows are registered once, at their design places, and a click on a Show box rereads
+  /// the list. False: they are registered again at each show, and after each click at their places
+  /// at that moment.
   bool bAddingComplete;
   bool bRowsByLabel;  ///< a Show box is beside its row's label, whatever else the tag names
   int nWidth;

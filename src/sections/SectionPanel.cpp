@@ -344,7 +344,7 @@ Control* SectionPanel::FindRowControl(const Control& oBox) const {
   return pFound == m_aoControls.end() ? nullptr : *pFound;
 }
 
-/// Stores which boxes are ticked. Nothing moves now: in config mode every row stays on view.
+/// Stores which boxes are ticked. Nothing moves: in config mode every row stays visible.
 void SectionPanel::SaveShowChecks() {
   if (m_bLoading) {
     return;

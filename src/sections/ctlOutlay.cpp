@@ -11,7 +11,7 @@ namespace {
 
 using enum ControlKind;
 
-// The tax box, which only one region has, stands ahead of its row-mates.
+// The tax box, which only one region has, comes before its row-mates.
 constexpr std::array kControls = std::to_array<ControlDesign>({
     {"chkOutlayInclTax", kCheckBox, "Add Tax", 3480, 360, 1095, 255},
     {"txtQuantity", kNumber, "", 1800, 1480, 1575, 285},

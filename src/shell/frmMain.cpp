@@ -236,7 +236,7 @@ void frmMain::SetWindowTitle(const std::string& sName, bool bDirty) {
     sTitle.resize(sTitle.size() - std::string_view(kAuctionExtension).size());
   }
   const std::string sCaption = sTitle.empty() ? m_sCaption : m_sCaption + " - " + sTitle;
-  // "[*]" would stand for a mark of the toolkit's own; written twice it stands for itself.
+  // To the toolkit "[*]" is a placeholder; written twice it is itself.
   setWindowTitle(QString::fromStdString(sCaption + (bDirty ? "*" : "")).replace("[*]", "[*][*]"));
 }
 
