@@ -26,6 +26,8 @@ bool IsControlCharacter(char cToken) {
   return static_cast<unsigned char>(cToken) < 32;
 }
 
+std::string g_sChosenFile;  // empty for the default
+
 }  // namespace
 
 std::string EditionName() {
@@ -45,7 +47,7 @@ std::string RegistryRoot() {
 }
 
 std::string UpdateFileName(bool bNameOnly) {
-  const std::string sName = RegionCode() == 1 ? "UpdateUS_v0101.dat" : "UpdateUK_v0101.dat";
+  std::string sName = g_sChosenFile.empty() ? DefaultUpdateFileName() : g_sChosenFile;
   if (bNameOnly) {
     return sName;
   }
@@ -60,6 +62,20 @@ std::string UpdateFileName(bool bNameOnly) {
 
 std::string ShippedUpdateFileName() {
   return TheHost().ProgramFolder() + NativePath("\\" + UpdateFileName(true));
+}
+
+std::string DefaultUpdateFileName() {
+  return RegionCode() == 1 ? "UpdateUS_v0101.dat" : "UpdateUK_v0101.dat";
+}
+
+bool IsUpdateFileName(std::string_view sName) {
+  const std::string sDefault = DefaultUpdateFileName();
+  return sName.starts_with(sDefault.substr(0, sDefault.find('_') + 1)) && sName.ends_with(".dat") &&
+         sName.find_first_of("/\\:") == std::string_view::npos;
+}
+
+void ChooseUpdateFile(const std::string& sName) {
+  g_sChosenFile = IsUpdateFileName(sName) ? sName : "";
 }
 
 std::int32_t MaxLong(std::int32_t nLeft, std::int32_t nRight) {

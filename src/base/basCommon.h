@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "base/Single.h"
 #include "platform/Host.h"
@@ -15,13 +16,23 @@ namespace quillet {
 /// The key that holds all of this edition's settings.
 [[nodiscard]] std::string RegistryRoot();
 
-/// The region's fee schedule, as a bare name or as a path in the program's folder. If that folder
+/// The fee schedule in use, as a bare name or as a path in the program's folder. If that folder
 /// can't be written, the path is in the user's data folder, and the program's file is first copied
 /// there if the copy is missing or older.
 [[nodiscard]] std::string UpdateFileName(bool bNameOnly);
 
-/// The path of the fee schedule that came with the program.
+/// The path of that fee schedule where the program came with one of its name.
 [[nodiscard]] std::string ShippedUpdateFileName();
+
+/// The bare name of the region's fee schedule that is in use unless another one is chosen.
+[[nodiscard]] std::string DefaultUpdateFileName();
+
+/// Whether a fee schedule of the region may have such a bare name: "UpdateUS_*.dat" for one.
+[[nodiscard]] bool IsUpdateFileName(std::string_view sName);
+
+/// Makes the schedule of that bare name the one in use; for any text that can't be one, the
+/// default. Nothing is loaded by it.
+void ChooseUpdateFile(const std::string& sName);
 
 [[nodiscard]] std::int32_t MaxLong(std::int32_t nLeft, std::int32_t nRight);
 

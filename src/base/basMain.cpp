@@ -93,6 +93,7 @@ void SetSystemDefaults() {
   if (const auto fStep = ToDouble(Registry().GetOrCreate(settings::kSnapToGrid))) {
     IgnoreFailure([&] { g_lSnapToGrid = RoundToLong(*fStep); });
   }
+  ChooseUpdateFile(Registry().Get(settings::kSchedule));
   g_sAboutText = Registry().Get(settings::kAbout);
 }
 

@@ -34,7 +34,7 @@ void Main();
 /// false, waits for the movie to end and closes the splash.
 void ManageSplash(bool bShow, const bool& bWait);
 
-/// Reads the grid step and the about text from the settings.
+/// Reads the grid step, the chosen fee schedule and the about text from the settings.
 void SetSystemDefaults();
 
 /// One pass of downloads. Failures are silent: they never stop the start.

@@ -13,16 +13,31 @@ std::error_code MakeFolder(const std::string& sFolder) {
   return oError;
 }
 
-std::error_code SeedFile(const std::string& sShipped, const std::string& sOwn) {
+std::vector<std::string> NamesIn(const std::string& sFolder) {
+  std::vector<std::string> asNames;
+  std::error_code oError;
+  std::filesystem::directory_iterator iEntry(PathOf(sFolder), oError);
+  for (; !oError && iEntry != std::filesystem::directory_iterator(); iEntry.increment(oError)) {
+    asNames.push_back(TextOfPath(iEntry->path().filename()));
+  }
+  return asNames;
+}
+
+bool WantsSeed(const std::string& sShipped, const std::string& sOwn) {
   std::error_code oError;
   const auto oShippedTime = std::filesystem::last_write_time(PathOf(sShipped), oError);
   if (oError) {
-    return oError;
+    return false;
   }
   const auto oOwnTime = std::filesystem::last_write_time(PathOf(sOwn), oError);
-  if (!oError && oOwnTime >= oShippedTime) {
+  return oError || oOwnTime < oShippedTime;
+}
+
+std::error_code SeedFile(const std::string& sShipped, const std::string& sOwn) {
+  if (!WantsSeed(sShipped, sOwn)) {
     return {};
   }
+  std::error_code oError;
   std::filesystem::create_directories(PathOf(sOwn).parent_path(), oError);
   std::string sContent;
   if (!oError) {

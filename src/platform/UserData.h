@@ -3,6 +3,7 @@
 
 #include <string>
 #include <system_error>
+#include <vector>
 
 namespace quillet {
 
@@ -12,6 +13,12 @@ namespace quillet {
 
 /// Makes a folder, and any of its parents that are missing.
 [[nodiscard]] std::error_code MakeFolder(const std::string& sFolder);
+
+/// The bare names of the files and folders in a folder, in no order; none if it can't be read.
+[[nodiscard]] std::vector<std::string> NamesIn(const std::string& sFolder);
+
+/// Whether `sOwn` is missing or was changed earlier than `sShipped`; false if `sShipped` is missing.
+[[nodiscard]] bool WantsSeed(const std::string& sShipped, const std::string& sOwn);
 
 /// Copies `sShipped` to `sOwn`, and makes its folder, if `sOwn` is missing or was changed earlier.
 /// After an error `sOwn` is as it was.

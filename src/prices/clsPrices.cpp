@@ -5,6 +5,7 @@
 
 #include "base/basCommon.h"
 #include "base/basMain.h"
+#include "base/clsRegistryAccess.h"
 #include "base/conversions.h"
 #include "base/failure.h"
 #include "base/text.h"
@@ -103,13 +104,11 @@ class TierReader {
 void clsPrices::LoadUpdateFile() {
   const std::string sPath = UpdateFileName(false);
   try {
-    if (sPath != ShippedUpdateFileName()) {
-      LoadUsersCopy(sPath);
-    } else {
-      LoadFile(sPath, kAttempts);
+    LoadUpdateFileOrFail(kAttempts);
+  } catch (const Failure& oFailure) {
+    if (UpdateFileName(true) != DefaultUpdateFileName()) {
+      return LoadDefaultInstead(oFailure.what());
     }
-    m_oMissingPrice = FirstMissingPrice(ReadUpdateFile(UpdateFileName(false), 1));
-  } catch (const Failure&) {
     // One route for a file that can't be opened and for one that can't be read to its end.
     ShowMessage("Error opening file " + sPath + "\n\n" + EditionName() + " must close.",
                 kMessageCritical, EditionName());
@@ -117,22 +116,47 @@ void clsPrices::LoadUpdateFile() {
   }
 }
 
-/// An unusable copy makes way for the program's file.
-void clsPrices::LoadUsersCopy(const std::string& sPath) {
+/// A file that the user has chosen must hold some fee.
+void clsPrices::LoadUpdateFileOrFail(int nAttempts) {
+  const std::string sPath = UpdateFileName(false);
+  if (sPath != ShippedUpdateFileName()) {
+    LoadUsersCopy(sPath, nAttempts);
+  } else {
+    LoadFile(sPath, nAttempts);
+  }
+  if (UpdateFileName(true) != DefaultUpdateFileName()) {
+    RequireFees(*this);
+  }
+  m_oMissingPrice = FirstMissingPrice(ReadUpdateFile(UpdateFileName(false), 1));
+}
+
+/// An unusable copy makes way for the program's file, if there is one.
+void clsPrices::LoadUsersCopy(const std::string& sPath, int nAttempts) {
   try {
-    LoadFile(sPath, kAttempts);
+    LoadFile(sPath, nAttempts);
     RequireReplacement(*this, ShippedUpdateFileName());
   } catch (const Failure& oFailure) {
     const std::string sAside = sPath + ".bad";
-    if (PutAside(sPath, sAside)) {
+    if (!FileExists(ShippedUpdateFileName()) || PutAside(sPath, sAside)) {
       throw;
     }
-    LoadFile(UpdateFileName(false), kAttempts);
+    LoadFile(UpdateFileName(false), nAttempts);
     ShowMessage("Your copy of the fee schedule can't be used:\n\n" + std::string(oFailure.what()) +
                     "\n\nIt is kept as " + sAside + ". " + EditionName() +
                     " now uses the fees that it came with.",
                 kMessageWarning, EditionName());
   }
+}
+
+/// The choice ends with its file.
+void clsPrices::LoadDefaultInstead(const std::string& sReason) {
+  ShowMessage("The fee schedule that you chose, " + UpdateFileName(true) +
+                  ", can't be used:\n\n" + sReason + "\n\n" + EditionName() +
+                  " now uses the fees that it came with.",
+              kMessageWarning, EditionName());
+  ChooseUpdateFile("");
+  Registry().Set(settings::kSchedule, "");
+  LoadUpdateFile();
 }
 
 void clsPrices::LoadFile(const std::string& sPath) {

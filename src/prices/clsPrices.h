@@ -25,11 +25,16 @@ class clsPrices {
   /// Bytes. A larger file isn't loaded; real fee schedules are far smaller.
   static constexpr std::size_t kLargestFile = std::size_t{1} << 20U;
 
-  /// Reads the region's update file, in up to five attempts. An unusable user's copy is put aside,
-  /// with a message, and the file that came with the program is read. If that can't be read, or
-  /// holds a key twice, says so in a message box and closes the application; the table keeps what
-  /// was read.
+  /// Reads the update file in use, in up to five attempts. An unusable user's copy is put aside,
+  /// with a message, and the file that came with the program is read. An unusable file that the
+  /// user has chosen is replaced by the default, also in the settings, with a message. If the
+  /// default can't be read, or holds a key twice, says so in a message box and closes the
+  /// application; the table keeps what was read.
   void LoadUpdateFile();
+
+  /// The same in one attempt; throws a Failure that says what is wrong if the file, chosen or
+  /// default, can't be used.
+  void LoadUpdateFileOrFail() { LoadUpdateFileOrFail(1); }
 
   /// Reads a given file in one attempt; throws a Failure that names the file and its fault.
   void LoadFile(const std::string& sPath);
@@ -71,7 +76,9 @@ class clsPrices {
 
  private:
   void LoadFile(const std::string& sPath, int nAttempts);
-  void LoadUsersCopy(const std::string& sPath);
+  void LoadUpdateFileOrFail(int nAttempts);
+  void LoadUsersCopy(const std::string& sPath, int nAttempts);
+  void LoadDefaultInstead(const std::string& sReason);
   void AddEntries(std::string_view sText);
 
   PriceTable m_oTable;

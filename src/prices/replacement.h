@@ -7,6 +7,9 @@
 
 namespace quillet {
 
+/// Throws a Failure if the schedule holds nothing that the region looks up.
+void RequireFees(const clsPrices& oPrices);
+
 /// Throws a Failure that says why, if the schedule holds nothing that the region looks up, or lacks
 /// a table of tiers that the file `sPresent` has, as a file that was cut off may.
 void RequireReplacement(const clsPrices& oPrices, const std::string& sPresent);

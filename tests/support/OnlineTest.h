@@ -35,7 +35,10 @@ class OnlineTest : public ::testing::Test {
     g_sActionMessage.clear();
     g_sAboutText = "Welcome";
   }
-  ~OnlineTest() override { g_bDebug = false; }
+  ~OnlineTest() override {
+    g_bDebug = false;
+    ChooseUpdateFile("");
+  }
 
   /// The log since the last call, with the lines of a procedure joined: "Start FTP 1|2|3".
   std::string Story() {
