@@ -6,6 +6,7 @@ import json
 import os
 import pty
 import re
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -216,6 +217,40 @@ class BadInput(Temporary):
                                   stdout=full, stderr=subprocess.PIPE, check=False, timeout=60)
         self.assertEqual(done.returncode, 1)
         self.assertIn(b"the results can't be written: No space left on device", done.stderr)
+
+
+class Schedules(Temporary):
+    def setUp(self):
+        super().setUp()
+        self.program = self.folder / "quillet-calc"
+        shutil.copy(PROGRAMS / "quillet-calc", self.program)
+        self.shipped = (ROOT / "data/UpdateUS_v0101.dat").read_text(encoding="utf-8")
+
+    def calc(self, *arguments):
+        return calc(*arguments, program=self.program, cwd=self.folder)
+
+    def test_those_beside_the_program_are_listed_and_found_by_name_or_path(self):
+        self.assertEqual(self.calc("--schedules"),
+                         (2, "", f"quillet-calc: there is no fee schedule in {self.folder}\n"))
+        default = self.file("UpdateUS_v0101.dat", self.shipped)
+        today = self.file("UpdateUS_2026-10.dat",
+                          self.shipped.replace("Early 2007", "Böden 2026")
+                          .replace("early 2007", "May 2026").replace("FeatureBold,1.00", "FeatureBold,3"))
+        bad = self.file("UpdateUS_bad.dat", "Final,1\nFINAL,2\n")
+        self.assertEqual(self.calc("--schedules"), (0, f"""\
+  Böden 2026        {today}
+* Early 2007        {default}
+  UpdateUS_bad.dat  {bad}: It has the key "FINAL" twice.
+""", ""))
+        camera = self.file("camera.qlt", CAMERA)
+        for name, fee in (("early 2007", "$2.05"), ("BöDEN 2026", "$4.05"), (today.name, "$4.05")):
+            self.assertRegex(self.calc("--prices", name, camera)[1],
+                             rf"Total Listing Fee +{re.escape(fee)}\n")
+        shutil.copy(default, self.folder / "Böden 2026")  # a file comes first
+        self.assertIn("$2.05", self.calc("--prices", "Böden 2026", camera)[1])
+        self.assertEqual(self.calc("--prices", "late", camera),
+                         (2, "", "quillet-calc: late: No such file or directory, and no fee schedule has "
+                          'that name; there are "Böden 2026", "Early 2007", "UpdateUS_bad.dat"\n'))
 
 
 US, UK = "quillet-calc", "quillet-calc-uk"

@@ -68,19 +68,32 @@ std::string WhyNoGoal(const std::string& sText) {
                              sText + "\"";
 }
 
+/// Each of these goes with no other option.
+void KeepAlone(CLI::App& oApp, std::initializer_list<CLI::Option*> aoAlone) {
+  for (CLI::Option* const pAlone : aoAlone) {
+    for (CLI::Option* const pOther : oApp.get_options()) {
+      if (pOther != pAlone && pOther->get_configurable()) {
+        pAlone->excludes(pOther);
+      }
+    }
+  }
+}
+
 void Describe(CLI::App& oApp, Options& oOptions, std::string& sFormat) {
   oApp.footer(Footer());
   oApp.set_version_flag("--version",
                         std::string(ProgramName()) + " " + kVersion + " (" + EditionName() + ")",
                         "Print the version and end");
-  auto* const pPrices = oApp.add_option(
-      "--prices", oOptions.sPrices,
-      "The fee schedule; by default " + UpdateFileName(true) + " beside the program");
+  auto* const pPrices =
+      oApp.add_option("--prices", oOptions.sPrices,
+                      "The fee schedule, by file or by name; by default " + UpdateFileName(true));
   auto* const pFormat = oApp.add_option("--format", sFormat, "table, csv or json");
   auto* const pFiles =
       oApp.add_option("FILE", oOptions.asFiles, "Auction files, or - for a stream");
   auto* const pCheck =
       oApp.add_option("--check", oOptions.sCheck, "Check a fee schedule and list what is wrong");
+  auto* const pSchedules = oApp.add_flag("--schedules", oOptions.bSchedules,
+                                         "List the fee schedules at hand by name and file");
   auto* const pBreakEven = oApp.add_flag("--break-even", oOptions.bBreakEven,
                                          "Add the lowest price that leaves no loss");
   auto* const pGoal =
@@ -91,16 +104,15 @@ void Describe(CLI::App& oApp, Options& oOptions, std::string& sFormat) {
   auto* const pJobs =
       oApp.add_option("--jobs", oOptions.nJobs, "Threads at work; by default the number of cores")
           ->check(CLI::Range(std::size_t{1}, kMostJobs));
-  pPrices->option_text("FILE");
+  pPrices->option_text("SCHEDULE");
   pFormat->option_text("FORMAT")->check(CLI::IsMember({"table", "csv", "json"}));
   pFiles->option_text("...");
+  pSchedules->option_text(" ");
   pBreakEven->option_text(" ");
   pGoal->option_text("GOAL");
   pJobs->option_text("N");
   pCheck->option_text("FILE");
-  for (auto* const pOther : {pPrices, pFormat, pFiles, pBreakEven, pGoal, pJobs}) {
-    pCheck->excludes(pOther);
-  }
+  KeepAlone(oApp, {pCheck, pSchedules});
 }
 
 }  // namespace
@@ -123,7 +135,7 @@ std::optional<Options> ReadOptions(int nArguments, char** asArguments, int& nSta
     return std::nullopt;
   }
   oOptions.eFormat = kFormats.at(sFormat);
-  if (oOptions.asFiles.empty() && !oOptions.sCheck) {
+  if (oOptions.asFiles.empty() && !oOptions.sCheck && !oOptions.bSchedules) {
     if (IsTerminal(kStandardInput)) {
       Complain("no auction file; see --help");
       nStatus = kUnusable;

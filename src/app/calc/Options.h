@@ -16,13 +16,14 @@ enum class Format { Automatic, Table, Csv, Json };
 inline constexpr const char* kStandardInputName = "-";
 
 struct Options {
-  std::optional<std::string> sPrices;  ///< a fee schedule other than the one beside the program
+  std::optional<std::string> sPrices;  ///< another fee schedule than the default, by path or name
   std::optional<std::string> sCheck;   ///< an update file to check; then nothing else is done
+  bool bSchedules = false;             ///< list the schedules on offer; then nothing else is done
   bool bBreakEven = false;             ///< asks for the price that breaks even
   std::optional<Goal> oGoal;           ///< asks for the price that meets it
   Format eFormat = Format::Automatic;
   std::size_t nJobs = 1;             ///< how many threads work on it
-  std::vector<std::string> asFiles;  ///< never empty unless sCheck is set
+  std::vector<std::string> asFiles;  ///< never empty if there is something to calculate
 };
 
 /// Reads the command line. If it asks for help or is wrong, prints that, sets `nStatus`, with which

@@ -4,6 +4,7 @@
 #include "app/calc/Status.h"
 #include "app/calc/checkFile.h"
 #include "app/calc/run.h"
+#include "app/calc/schedules.h"
 #include "platform/Descriptors.h"
 
 namespace quillet {
@@ -20,6 +21,9 @@ int Run(int nArguments, char** asArguments) {
   }
   if (oOptions->sCheck) {
     return CheckScheduleFile(*oOptions->sCheck);
+  }
+  if (oOptions->bSchedules) {
+    return ListSchedules();
   }
   nStatus = LoadSchedule(*oOptions);
   return nStatus == kEveryAuctionCalculated ? RunAuctions(*oOptions) : nStatus;

@@ -7,6 +7,7 @@
 #include "app/calc/Printer.h"
 #include "app/calc/Report.h"
 #include "app/calc/checkFile.h"
+#include "app/calc/schedules.h"
 #include "base/basCommon.h"
 #include "base/failure.h"
 #include "prices/clsPrices.h"
@@ -14,9 +15,10 @@
 namespace quillet {
 
 Status LoadSchedule(const Options& oOptions) {
-  const std::string sPath = oOptions.sPrices.value_or(UpdateFileName(false));
+  std::string sPath;
   auto oPrices = std::make_unique<clsPrices>();
   try {
+    sPath = oOptions.sPrices ? ScheduleFileOf(*oOptions.sPrices) : UpdateFileName(false);
     oPrices->LoadFile(sPath);
   } catch (const Failure& oFailure) {
     Complain(oFailure.what());
