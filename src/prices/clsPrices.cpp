@@ -150,9 +150,8 @@ void clsPrices::LoadUsersCopy(const std::string& sPath, int nAttempts) {
 
 /// The choice ends with its file.
 void clsPrices::LoadDefaultInstead(const std::string& sReason) {
-  ShowMessage("The fee schedule that you chose, " + UpdateFileName(true) +
-                  ", can't be used:\n\n" + sReason + "\n\n" + EditionName() +
-                  " now uses the fees that it came with.",
+  ShowMessage("The fee schedule that you chose, " + UpdateFileName(true) + ", can't be used:\n\n" +
+                  sReason + "\n\n" + EditionName() + " now uses the fees that it came with.",
               kMessageWarning, EditionName());
   ChooseUpdateFile("");
   Registry().Set(settings::kSchedule, "");
