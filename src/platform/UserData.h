@@ -17,7 +17,8 @@ namespace quillet {
 /// The bare names of the files and folders in a folder, in no order; none if it can't be read.
 [[nodiscard]] std::vector<std::string> NamesIn(const std::string& sFolder);
 
-/// Whether `sOwn` is missing or was changed earlier than `sShipped`; false if `sShipped` is missing.
+/// Whether `sOwn` is missing or was changed earlier than `sShipped`; false if `sShipped` is
+/// missing.
 [[nodiscard]] bool WantsSeed(const std::string& sShipped, const std::string& sOwn);
 
 /// Copies `sShipped` to `sOwn`, and makes its folder, if `sOwn` is missing or was changed earlier.
