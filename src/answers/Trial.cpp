@@ -9,6 +9,7 @@ void Trial::Reset() {
   m_oCopy.m_oPayPal = m_oAuction.m_oPayPal;
   m_oCopy.m_oSellingFeatures = m_oAuction.m_oSellingFeatures;
   m_oCopy.m_oPostage = m_oAuction.m_oPostage;
+  m_oCopy.m_oSaleFees = m_oAuction.m_oSaleFees;
 }
 
 const clsCalculate& Trial::With(const Change& oChange) {

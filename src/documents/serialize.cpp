@@ -1,11 +1,16 @@
 // The text of an auction, section by section and field by field (docs/auction-file.md). A missing
-// [TYPE] or [FEATURES] is silently skipped; any other missing section throws a Failure.
+// [TYPE] or [FEATURES] is silently skipped, and so is [FEES], whose inputs are fresh then; any
+// other missing section throws a Failure.
 #include "base/basCommon.h"
 #include "base/failure.h"
 #include "documents/Section.h"
 #include "engine/clsCalculate.h"
+#include "prices/clsPrices.h"
 
 namespace quillet {
+namespace {
+constexpr std::string_view kFeesMarker = "[FEES]";
+}
 
 void clsAuctionType::Serialize(std::string& sData, bool bSave) {
   IgnoreFailure([&] {
@@ -66,6 +71,32 @@ void clsPostage::Serialize(std::string& sData, bool bSave) {
   });
 }
 
+void clsSaleFees::Serialize(std::string& sData, bool bSave) {
+  SerializeSection(sData, bSave, kFeesMarker, [&](auto& oSection) {
+    oSection.Integer(m_oInputs.nCategory);
+    oSection.Amount(m_oInputs.fBuyerTax);
+    oSection.Amount(m_oInputs.fAdvertising);
+    oSection.Long(m_oInputs.lExtras);
+    oSection.Switch(m_oInputs.bFreeListing);
+    oSection.Switch(m_oInputs.bTaxIsCost);
+  });
+}
+
+/// Without today's fees the section stands only where somebody has entered something, so that an
+/// auction of 2007 is written as it always was, and one of today loses nothing meanwhile.
+void clsCalculate::SerializeSaleFees(std::string& sData, bool bSave) {
+  if (bSave) {
+    if (AreFeesOfToday() || !m_oSaleFees.IsFresh()) {
+      m_oSaleFees.Serialize(sData, true);
+    }
+    return;
+  }
+  m_oSaleFees.Clear();
+  if (sData.find(kFeesMarker) != std::string::npos) {
+    IgnoreFailure([&] { m_oSaleFees.Serialize(sData, false); });
+  }
+}
+
 bool clsCalculate::Serialize(std::string& sData, bool bSave) {
   try {
     m_oAuctionType.Serialize(sData, bSave);
@@ -73,6 +104,7 @@ bool clsCalculate::Serialize(std::string& sData, bool bSave) {
     m_oSellingFeatures.Serialize(sData, bSave);
     m_oPayPal.Serialize(sData, bSave);
     m_oPostage.Serialize(sData, bSave);
+    SerializeSaleFees(sData, bSave);
     return true;
   } catch (const Failure& oFailure) {
     ShowMessage(oFailure.what(), kMessagePlain, "");

@@ -29,14 +29,27 @@ Single clsAuctionType::DoCalc(const clsOutlay& oOutlay) {
 
 Single clsAuctionType::DoCalcListingFee(const clsOutlay& oOutlay) {
   m_oLastOutlay = &oOutlay;
-  return RegionCode() == 1 ? DoCalcListingFee_US(oOutlay) : DoCalcListingFee_UK(oOutlay);
+  return m_oSaleFees != nullptr ? DoCalcListingFee_Today(oOutlay) : DoCalcListingFee_2007(oOutlay);
 }
 
 Single clsAuctionType::DoCalcReserveFee(const clsOutlay& oOutlay) const {
-  return RegionCode() == 1 ? DoCalcReserveFee_US(oOutlay) : DoCalcReserveFee_UK(oOutlay);
+  return m_oSaleFees != nullptr ? DoCalcReserveFee_Today(oOutlay) : DoCalcReserveFee_2007(oOutlay);
 }
 
 Single clsAuctionType::DoCalcFinalValueFee(const clsOutlay& oOutlay) const {
+  return m_oSaleFees != nullptr ? DoCalcFinalValueFee_Today(oOutlay)
+                                : DoCalcFinalValueFee_2007(oOutlay);
+}
+
+Single clsAuctionType::DoCalcListingFee_2007(const clsOutlay& oOutlay) const {
+  return RegionCode() == 1 ? DoCalcListingFee_US(oOutlay) : DoCalcListingFee_UK(oOutlay);
+}
+
+Single clsAuctionType::DoCalcReserveFee_2007(const clsOutlay& oOutlay) const {
+  return RegionCode() == 1 ? DoCalcReserveFee_US(oOutlay) : DoCalcReserveFee_UK(oOutlay);
+}
+
+Single clsAuctionType::DoCalcFinalValueFee_2007(const clsOutlay& oOutlay) const {
   return RegionCode() == 1 ? DoCalcFinalValueFee_US(oOutlay) : DoCalcFinalValueFee_UK(oOutlay);
 }
 
@@ -54,7 +67,7 @@ Single clsAuctionType::DoCalcListingFee_UK(const clsOutlay& oOutlay) const {
   Single fFee;
   switch (m_eAuctionType) {
     case kAuctionStandard:
-      fFee = OpeningFee(oOutlay);
+      fFee = OpeningFee(oOutlay, "Opening");
       break;
     case kAuctionMotor:
       fFee = PerUnitIfFixedPrice(PriceOrZero("AuctionTypeMotor"), oOutlay);
@@ -84,14 +97,19 @@ Single clsAuctionType::DoCalcReserveFee_UK(const clsOutlay& oOutlay) const {
     default:
       return 0;
   }
+  return ReserveFee_UK(oOutlay.m_fReservePrice);
+}
+
+/// Tiers 1 and 3 are flat, tier 2 is a percentage.
+Single clsAuctionType::ReserveFee_UK(Single fReservePrice) {
   clsPriceRange oTier;
-  Prices().HitTestRanges("Reserve", oOutlay.m_fReservePrice, oTier, kShopNone);
+  Prices().HitTestRanges("Reserve", fReservePrice, oTier, kShopNone);
   switch (oTier.m_nIndex) {
     case 1:
     case 3:
       return oTier.m_fValue;
     case 2:
-      return (oTier.m_fValue / 100) * oOutlay.m_fReservePrice;
+      return (oTier.m_fValue / 100) * fReservePrice;
     default:
       return 0;
   }
@@ -120,7 +138,7 @@ Single clsAuctionType::DoCalcFinalValueFee_UK(const clsOutlay& oOutlay) const {
 }
 
 /// The insertion fee by opening value. A reserve counts for a single item only.
-Single clsAuctionType::OpeningFee(const clsOutlay& oOutlay) const {
+Single clsAuctionType::OpeningFee(const clsOutlay& oOutlay, const KeyText& oTable) const {
   Single fOpening;
   if (oOutlay.m_lQuantity != 1) {
     fOpening = (m_bBuyItNowOnly ? oOutlay.m_fEstimatedEndPrice : oOutlay.m_fStartingPrice) *
@@ -131,7 +149,7 @@ Single clsAuctionType::OpeningFee(const clsOutlay& oOutlay) const {
     fOpening = oOutlay.m_fReservePrice > 0 ? oOutlay.m_fReservePrice : oOutlay.m_fStartingPrice;
   }
   clsPriceRange oTier;
-  const bool bHit = Prices().HitTestRanges("Opening", fOpening, oTier, kShopNone);
+  const bool bHit = Prices().HitTestRanges(oTable, fOpening, oTier, kShopNone);
   return bHit ? oTier.m_fValue : Single(0);
 }
 

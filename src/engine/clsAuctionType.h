@@ -11,6 +11,8 @@
 
 namespace quillet {
 
+class clsSaleFees;
+
 // The values of these codes are stored in auction files. Fields hold them as numbers, since a file
 // may hold others too; a code outside the list takes no part in any fee.
 
@@ -62,6 +64,17 @@ class clsAuctionType {
   /// Resets everything but m_bDirty.
   void Clear() { Serialize(m_sDefaultState, false); }
 
+  /// Whether the seller may choose a kind of listing, or a vehicle of eMotorType. With today's fees
+  /// not if the schedule gives no price or one below 0; with those of 2007 always.
+  [[nodiscard]] static bool IsOnOffer(std::int32_t eAuctionType);
+  [[nodiscard]] static bool IsVehicleOnOffer(std::int32_t eMotorType);
+
+  /// True unless it is a vehicle or real estate: those pay none of today's sale fees.
+  [[nodiscard]] bool PaysSaleFees() const;
+
+  /// A shop's inventory has a fixed price too.
+  [[nodiscard]] bool HasFixedPrice() const { return m_bBuyItNowOnly || m_bShopInventory; }
+
   // The United States rules, to which the routines above delegate in that region.
   [[nodiscard]] Single DoCalcListingFee_US(const clsOutlay& oOutlay) const;
   [[nodiscard]] Single DoCalcReserveFee_US(const clsOutlay& oOutlay) const;
@@ -79,14 +92,26 @@ class clsAuctionType {
   std::int32_t m_eRealEstateSaleFormat = kSaleAuction10;
   bool m_bRealEstateBinding = false;
   bool m_bDirty = false;  ///< changed since last saved
+  /// The same auction's, if its latest DoCalc was by a schedule of today's fees; not owned.
+  const clsSaleFees* m_oSaleFees = nullptr;
 
  private:
   [[nodiscard]] Single DoCalcListingFee_UK(const clsOutlay& oOutlay) const;
   [[nodiscard]] Single DoCalcReserveFee_UK(const clsOutlay& oOutlay) const;
   [[nodiscard]] Single DoCalcFinalValueFee_UK(const clsOutlay& oOutlay) const;
 
-  // What both regions' rules share.
-  [[nodiscard]] Single OpeningFee(const clsOutlay& oOutlay) const;
+  [[nodiscard]] Single DoCalcListingFee_2007(const clsOutlay& oOutlay) const;
+  [[nodiscard]] Single DoCalcReserveFee_2007(const clsOutlay& oOutlay) const;
+  [[nodiscard]] Single DoCalcFinalValueFee_2007(const clsOutlay& oOutlay) const;
+
+  [[nodiscard]] Single DoCalcListingFee_Today(const clsOutlay& oOutlay) const;
+  [[nodiscard]] Single DoCalcReserveFee_Today(const clsOutlay& oOutlay) const;
+  [[nodiscard]] Single DoCalcFinalValueFee_Today(const clsOutlay& oOutlay) const;
+
+  // What they share.
+  [[nodiscard]] Single OpeningFee(const clsOutlay& oOutlay, const KeyText& oTable) const;
+  [[nodiscard]] static Single ReserveFee_UK(Single fReservePrice);
+  [[nodiscard]] static Single ReserveFee_US(Single fReservePrice);
   [[nodiscard]] Single ProgressiveFinalValueFee(const clsOutlay& oOutlay) const;
   [[nodiscard]] Single PerUnitIfFixedPrice(Single fFee, const clsOutlay& oOutlay) const;
   [[nodiscard]] Single ApplyShopInventory(Single fFee) const;

@@ -68,13 +68,13 @@ Single clsAuctionType::DoCalcListingFee_US(const clsOutlay& oOutlay) const {
   Single fFee;
   switch (m_eAuctionType) {
     case kAuctionStandard:
-      fFee = OpeningFee(oOutlay);
+      fFee = OpeningFee(oOutlay, "Opening");
       break;
     case kAuctionMotor:
       if (const VehicleKeys* const pKeys = KeysOfVehicle(*this)) {
         fFee = PriceOrZero(pKeys->oListing) + PriceOrZero(pKeys->oTransaction);
       } else if (m_eMotorType == kMotorParts) {
-        fFee = OpeningFee(oOutlay);
+        fFee = OpeningFee(oOutlay, "Opening");
       }
       break;
     case kAuctionRealEstate: {
@@ -98,14 +98,12 @@ Single clsAuctionType::DoCalcReserveFee_US(const clsOutlay& oOutlay) const {
   }
   switch (m_eAuctionType) {
     case kAuctionStandard:
-      return CappedTierFee("Reserve", "ReserveMax", oOutlay.m_fReservePrice);
+      return ReserveFee_US(oOutlay.m_fReservePrice);
     case kAuctionMotor:
       if (const VehicleKeys* const pKeys = KeysOfVehicle(*this)) {
         return PriceOrZero(pKeys->oReserve);  // due for any reserve price, 0 included
       }
-      return m_eMotorType == kMotorParts
-                 ? CappedTierFee("Reserve", "ReserveMax", oOutlay.m_fReservePrice)
-                 : Single(0);
+      return m_eMotorType == kMotorParts ? ReserveFee_US(oOutlay.m_fReservePrice) : Single(0);
     case kAuctionRealEstate:
       return oOutlay.m_fReservePrice > 0
                  ? CappedTierFee("ReserveRealEstate", "ReserveRealEstateMax",
@@ -116,6 +114,10 @@ Single clsAuctionType::DoCalcReserveFee_US(const clsOutlay& oOutlay) const {
     default:
       return 0;
   }
+}
+
+Single clsAuctionType::ReserveFee_US(Single fReservePrice) {
+  return CappedTierFee("Reserve", "ReserveMax", fReservePrice);
 }
 
 Single clsAuctionType::DoCalcFinalValueFee_US(const clsOutlay& oOutlay) const {

@@ -1,4 +1,4 @@
-// One auction: its five models, and the totals that they add up to.
+// One auction: its six models, and the totals that they add up to.
 #pragma once
 
 #include <string>
@@ -8,6 +8,7 @@
 #include "engine/clsOutlay.h"
 #include "engine/clsPayPal.h"
 #include "engine/clsPostage.h"
+#include "engine/clsSaleFees.h"
 #include "engine/clsSellingFeatures.h"
 
 namespace quillet {
@@ -36,7 +37,7 @@ class clsCalculate {
   /// Copies another auction's inputs through its text: not its name, nor its totals.
   void Copy(clsCalculate& oSourceAuction);
 
-  /// Resets all five models. The totals stay until the next DoCalc.
+  /// Resets all six models. The totals stay until the next DoCalc.
   void Clear();
 
   std::string m_sName;
@@ -53,6 +54,10 @@ class clsCalculate {
   clsPayPal m_oPayPal;
   clsSellingFeatures m_oSellingFeatures;
   clsPostage m_oPostage;
+  clsSaleFees m_oSaleFees;
+
+ private:
+  void SerializeSaleFees(std::string& sData, bool bSave);
 };
 
 /// The auction on screen; made on first use and never replaced.

@@ -146,9 +146,14 @@ const clsAuctionType& clsSellingFeatures::AuctionType() const {
   return *m_oAuctionType;
 }
 
+/// The one that prices are looked up with. Today's depend neither on it nor on the kind of listing.
+std::int32_t clsSellingFeatures::Duration() const {
+  return HasFeesOfToday() ? std::int32_t{kShopNone} : AuctionType().m_eShopDuration;
+}
+
 PriceKey clsSellingFeatures::GetPriceKey(const KeyText& oName) const {
   PriceKey oKey = KeyText("Feature");
-  if (RegionCode() != 0) {
+  if (RegionCode() != 0 && !HasFeesOfToday()) {
     if (AuctionType().m_eAuctionType == kAuctionMotor) {
       oKey.Append("Motor");
       switch (AuctionType().m_eMotorType) {
@@ -170,19 +175,25 @@ PriceKey clsSellingFeatures::GetPriceKey(const KeyText& oName) const {
 
 /// A price that the schedule lacks stays as it was, even if it is that of another kind of listing.
 void clsSellingFeatures::RefreshPrices() {
-  const std::int32_t nShop = AuctionType().m_eShopDuration;
+  RefreshPrices(GetPriceKey(""));
+  if (HasFeesOfToday() && AuctionType().HasFixedPrice()) {
+    RefreshPrices(KeyText("FixedFeature"));  // those that differ
+  }
+}
+
+void clsSellingFeatures::RefreshPrices(PriceKey oKey) {
+  const std::int32_t nShop = Duration();
   const clsPrices& oPrices = Prices();
-  PriceKey oKey = GetPriceKey("");
   for (const FeaturePrice& oPrice : kFeaturePrices) {
     const KeyBranch oBranch(oKey);
     oPrices.GetPrice(oKey.Append(oPrice.oName), this->*oPrice.fPrice, nShop);
   }
 }
 
-/// By the hoped-for price in the United States. The tiers never carry a shop's duration, unlike the
-/// flat price.
+/// By the hoped-for price in the United States, in 2007. The tiers never carry a shop's duration,
+/// unlike the flat price.
 Single clsSellingFeatures::GetBuyItNowFee() const {
-  if (RegionCode() != 1 || m_oLastOutlay == nullptr) {
+  if (RegionCode() != 1 || m_oLastOutlay == nullptr || HasFeesOfToday()) {
     return m_fBuyItNow;
   }
   clsPriceRange oTier;
@@ -204,8 +215,8 @@ Single clsSellingFeatures::GetHomePageFee() const {
 /// By the number of pictures; 0 when no tier holds it.
 Single clsSellingFeatures::GetPicturePackFee() const {
   clsPriceRange oTier;
-  const bool bHit = Prices().HitTestRanges(GetPriceKey("PicturePack"), m_lExtraImageCount, oTier,
-                                           AuctionType().m_eShopDuration);
+  const bool bHit =
+      Prices().HitTestRanges(GetPriceKey("PicturePack"), m_lExtraImageCount, oTier, Duration());
   return bHit ? oTier.m_fValue : Single(0);
 }
 

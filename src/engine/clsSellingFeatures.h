@@ -94,7 +94,10 @@ class clsSellingFeatures {
  private:
   [[nodiscard]] const clsAuctionType& AuctionType() const;
   [[nodiscard]] PriceKey GetPriceKey(const KeyText& oName) const;
+  [[nodiscard]] bool HasFeesOfToday() const { return AuctionType().m_oSaleFees != nullptr; }
+  [[nodiscard]] std::int32_t Duration() const;
   void RefreshPrices();
+  void RefreshPrices(PriceKey oKey);
   [[nodiscard]] Single GetBuyItNowFee() const;
   [[nodiscard]] Single GetHomePageFee() const;
   [[nodiscard]] Single GetPicturePackFee() const;

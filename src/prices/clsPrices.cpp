@@ -176,10 +176,15 @@ void clsPrices::LoadText(std::string_view sText) {
   try {
     AddEntries(sText);
   } catch (const Failure&) {
-    m_oTable.LinkTiers();  // what came before it can be used
+    EndLoad();  // what came before it can be used
     throw;
   }
+  EndLoad();
+}
+
+void clsPrices::EndLoad() {
   m_oTable.LinkTiers();
+  m_oSaleRates = ReadSaleRates(m_oTable);
 }
 
 void clsPrices::AddEntries(std::string_view sText) {
@@ -236,6 +241,10 @@ bool clsPrices::HitTestRanges(const KeyText& oName, Single fHitTestValue, clsPri
   return false;
 }
 
+bool clsPrices::HasTiers(const KeyText& oName) const {
+  return m_oTable.FindTiers(PriceKey(oName).Append(kCountWord)) != nullptr;
+}
+
 clsPrices::TierEdges clsPrices::Edges() const {
   const std::vector<Tier>& aoTiers = m_oTable.AllTiers();
   TierEdges oEdges{AllOf(TierPart::Start, aoTiers), AllOf(TierPart::End, aoTiers)};
@@ -249,6 +258,10 @@ clsPrices& Prices() {
     g_oPrices->LoadUpdateFile();
   }
   return *g_oPrices;
+}
+
+bool AreFeesOfToday() {
+  return g_oPrices && g_oPrices->Sale() != nullptr;
 }
 
 void UsePrices(std::unique_ptr<clsPrices> oPrices) {

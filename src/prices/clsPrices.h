@@ -11,6 +11,7 @@
 #include "base/Single.h"
 #include "prices/PriceKey.h"
 #include "prices/PriceTable.h"
+#include "prices/SaleRates.h"
 #include "prices/Schedule.h"
 #include "prices/clsPriceRange.h"
 #include "prices/shopDuration.h"
@@ -61,6 +62,12 @@ class clsPrices {
   bool HitTestRanges(const KeyText& oName, Single fHitTestValue, clsPriceRange& oRange,
                      std::int32_t nShop) const;
 
+  /// True if there is a tier table of that name, even an empty one.
+  [[nodiscard]] bool HasTiers(const KeyText& oName) const;
+
+  /// What a sale costs today, valid until the next load; null in a schedule of 2007.
+  [[nodiscard]] const SaleRates* Sale() const { return m_oSaleRates ? &*m_oSaleRates : nullptr; }
+
   /// Where the tiers of all tables start and end, without the ends that mean no limit: in order,
   /// each once.
   struct TierEdges {
@@ -80,13 +87,18 @@ class clsPrices {
   void LoadUsersCopy(const std::string& sPath, int nAttempts);
   void LoadDefaultInstead(const std::string& sReason);
   void AddEntries(std::string_view sText);
+  void EndLoad();
 
   PriceTable m_oTable;
+  std::optional<SaleRates> m_oSaleRates;
   std::optional<Finding> m_oMissingPrice;
 };
 
 /// The program's table, made and loaded from the update file on first use.
 [[nodiscard]] clsPrices& Prices();
+
+/// True if the program's table is loaded and has today's fees. Loads nothing.
+[[nodiscard]] bool AreFeesOfToday();
 
 /// Makes `oPrices` the program's table: for tools and tests that choose the file themselves.
 void UsePrices(std::unique_ptr<clsPrices> oPrices);

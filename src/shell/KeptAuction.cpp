@@ -18,6 +18,7 @@ KeptAuction::KeptAuction(clsCalculate& oAuction)
       m_oPayPal(oAuction.m_oPayPal),
       m_oSellingFeatures(oAuction.m_oSellingFeatures),
       m_oPostage(oAuction.m_oPostage),
+      m_oSaleFees(oAuction.m_oSaleFees),
       m_sText(TextOf(oAuction)) {}
 
 bool KeptAuction::IsUnchanged() const {
@@ -30,6 +31,7 @@ void KeptAuction::PutBack() {
   m_oAuction.m_oPayPal = m_oPayPal;
   m_oAuction.m_oSellingFeatures = m_oSellingFeatures;
   m_oAuction.m_oPostage = m_oPostage;
+  m_oAuction.m_oSaleFees = m_oSaleFees;
 }
 
 }  // namespace quillet

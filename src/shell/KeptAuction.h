@@ -27,6 +27,7 @@ class KeptAuction {
   clsPayPal m_oPayPal;
   clsSellingFeatures m_oSellingFeatures;
   clsPostage m_oPostage;
+  clsSaleFees m_oSaleFees;
   std::string m_sText;
 };
 

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "support/Auctions.h"
+#include "support/Prices.h"
 #include "support/TestHost.h"
 
 namespace quillet {
@@ -72,6 +73,29 @@ TEST(AuctionText, AValueThatDoesNotConvertLeavesItsFieldAlone) {
     EXPECT_EQ(AfterReading(With(kFull, sOld, sSection)), With(kFull, sOld, sAfter)) << sSection;
     EXPECT_TRUE(oHost.aoShown.empty()) << sSection;
   }
+}
+
+TEST(AuctionText, FeesStandWhereTheyAreTodaysOrEnteredAndAreFreshWithoutTheirSection) {
+  const std::string sFees = "[FEES]12|8.875|2.5|5|True|False[FEES]";
+  const std::string sFreshFees = "[FEES]1|0|0|0|False|True[FEES]";
+  for (const bool bToday : {false, true}) {
+    UseSchedule(bToday ? "FeeModel,2" : "");
+    const std::string sUsual = bToday ? sFreshFees : "";
+    EXPECT_EQ(AfterReading(kFresh), kFresh + sUsual);
+    EXPECT_EQ(AfterReading(kFresh + sFees), kFresh + sFees);
+    EXPECT_EQ(AfterReading(kFresh + sFreshFees), kFresh + sUsual);
+    EXPECT_EQ(AfterReading(kFresh + "[FEES]3|"), kFresh + sUsual) << "one marker";
+    clsCalculate oAuction;
+    std::string sEntered = kFull + sFees;
+    oAuction.Serialize(sEntered, false);
+    std::string sPartly = kFresh + "[FEES]x|-1[FEES]";
+    oAuction.Serialize(sPartly, false);
+    EXPECT_EQ(TextOf(oAuction), kFresh + "[FEES]1|-1|0|0|False|True[FEES]");
+    std::string sWithout = kFresh;
+    oAuction.Serialize(sWithout, false);
+    EXPECT_EQ(TextOf(oAuction), kFresh + sUsual);
+  }
+  UseSchedule("");
 }
 
 TEST(AuctionText, AMissingSectionEndsTheReadingOrIsPassedOver) {

@@ -25,12 +25,16 @@ inline void UseSchedule(const std::string& sText) {
   UsePrices(std::move(oPrices));
 }
 
-/// Makes the shipped schedule of this region the program's.
-inline void UseShippedSchedule() {
+/// Makes a shipped schedule the program's.
+inline void UseShippedSchedule(const std::string& sName) {
   auto oPrices = std::make_unique<clsPrices>();
-  oPrices->LoadFile(std::string(QUILLET_SOURCE_DIR) +
-                    (RegionCode() == 1 ? "/data/UpdateUS_v0101.dat" : "/data/UpdateUK_v0101.dat"));
+  oPrices->LoadFile(std::string(QUILLET_SOURCE_DIR) + "/data/" + sName);
   UsePrices(std::move(oPrices));
+}
+
+/// That of 2007 of this region.
+inline void UseShippedSchedule() {
+  UseShippedSchedule(RegionCode() == 1 ? "UpdateUS_v0101.dat" : "UpdateUK_v0101.dat");
 }
 
 /// The lines of a tier table; an end of -1 means no upper limit.

@@ -1,0 +1,66 @@
+// What eBay takes of a sale by a schedule of today's fees.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "base/Single.h"
+#include "engine/clsAuctionType.h"
+#include "engine/clsOutlay.h"
+#include "engine/clsPostage.h"
+#include "prices/SaleRates.h"
+
+namespace quillet {
+
+/// What the seller enters. It stands in auction files.
+struct SaleInputs {
+  std::int32_t nCategory = 1;  ///< of the schedule, from 1; one that it lacks costs nothing
+  Single fBuyerTax;            ///< percent, on price and postage
+  Single fAdvertising;         ///< percent; 0 without advertising
+  std::int32_t lExtras = 0;    ///< bit i - 1 for the schedule's extra i
+  bool bFreeListing = false;   ///< one of the month's listings without an insertion fee
+  bool bTaxIsCost = true;      ///< the tax on fees isn't paid back to the seller
+
+  bool operator==(const SaleInputs&) const = default;
+};
+
+/// A sale fee's parts, in whole cents. They add up to the fee.
+struct SaleParts {
+  Single fCategory;
+  Single fOrder;
+  Single fRegulatory;
+  Single fAdvertising;
+  Single fExtras;
+  Single fTax;
+};
+
+class clsSaleFees {
+ public:
+  /// The fees on all that is sold, to which the postage's cost and profit are known. 0 for real
+  /// estate and vehicles, and if nothing is sold or paid. A tier table that the schedule lacks is a
+  /// Failure, and so is an amount beyond a trillion.
+  [[nodiscard]] Single DoCalc(const SaleRates& oRates, const clsAuctionType& oAuctionType,
+                              const clsOutlay& oOutlay, const clsPostage& oPostage,
+                              double fPostage);
+
+  /// What the latest DoCalc gave, in all and by its parts.
+  [[nodiscard]] Single LastFee() const { return m_fLastFee; }
+  [[nodiscard]] const SaleParts& LastParts() const { return m_oLastParts; }
+
+  /// Appends the section "[FEES]" to `sData`, or reads it from there (docs/auction-file.md).
+  void Serialize(std::string& sData, bool bSave);
+
+  [[nodiscard]] bool IsFresh() const { return m_oInputs == SaleInputs{}; }
+
+  /// Back to the fresh state, but for m_bDirty and what DoCalc keeps.
+  void Clear() { m_oInputs = {}; }
+
+  SaleInputs m_oInputs;
+  bool m_bDirty = false;  ///< changed since last saved
+
+ private:
+  SaleParts m_oLastParts;
+  Single m_fLastFee;
+};
+
+}  // namespace quillet

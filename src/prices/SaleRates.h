@@ -1,0 +1,88 @@
+// What a sale costs by a schedule of today's fees (docs/update-file.md), made ready to calculate
+// with.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "base/Single.h"
+#include "prices/PriceTable.h"
+
+namespace quillet {
+
+// Rates and amounts are whole numbers here, so that a half of a cent is one: no float is exactly
+// 13.6, and no double exactly 0.136.
+
+/// Millionths: 13.6 % is 136'000.
+using Rate = std::int64_t;
+
+/// Hundred-millionths of the currency.
+using FineAmount = std::int64_t;
+
+/// A percentage, to four decimals. One beyond 1,000 % counts as that.
+[[nodiscard]] Rate RateOf(double fPercent);
+
+/// An amount, to eight decimals. One beyond a billion counts as that.
+[[nodiscard]] FineAmount FineAmountOf(double fAmount);
+
+struct SaleTier {
+  FineAmount nStart = 0;
+  FineAmount nEnd = 0;      ///< of a tier without an upper limit: what no amount reaches
+  std::int64_t nValue = 0;  ///< a Rate, or of order fees a FineAmount
+};
+
+struct SaleTable {
+  std::string sCountKey;
+  bool bThere = false;
+  std::vector<SaleTier> aoTiers;  ///< up to the first that lacks a number
+};
+
+/// A table and the one that takes its place for who has a shop, if the schedule has such a one.
+struct SaleTables {
+  SaleTable oPlain;
+  SaleTable oShop;
+
+  /// A Failure if it isn't there.
+  [[nodiscard]] const SaleTable& For(bool bShop) const;
+};
+
+struct SaleCategory {
+  std::string sName;
+  SaleTables oRates;
+  bool bWhole = false;    ///< one tier's rate on the whole amount, not each tier's on its part
+  bool bByPrice = false;  ///< that tier is looked up by the bare price
+  std::optional<Single> fInsertion;
+  std::optional<Single> fFreeFrom;  ///< from this price on neither insertion nor order fee
+
+  [[nodiscard]] bool IsFree(Single fPrice) const { return fFreeFrom && fPrice >= *fFreeFrom; }
+};
+
+struct SaleExtra {
+  std::string sName;
+  Rate nRate = 0;
+};
+
+struct SaleRates {
+  /// As many extras as an auction has bits for.
+  static constexpr std::size_t kMostExtras = 31;
+
+  /// Null if there is none of that number, from 1.
+  [[nodiscard]] const SaleCategory* Category(std::int32_t nCategory) const;
+
+  std::vector<SaleCategory> aoCategories;  ///< up to the first without a tier table
+  SaleTables oOrderFee;
+  bool bWithPostage = false;  ///< fees are taken on postage too
+  bool bWithTax = false;      ///< and on the buyer's tax
+  Rate nAlways = 0;
+  std::vector<SaleExtra> aoExtras;
+  Rate nFeeTax = 0;
+  std::string sFeeTaxName;
+  bool bReserveWhenSold = false;
+};
+
+/// Nothing if the schedule is one of 2007, which doesn't say "FeeModel,2".
+[[nodiscard]] std::optional<SaleRates> ReadSaleRates(const PriceTable& oTable);
+
+}  // namespace quillet
