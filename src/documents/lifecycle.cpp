@@ -23,11 +23,6 @@ void RaiseIfFailed(const std::error_code& oError) {
   }
 }
 
-/// The part of a path after its last separator.
-std::string TitleOf(const std::string& sPath) {
-  return sPath.substr(sPath.find_last_of(NativePath("\\") + "/") + 1);
-}
-
 }  // namespace
 
 DocumentLifecycle::DocumentLifecycle(DocumentView& oView, std::string sCaption)
@@ -67,8 +62,8 @@ bool DocumentLifecycle::SaveOrLoadAuction(bool bSave) {
 }
 
 void DocumentLifecycle::UseFile(const std::string& sPath, bool bSave) {
-  m_sFileName = TitleOf(sPath);
-  SetLastFolder(sPath.substr(0, sPath.size() - m_sFileName.size()));
+  m_sFileName = FileNameOf(sPath);
+  SetLastFolder(FolderOf(sPath));
   try {
     if (IsDevice(sPath)) {
       throw Failure(FailureNumber::FileAccess, "This is a pipe or a device, not a file.");

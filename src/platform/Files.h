@@ -12,6 +12,12 @@ namespace quillet {
 /// Turns the "\" of the program's constants into this platform's path separator.
 [[nodiscard]] std::string NativePath(std::string sPath);
 
+/// The part of a path up to its last separator; empty if there is none.
+[[nodiscard]] std::string FolderOf(const std::string& sPath);
+
+/// The part of a path behind that.
+[[nodiscard]] std::string FileNameOf(const std::string& sPath);
+
 /// True if a file or folder of that name exists.
 [[nodiscard]] bool FileExists(const std::string& sPath);
 

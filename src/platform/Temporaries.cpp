@@ -7,6 +7,7 @@
 #include <random>
 #include <string_view>
 
+#include "platform/Files.h"
 #include "platform/paths.h"
 
 namespace quillet {
@@ -24,12 +25,6 @@ bool IsTemporary(std::string_view sName) {
   return sName.starts_with(kHead) &&
          sName.find_first_not_of(kDigits, kHead.size()) == kHead.size() + kLetters &&
          sName.substr(kHead.size() + kLetters).starts_with(kTail);
-}
-
-/// The part of a path before the file's own name, with the separator.
-std::string FolderOf(const std::string& sPath) {
-  const auto nSeparator = static_cast<char>(fs::path::preferred_separator);
-  return sPath.substr(0, sPath.find_last_of(std::string{'/', nSeparator}) + 1);
 }
 
 }  // namespace

@@ -57,7 +57,7 @@ void Auctions::EndStream(Batch& oBatch) {
     oBatch.sFailure = "standard input can't be read: " + m_oLines.Error().message();
   }
   m_asFiles = m_asFiles.subspan(1);
-  m_oLines = LineStream(kStandardInput);
+  m_oLines = LineStream();
   m_nLines = 0;
 }
 

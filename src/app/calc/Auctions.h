@@ -7,7 +7,6 @@
 
 #include "app/calc/Batch.h"
 #include "app/calc/LineStream.h"
-#include "platform/Descriptors.h"
 
 namespace quillet {
 
@@ -30,7 +29,7 @@ class Auctions {
   void EndStream(Batch& oBatch);
 
   std::span<const std::string> m_asFiles;  ///< what is left
-  LineStream m_oLines{kStandardInput};
+  LineStream m_oLines;
   std::int64_t m_nLines = 0;  ///< taken from the stream
 };
 

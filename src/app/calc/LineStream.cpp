@@ -1,6 +1,6 @@
 #include "app/calc/LineStream.h"
 
-#include "platform/Descriptors.h"
+#include "platform/StandardStreams.h"
 
 namespace quillet {
 
@@ -43,7 +43,7 @@ std::string_view LineStream::Take(bool& bOverlong) {
 bool LineStream::Fill() {
   if (!m_bEnded) {
     std::size_t nRead = 0;
-    m_oError = ReadSome(m_nHandle, m_acBlock.data(), m_acBlock.size(), nRead);
+    m_oError = ReadStandardInput(m_acBlock.data(), m_acBlock.size(), nRead);
     m_sLeft = std::string_view(m_acBlock.data(), m_oError ? 0 : nRead);
     m_bEnded = m_sLeft.empty();
   }

@@ -1,4 +1,4 @@
-// Lines from a pipe or file of any length, in memory of a fixed size.
+// The lines of standard input, of any number, in memory of a fixed size.
 #pragma once
 
 #include <cstddef>
@@ -14,8 +14,6 @@ inline constexpr std::size_t kLongestAuction = std::size_t{1} << 20U;
 
 class LineStream {
  public:
-  explicit LineStream(int nHandle) : m_nHandle(nHandle) {}
-
   /// True if the next line is there, without waiting.
   [[nodiscard]] bool IsReady();
 
@@ -40,7 +38,6 @@ class LineStream {
   /// Moves what is left of the current line to m_sLine.
   void TakePiece();
 
-  int m_nHandle;
   std::vector<char> m_acBlock = std::vector<char>(std::size_t{1} << 16U);
   std::string_view m_sLeft;  ///< what is left of the block
   std::string m_sLine;       ///< the next line, as far as it has been read

@@ -12,7 +12,7 @@
 #include "base/basCommon.h"
 #include "base/conversions.h"
 #include "base/version.h"
-#include "platform/Descriptors.h"
+#include "platform/StandardStreams.h"
 
 namespace quillet {
 namespace {
@@ -136,7 +136,7 @@ std::optional<Options> ReadOptions(int nArguments, char** asArguments, int& nSta
   }
   oOptions.eFormat = kFormats.at(sFormat);
   if (oOptions.asFiles.empty() && !oOptions.sCheck && !oOptions.bSchedules) {
-    if (IsTerminal(kStandardInput)) {
+    if (IsTerminal(StandardStream::Input)) {
       Complain("no auction file; see --help");
       nStatus = kUnusable;
       return std::nullopt;

@@ -1,11 +1,11 @@
 #include "app/calc/Output.h"
 
-#include "platform/Descriptors.h"
+#include "platform/StandardStreams.h"
 
 namespace quillet {
 
 void WriteOut(std::string_view sText) {
-  if (const std::error_code oError = WriteAll(kStandardOutput, sText)) {
+  if (const std::error_code oError = WriteStandardOutput(sText)) {
     throw OutputFailure(oError);
   }
 }

@@ -2,8 +2,8 @@
 
 #include <iostream>
 
-#include "platform/Descriptors.h"
 #include "platform/Host.h"
+#include "platform/StandardStreams.h"
 
 namespace quillet {
 namespace {
@@ -12,7 +12,7 @@ constexpr std::int64_t kPause = 200;      // milliseconds between two
 }  // namespace
 
 Progress::Progress()
-    : m_bWatched(IsTerminal(kStandardError) && !IsTerminal(kStandardOutput)),
+    : m_bWatched(IsTerminal(StandardStream::Error) && !IsTerminal(StandardStream::Output)),
       m_nStart(TheHost().TickCount()),
       m_nNextShow(m_nStart + kPatience) {}
 

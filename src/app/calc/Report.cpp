@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-#include "platform/Descriptors.h"
+#include "platform/StandardStreams.h"
 
 namespace quillet {
 namespace {
@@ -12,7 +12,7 @@ bool WantsColour() {
     const char* const pValue = std::getenv(sName);  // NOLINT(concurrency-mt-unsafe): none is set
     return std::string_view(pValue != nullptr ? pValue : "");
   };
-  return IsTerminal(kStandardOutput) && fnVariable("NO_COLOR").empty() &&
+  return IsTerminal(StandardStream::Output) && fnVariable("NO_COLOR").empty() &&
          fnVariable("TERM") != "dumb";
 }
 

@@ -5,7 +5,7 @@
 #include "app/calc/checkFile.h"
 #include "app/calc/run.h"
 #include "app/calc/schedules.h"
-#include "platform/Descriptors.h"
+#include "platform/StandardStreams.h"
 
 namespace quillet {
 namespace {

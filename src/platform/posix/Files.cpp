@@ -1,15 +1,13 @@
 #include "platform/Files.h"
 
-#include <algorithm>
-#include <array>
 #include <cstdlib>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "platform/Descriptors.h"
 #include "platform/Temporaries.h"
+#include "platform/handles.h"
 
 namespace quillet {
 namespace {
@@ -32,39 +30,18 @@ class Descriptor {
     }
     const int nHandle = m_nHandle;
     m_nHandle = -1;
-    return ::close(nHandle) == 0 ? std::error_code{} : LastError();
+    return ::close(nHandle) == 0 ? std::error_code{} : LastSystemError();
   }
 
  private:
   int m_nHandle;
 };
 
-/// Reads from the current position to the end of the file.
-std::error_code ReadAll(int nHandle, std::size_t nLimit, std::string& sContent) {
-  std::string sRead;
-  std::array<char, 65536> acBlock;  // NOLINT: zeroing would only waste time
-  while (true) {
-    std::size_t nRead = 0;
-    if (std::error_code oError = ReadSome(nHandle, acBlock.data(), acBlock.size(), nRead)) {
-      return oError;
-    }
-    if (nRead == 0) {
-      break;
-    }
-    sRead.append(acBlock.data(), nRead);
-    if (sRead.size() > nLimit) {
-      return std::make_error_code(std::errc::file_too_large);
-    }
-  }
-  sContent = std::move(sRead);
-  return {};
-}
-
 /// Gives a file the owner, group and mode of another, each as far as the user is allowed to.
 std::error_code TakeAfter(int nHandle, const struct stat& oOld) {
   [[maybe_unused]] const bool bKept = ::fchown(nHandle, oOld.st_uid, oOld.st_gid) == 0 ||
                                       ::fchown(nHandle, static_cast<uid_t>(-1), oOld.st_gid) == 0;
-  return ::fchmod(nHandle, oOld.st_mode & 07777U) == 0 ? std::error_code{} : LastError();
+  return ::fchmod(nHandle, oOld.st_mode & 07777U) == 0 ? std::error_code{} : LastSystemError();
 }
 
 /// When this returns, the file is on the disk and reads as it should. One that replaces none gets
@@ -74,14 +51,14 @@ std::error_code WriteNewFile(const std::string& sPath, std::string_view sContent
   Descriptor oFile(::open(sPath.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
                           pOld != nullptr ? 0600 : 0666));
   if (!oFile.IsOpen()) {
-    return LastError();
+    return LastSystemError();
   }
   std::error_code oError = WriteAll(oFile.Handle(), sContent);
   if (!oError && pOld != nullptr) {
     oError = TakeAfter(oFile.Handle(), *pOld);
   }
   if (!oError && (::fsync(oFile.Handle()) != 0 || ::lseek(oFile.Handle(), 0, SEEK_SET) != 0)) {
-    oError = LastError();
+    oError = LastSystemError();
   }
   std::string sWritten;
   if (!oError) {
@@ -102,7 +79,7 @@ std::error_code ResolveLinks(std::string& sPath) {
     ::free(pResolved);
     return {};
   }
-  const std::error_code oError = LastError();
+  const std::error_code oError = LastSystemError();
   struct stat oStatus {};
   const bool bLink = ::lstat(sPath.c_str(), &oStatus) == 0 && S_ISLNK(oStatus.st_mode);
   return bLink ? oError : std::error_code{};
@@ -110,7 +87,7 @@ std::error_code ResolveLinks(std::string& sPath) {
 
 /// Without this, a rename may not survive a crash of the machine.
 void SyncFolderOf(const std::string& sPath) {
-  const std::string sFolder = sPath.substr(0, sPath.rfind('/') + 1);
+  const std::string sFolder = FolderOf(sPath);
   const Descriptor oFolder(
       ::open(sFolder.empty() ? "." : sFolder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (oFolder.IsOpen()) {
@@ -125,35 +102,20 @@ std::error_code NotAFile(const struct stat& oStatus) {
 
 }  // namespace
 
-std::string NativePath(std::string sPath) {
-  std::replace(sPath.begin(), sPath.end(), '\\', '/');
-  return sPath;
-}
-
-bool FileExists(const std::string& sPath) {
-  return ::access(sPath.c_str(), F_OK) == 0;
-}
-
 bool IsDevice(const std::string& sPath) {
   struct stat oStatus {};
   return ::stat(sPath.c_str(), &oStatus) == 0 && !S_ISREG(oStatus.st_mode) &&
          !S_ISDIR(oStatus.st_mode);
 }
 
-std::uint64_t FileSize(const std::string& sPath) {
-  struct stat oStatus {};
-  const bool bFile = ::stat(sPath.c_str(), &oStatus) == 0 && S_ISREG(oStatus.st_mode);
-  return bFile ? static_cast<std::uint64_t>(oStatus.st_size) : 0;
-}
-
 std::error_code RemoveFile(const std::string& sPath) {
-  return ::unlink(sPath.c_str()) == 0 ? std::error_code{} : LastError();
+  return ::unlink(sPath.c_str()) == 0 ? std::error_code{} : LastSystemError();
 }
 
 std::error_code ReadWholeFile(const std::string& sPath, std::size_t nLimit, std::string& sContent) {
   const Descriptor oFile(::open(sPath.c_str(), O_RDONLY | O_CLOEXEC));
   if (!oFile.IsOpen()) {
-    return LastError();
+    return LastSystemError();
   }
   return ReadAll(oFile.Handle(), nLimit, sContent);
 }
@@ -169,12 +131,12 @@ std::error_code ReplaceFile(const std::string& sPath, std::string_view sContent)
     return NotAFile(oOld);
   }
   if (bExists && ::access(sTarget.c_str(), W_OK) != 0) {
-    return LastError();
+    return LastSystemError();
   }
   const std::string sTemporary = TemporaryBeside(sTarget);
   std::error_code oError = WriteNewFile(sTemporary, sContent, bExists ? &oOld : nullptr);
   if (!oError && ::rename(sTemporary.c_str(), sTarget.c_str()) != 0) {
-    oError = LastError();
+    oError = LastSystemError();
   }
   if (oError) {
     ::unlink(sTemporary.c_str());
@@ -190,7 +152,7 @@ std::error_code AppendToFile(const std::string& sPath, std::string_view sContent
   Descriptor oFile(::open(sPath.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0666));
   struct stat oStatus {};
   if (!oFile.IsOpen() || ::fstat(oFile.Handle(), &oStatus) != 0) {
-    return LastError();
+    return LastSystemError();
   }
   std::string sText(oStatus.st_size == 0 ? sHeaderIfEmpty : std::string_view{});
   sText += sContent;

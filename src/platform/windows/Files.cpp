@@ -1,13 +1,10 @@
 #include "platform/Files.h"
 
-#include <algorithm>
-#include <array>
-
 #include <windows.h>
 #undef ReplaceFile  // the system's macro
 
-#include "platform/Descriptors.h"
 #include "platform/Temporaries.h"
+#include "platform/handles.h"
 #include "platform/windows/wide.h"
 
 namespace quillet {
@@ -34,58 +31,25 @@ class OpenFile {
     }
     const HANDLE hFile = m_hFile;
     m_hFile = INVALID_HANDLE_VALUE;
-    return ::CloseHandle(hFile) != FALSE ? std::error_code{} : LastError();
+    return ::CloseHandle(hFile) != FALSE ? std::error_code{} : LastSystemError();
   }
 
  private:
   HANDLE m_hFile;
 };
 
-std::error_code Write(HANDLE hFile, std::string_view sContent) {
-  constexpr std::size_t kPiece = 1U << 30U;
-  while (!sContent.empty()) {
-    const auto nSize = static_cast<DWORD>(std::min(sContent.size(), kPiece));
-    DWORD nWritten = 0;
-    if (::WriteFile(hFile, sContent.data(), nSize, &nWritten, nullptr) == FALSE) {
-      return LastError();
-    }
-    sContent.remove_prefix(nWritten);
-  }
-  return {};
-}
-
-std::error_code ReadAll(HANDLE hFile, std::size_t nLimit, std::string& sContent) {
-  std::string sRead;
-  std::array<char, 65536> acBlock;  // NOLINT: zeroing would only waste time
-  while (true) {
-    DWORD nRead = 0;
-    if (::ReadFile(hFile, acBlock.data(), acBlock.size(), &nRead, nullptr) == FALSE) {
-      return LastError();
-    }
-    if (nRead == 0) {
-      break;
-    }
-    sRead.append(acBlock.data(), nRead);
-    if (sRead.size() > nLimit) {
-      return std::make_error_code(std::errc::file_too_large);
-    }
-  }
-  sContent = std::move(sRead);
-  return {};
-}
-
 /// When this returns, the file is on the disk and reads as it should.
 std::error_code WriteNewFile(const std::string& sPath, std::string_view sContent) {
   OpenFile oFile(sPath, GENERIC_READ | GENERIC_WRITE, 0, CREATE_NEW);
   if (!oFile.IsOpen()) {
-    return LastError();
+    return LastSystemError();
   }
-  if (std::error_code oError = Write(oFile.Handle(), sContent)) {
+  if (std::error_code oError = WriteAll(oFile.Handle(), sContent)) {
     return oError;
   }
   if (::FlushFileBuffers(oFile.Handle()) == FALSE ||
       ::SetFilePointerEx(oFile.Handle(), {}, nullptr, FILE_BEGIN) == FALSE) {
-    return LastError();
+    return LastSystemError();
   }
   std::string sWritten;
   if (std::error_code oError = ReadAll(oFile.Handle(), sContent.size(), sWritten)) {
@@ -119,36 +83,19 @@ bool PutInPlace(const std::wstring& sTemporary, const std::wstring& sPath) {
 
 }  // namespace
 
-std::string NativePath(std::string sPath) {
-  std::replace(sPath.begin(), sPath.end(), '/', '\\');
-  return sPath;
-}
-
-bool FileExists(const std::string& sPath) {
-  return ::GetFileAttributesW(Wide(sPath).c_str()) != INVALID_FILE_ATTRIBUTES;
-}
-
 bool IsDevice(const std::string& sPath) {
   const OpenFile oFile(sPath, 0, kShareAll, OPEN_EXISTING);
   return oFile.IsOpen() && ::GetFileType(oFile.Handle()) != FILE_TYPE_DISK;
 }
 
-std::uint64_t FileSize(const std::string& sPath) {
-  WIN32_FILE_ATTRIBUTE_DATA oData{};
-  const bool bFile =
-      ::GetFileAttributesExW(Wide(sPath).c_str(), GetFileExInfoStandard, &oData) != FALSE &&
-      (oData.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
-  return bFile ? std::uint64_t{oData.nFileSizeHigh} << 32U | oData.nFileSizeLow : 0;
-}
-
 std::error_code RemoveFile(const std::string& sPath) {
-  return ::DeleteFileW(Wide(sPath).c_str()) != FALSE ? std::error_code{} : LastError();
+  return ::DeleteFileW(Wide(sPath).c_str()) != FALSE ? std::error_code{} : LastSystemError();
 }
 
 std::error_code ReadWholeFile(const std::string& sPath, std::size_t nLimit, std::string& sContent) {
   const OpenFile oFile(sPath, GENERIC_READ, kShareAll, OPEN_EXISTING);
   if (!oFile.IsOpen()) {
-    return LastError();
+    return LastSystemError();
   }
   return ReadAll(oFile.Handle(), nLimit, sContent);
 }
@@ -162,7 +109,7 @@ std::error_code ReplaceFile(const std::string& sPath, std::string_view sContent)
   const std::string sTemporary = TemporaryBeside(sPath);
   std::error_code oError = WriteNewFile(sTemporary, sContent);
   if (!oError && !PutInPlace(Wide(sTemporary), Wide(sPath))) {
-    oError = LastError();
+    oError = LastSystemError();
   }
   if (oError) {
     ::DeleteFileW(Wide(sTemporary).c_str());
@@ -177,11 +124,11 @@ std::error_code AppendToFile(const std::string& sPath, std::string_view sContent
   OpenFile oFile(sPath, FILE_APPEND_DATA | FILE_READ_ATTRIBUTES, kShareAll, OPEN_ALWAYS);
   LARGE_INTEGER oSize{};
   if (!oFile.IsOpen() || ::GetFileSizeEx(oFile.Handle(), &oSize) == FALSE) {
-    return LastError();
+    return LastSystemError();
   }
   std::string sText(oSize.QuadPart == 0 ? sHeaderIfEmpty : std::string_view{});
   sText += sContent;
-  const std::error_code oError = Write(oFile.Handle(), sText);
+  const std::error_code oError = WriteAll(oFile.Handle(), sText);
   return oError ? oError : oFile.Close();
 }
 
