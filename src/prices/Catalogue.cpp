@@ -9,9 +9,15 @@ namespace quillet {
 namespace {
 
 enum Regions : unsigned { kUk = 1, kUs = 2, kBoth = 3 };
+enum Models : unsigned {
+  k2007 = static_cast<unsigned>(FeeModel::Of2007),
+  kToday = static_cast<unsigned>(FeeModel::OfToday),
+  kAlways = k2007 | kToday,
+};
 
 struct Row {
   unsigned nRegions;
+  unsigned nModels;
   KeyKind eKind;
   std::string_view sPattern;  ///< "{a,b}" means a or b, and the name of a set means the set
   std::int32_t nPercentTier = 0;
@@ -34,47 +40,68 @@ constexpr std::array<Set, 4> kSets = {{
      "FeaturedInSearch,10DayDuration,GiftServices,PreviewPicture,Border,ListingItem,CarAd"},
 }};
 
-constexpr std::array<Row, 39> kRows = {{
-    {kBoth, KeyKind::OptionalText, "ScheduleName"},
-    {kBoth, KeyKind::Text, "Currency{Symbol,Format}"},
-    {kBoth, KeyKind::Number, "LocalTax"},
-    {kBoth, KeyKind::LotTiers, "Opening"},
-    {kBoth, KeyKind::Number, "ShopInsertion{Fee,Surcharge}{shop}"},
-    {kUk, KeyKind::Number, "AuctionType{Motor,RealEstate}"},
-    {kUs, KeyKind::Number, "{AuctionType,TransactionFee}Motor{vehicle}"},
-    {kUs, KeyKind::Number, "AuctionTypeRealEstate{Timeshare,Other}{Auction10,Auction30,Ad30,Ad90}"},
-    {kUs, KeyKind::Number, "AuctionTypeBusiness"},
-    {kUk, KeyKind::PriceTiers, "Reserve", 2},
-    {kUs, KeyKind::PriceTiers, "Reserve{,RealEstate}", 3},
-    {kUs, KeyKind::Number, "Reserve{,RealEstate}Max"},
-    {kUk, KeyKind::Number, "Reserve{Motor,RealEstate}"},
-    {kUs, KeyKind::Number,
+constexpr std::array<Row, 58> kRows = {{
+    {kBoth, kAlways, KeyKind::OptionalText, "ScheduleName"},
+    {kBoth, kAlways, KeyKind::Text, "Currency{Symbol,Format}"},
+    {kBoth, kAlways, KeyKind::Number, "LocalTax"},
+    {kBoth, kAlways, KeyKind::LotTiers, "Opening"},
+    {kBoth, k2007, KeyKind::Number, "ShopInsertion{Fee,Surcharge}{shop}"},
+    {kUk, k2007, KeyKind::Number, "AuctionType{Motor,RealEstate}"},
+    {kUs, k2007, KeyKind::Number, "{AuctionType,TransactionFee}Motor{vehicle}"},
+    {kUs, k2007, KeyKind::Number,
+     "AuctionTypeRealEstate{Timeshare,Other}{Auction10,Auction30,Ad30,Ad90}"},
+    {kUs, k2007, KeyKind::Number, "AuctionTypeBusiness"},
+    {kUk, kAlways, KeyKind::PriceTiers, "Reserve", 2},
+    {kUs, k2007, KeyKind::PriceTiers, "Reserve{,RealEstate}", 3},
+    {kUs, k2007, KeyKind::Number, "Reserve{,RealEstate}Max"},
+    {kUk, k2007, KeyKind::Number, "Reserve{Motor,RealEstate}"},
+    {kUs, k2007, KeyKind::Number,
      "ReserveMotor{Passenger,Motorbike,Powersports,PocketBikes,Other}"},  // Motorbike: only here
-    {kUs, KeyKind::Number, "ReserveBusiness"},
-    {kBoth, KeyKind::ProgressiveTiers, "{,Shop}Final", kEveryTier},
-    {kUk, KeyKind::PriceTiers, "FinalMotor", 2},
-    {kUk, KeyKind::Number, "FinalRealEstate"},
-    {kUs, KeyKind::Number, "FinalRealEstate{Timeshare,Other}"},
-    {kUs, KeyKind::Number, "FinalBusiness{,Max}"},
-    {kBoth, KeyKind::Number, "Feature{feature}{shop}"},
-    {kUs, KeyKind::Number, "Feature{listing}{feature}{shop}"},
-    {kUs, KeyKind::PriceTiers, "FeatureBuyItNow"},
-    {kUs, KeyKind::PriceTiers, "Feature{listing}BuyItNow"},
-    {kBoth, KeyKind::PictureTiers, "FeaturePicturePack{shop}"},
-    {kUs, KeyKind::PictureTiers, "Feature{listing}PicturePack{shop}"},
-    {kBoth, KeyKind::PictureTiers, "PicturePack"},
-    {kBoth, KeyKind::Number, "PersonalRatePounds{%,Fixed}"},
-    {kBoth, KeyKind::Text, "BusinessRateBand{1,2,3,4,5}Name"},
-    {kBoth, KeyKind::BandNumber, "BusinessRateBand{1,2,3,4,5}Value"},
-    {kBoth, KeyKind::BandTiers, "BusinessRatePounds%", kEveryTier},
-    {kBoth, KeyKind::BandTiers, "BusinessRatePoundsFixed"},
-    {kBoth, KeyKind::Text, "UsePostTitle"},
-    {kBoth, KeyKind::WeightTiers, "{FirstClass,SecondClass,Parcel}"},
-    {kBoth, KeyKind::OverWeightNumber, "FirstClassOverWeightStep{,Value}"},
-    {kBoth, KeyKind::Text, "InsuranceBandName{1,2,3,4}"},
-    {kBoth, KeyKind::Number, "InsuranceBandValue{1,2,3,4}"},
-    {kBoth, KeyKind::Number, "RecordedSignedFor"},
-    {kBoth, KeyKind::Number, "ProofOfDelivery"},
+    {kUs, k2007, KeyKind::Number, "ReserveBusiness"},
+    {kBoth, k2007, KeyKind::ProgressiveTiers, "{,Shop}Final", kEveryTier},
+    {kUk, k2007, KeyKind::PriceTiers, "FinalMotor", 2},
+    {kUk, k2007, KeyKind::Number, "FinalRealEstate"},
+    {kUs, k2007, KeyKind::Number, "FinalRealEstate{Timeshare,Other}"},
+    {kUs, k2007, KeyKind::Number, "FinalBusiness{,Max}"},
+    {kBoth, k2007, KeyKind::Number, "Feature{feature}{shop}"},
+    {kUs, k2007, KeyKind::Number, "Feature{listing}{feature}{shop}"},
+    {kUs, k2007, KeyKind::PriceTiers, "FeatureBuyItNow"},
+    {kUs, k2007, KeyKind::PriceTiers, "Feature{listing}BuyItNow"},
+    {kBoth, k2007, KeyKind::PictureTiers, "FeaturePicturePack{shop}"},
+    {kUs, k2007, KeyKind::PictureTiers, "Feature{listing}PicturePack{shop}"},
+    {kBoth, kAlways, KeyKind::PictureTiers, "PicturePack"},
+    {kBoth, kAlways, KeyKind::Number, "PersonalRatePounds{%,Fixed}"},
+    {kBoth, kAlways, KeyKind::Text, "BusinessRateBand{1,2,3,4,5}Name"},
+    {kBoth, kAlways, KeyKind::BandNumber, "BusinessRateBand{1,2,3,4,5}Value"},
+    {kBoth, kAlways, KeyKind::BandTiers, "BusinessRatePounds%", kEveryTier},
+    {kBoth, kAlways, KeyKind::BandTiers, "BusinessRatePoundsFixed"},
+    {kBoth, kAlways, KeyKind::Text, "UsePostTitle"},
+    {kBoth, kAlways, KeyKind::WeightTiers, "{FirstClass,SecondClass,Parcel}"},
+    {kBoth, kAlways, KeyKind::OverWeightNumber, "FirstClassOverWeightStep{,Value}"},
+    {kBoth, kAlways, KeyKind::Text, "InsuranceBandName{1,2,3,4}"},
+    {kBoth, kAlways, KeyKind::Number, "InsuranceBandValue{1,2,3,4}"},
+    {kBoth, kAlways, KeyKind::Number, "RecordedSignedFor"},
+    {kBoth, kAlways, KeyKind::Number, "ProofOfDelivery"},
+    {kBoth, kAlways, KeyKind::OptionalText, "FeeModel"},
+    {kBoth, kToday, KeyKind::Number, "FinalBase"},
+    {kBoth, kToday, KeyKind::Number, "CategoryCount"},
+    {kBoth, kToday, KeyKind::ProgressiveTiers, "OrderFee"},
+    {kBoth, kToday, KeyKind::Number, "AlwaysPercent"},
+    {kBoth, kToday, KeyKind::Number, "ExtraPercentCount"},
+    {kBoth, kToday, KeyKind::Number, "FeeTax"},
+    {kBoth, kToday, KeyKind::Text, "{FeeTaxName,ReserveWhenSold}"},
+    {kUs, kToday, KeyKind::PriceTiers, "Reserve", 3},
+    {kUs, kToday, KeyKind::Number, "ReserveMax"},
+    {kUk, kToday, KeyKind::OptionalNumber, "{AuctionType,Reserve}{Motor,RealEstate}"},
+    {kUk, kToday, KeyKind::OptionalNumber, "FinalRealEstate"},
+    {kUs, kToday, KeyKind::OptionalNumber, "{AuctionType,TransactionFee}Motor{vehicle}"},
+    {kUs, kToday, KeyKind::OptionalNumber,
+     "AuctionTypeRealEstate{Timeshare,Other}{Auction10,Auction30,Ad30,Ad90}"},
+    {kUs, kToday, KeyKind::OptionalNumber, "FinalRealEstate{Timeshare,Other}"},
+    {kUs, kToday, KeyKind::OptionalNumber, "ReserveRealEstateMax"},
+    {kBoth, kToday, KeyKind::Number, "Feature{feature}"},
+    {kBoth, kToday, KeyKind::OptionalNumber, "FixedFeature{feature}"},
+    {kBoth, kToday, KeyKind::PictureTiers, "FeaturePicturePack"},
 }};
 
 std::string_view ChoicesOf(std::string_view sBraced) {
@@ -128,7 +155,7 @@ Catalogue::Catalogue(std::int32_t nRegion) {
       continue;
     }
     Expand("", oRow.sPattern, [&](const std::string& sName) {
-      m_aoKeys.push_back({sName, oRow.eKind, oRow.nPercentTier});
+      m_aoKeys.push_back({sName, oRow.eKind, oRow.nPercentTier, oRow.nModels});
       (m_aoKeys.back().IsTable() ? m_asTables : m_asPlain).insert(UpperCase(sName));
     });
   }

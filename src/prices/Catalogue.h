@@ -11,9 +11,13 @@
 
 namespace quillet {
 
+/// Which fees a schedule has: those of 2007 by the kind of listing, or today's by category.
+enum class FeeModel : unsigned { Of2007 = 1, OfToday = 2 };
+
 enum class KeyKind {
   OptionalText,  ///< nothing is missed without it
   Text,
+  OptionalNumber,
   Number,
   BandNumber,        ///< the value of a merchant-rate band
   OverWeightNumber,  ///< looked up only if first class has tiers
@@ -30,12 +34,19 @@ struct CatalogueKey {
   std::string sName;  ///< a tier table's without "Ranges" and the like
   KeyKind eKind = KeyKind::Text;
   std::int32_t nPercentTier = 0;  ///< the tier whose value is a percentage, or kEveryTier
+  unsigned nModels = 0;           ///< those of FeeModel that look it up, together
 
   static constexpr std::int32_t kEveryTier = -1;
 
+  [[nodiscard]] bool IsOf(FeeModel eModel) const {
+    return (nModels & static_cast<unsigned>(eModel)) != 0;
+  }
   [[nodiscard]] bool IsTable() const { return eKind >= KeyKind::PriceTiers; }
   /// No sale of its kind can be priced without it; any other that is missing counts as 0.
   [[nodiscard]] bool IsNeeded() const { return eKind > KeyKind::Number; }
+  [[nodiscard]] bool IsOptional() const {
+    return eKind == KeyKind::OptionalText || eKind == KeyKind::OptionalNumber;
+  }
   [[nodiscard]] bool IsPercentage(std::int32_t nTier) const {
     return nPercentTier == nTier || nPercentTier == kEveryTier;
   }
@@ -46,6 +57,8 @@ class Catalogue {
   /// A region's, made on first use.
   [[nodiscard]] static const Catalogue& Of(std::int32_t nRegion);
 
+  /// Those of both models. The keys of the categories and surcharges, which are numbered, and of
+  /// tables that take another's place aren't among them.
   [[nodiscard]] const std::vector<CatalogueKey>& Keys() const { return m_aoKeys; }
 
   /// True for a key of the catalogue, and for a key of any of its tables. Case doesn't matter.

@@ -69,10 +69,9 @@ class Reader {
   }
 
   void ReadExtras(SaleRates& oRates) const {
-    const auto nCount =
-        static_cast<std::size_t>(std::max<std::int16_t>(Count("ExtraPercentCount"), 0));
-    for (std::size_t i = 1; i <= std::min(nCount, SaleRates::kMostExtras); ++i) {
-      const PriceKey oKey = PriceKey("ExtraPercent").Append(static_cast<std::int32_t>(i));
+    const std::int32_t nCount = std::min(Count("ExtraPercentCount"), SaleRates::kMostExtras);
+    for (std::int32_t i = 1; i <= nCount; ++i) {
+      const PriceKey oKey = PriceKey("ExtraPercent").Append(i);
       oRates.aoExtras.push_back({std::string(Text(PriceKey(oKey).Append("Name"))),
                                  RateOf(Number(PriceKey(oKey).Append("Value")).value_or(0))});
     }

@@ -66,7 +66,7 @@ struct SaleExtra {
 
 struct SaleRates {
   /// As many extras as an auction has bits for.
-  static constexpr std::size_t kMostExtras = 31;
+  static constexpr std::int16_t kMostExtras = 31;
 
   /// Null if there is none of that number, from 1.
   [[nodiscard]] const SaleCategory* Category(std::int32_t nCategory) const;

@@ -7,6 +7,7 @@
 #include "base/region.h"
 #include "base/text.h"
 #include "prices/Schedule.h"
+#include "prices/checkSaleFees.h"
 #include "prices/checkTiers.h"
 
 namespace quillet {
@@ -22,7 +23,7 @@ void ReportMissing(Schedule& oSchedule, const CatalogueKey& oKey) {
   const std::string sMissing = Quoted(oKey.sName) + " is missing";
   if (oKey.IsNeeded()) {
     oSchedule.ReportNoPrice(oSchedule.LastLine(), sMissing);
-  } else if (oKey.eKind != KeyKind::OptionalText) {
+  } else if (!oKey.IsOptional()) {
     oSchedule.Report(oSchedule.LastLine(), sMissing);
   }
 }
@@ -40,8 +41,14 @@ void CheckKey(Schedule& oSchedule, const CatalogueKey& oKey) {
 }
 
 void CheckKeys(Schedule& oSchedule, const Catalogue& oCatalogue) {
+  const FeeModel eModel = AskFeeModel(oSchedule);
   for (const CatalogueKey& oKey : oCatalogue.Keys()) {
-    CheckKey(oSchedule, oKey);
+    if (oKey.IsOf(eModel)) {
+      CheckKey(oSchedule, oKey);
+    }
+  }
+  if (eModel == FeeModel::OfToday) {
+    CheckSaleFees(oSchedule);
   }
 }
 
@@ -58,7 +65,8 @@ bool IsOfTheOtherEdition(Schedule& oSchedule, const Catalogue& oCatalogue) {
 void ReportUnasked(Schedule& oSchedule, const Catalogue& oCatalogue) {
   for (const ScheduleEntry& oEntry : oSchedule.Entries()) {
     if (!oEntry.bAsked) {
-      const bool bBlanks = oCatalogue.Holds(Trim(oEntry.sKey));
+      const std::string_view sTrimmed = Trim(oEntry.sKey);
+      const bool bBlanks = sTrimmed != oEntry.sKey && oCatalogue.Holds(sTrimmed);
       oSchedule.Report(oEntry.nLine, EditionName() + " never asks for " + Quoted(oEntry.sKey) +
                                          (bBlanks ? "; its blanks are part of the key" : ""));
     }

@@ -6,6 +6,15 @@
 #include "prices/Catalogue.h"
 
 namespace quillet {
+namespace {
+
+void RequireKey(const clsPrices& oPrices, const std::string& sKey) {
+  if (!oPrices.Table().Find(sKey)) {
+    throw Failure(FailureNumber::TypeMismatch, "Its \"" + sKey + "\" is missing.");
+  }
+}
+
+}  // namespace
 
 void RequireFees(const clsPrices& oPrices) {
   if (!Catalogue::Of(RegionCode()).HoldsAnyOf(oPrices.Table())) {
@@ -17,10 +26,17 @@ void RequireReplacement(const clsPrices& oPrices, const std::string& sPresent) {
   RequireFees(oPrices);
   clsPrices oPresent;
   IgnoreFailure([&] { oPresent.LoadFile(sPresent); });  // an unreadable file has nothing to lose
+  const SaleRates* const pSale = oPrices.Sale();
+  const FeeModel eModel = pSale != nullptr ? FeeModel::OfToday : FeeModel::Of2007;
   for (const CatalogueKey& oKey : Catalogue::Of(RegionCode()).Keys()) {
     const std::string sCount = oKey.sName + std::string(kCountWord.Text());
-    if (oKey.IsTable() && oPresent.Table().Find(sCount) && !oPrices.Table().Find(sCount)) {
-      throw Failure(FailureNumber::TypeMismatch, "Its \"" + sCount + "\" is missing.");
+    if (oKey.IsTable() && oKey.IsOf(eModel) && oPresent.Table().Find(sCount)) {
+      RequireKey(oPrices, sCount);
+    }
+  }
+  if (pSale != nullptr) {
+    for (const SaleCategory& oCategory : pSale->aoCategories) {
+      RequireKey(oPrices, oCategory.oRates.oPlain.sCountKey);
     }
   }
 }

@@ -255,6 +255,7 @@ class Schedules(Temporary):
 
 US, UK = "quillet-calc", "quillet-calc-uk"
 SCHEDULES = {US: "UpdateUS_v0101.dat", UK: "UpdateUK_v0101.dat"}
+TODAY = {US: "UpdateUS_2026-10.dat", UK: "UpdateUK_2026-10.dat"}
 
 # What is done to the shipped schedule, and what the check then finds: program, (line as shipped,
 # lines in its place) pairs, findings. "@Key" stands for the line of that key, "$" for the last line.
@@ -319,16 +320,51 @@ FINDINGS = (
       '-5 of "BusinessRateBand5Value"' for part in ("%", "Fixed")]),
 )
 
+FINDINGS_TODAY = (
+    (US, [("CategoryCount,12", "CategoryCount,13")],
+     ['$: "Category13Name" is missing', '$: "Category13Tiers" is missing']),
+    (US, [("CategoryCount,12", "CategoryCount,11")],
+     ['@Category12Name: Quillet US never asks for "Category12Name"',
+      '@Category12Tiers: Quillet US never asks for "Category12Tiers"', *(
+          f'@{shop}FinalParts{word}: Quillet US never asks for "{shop}FinalParts{word}"'
+          for shop in ("", "Shop") for word in ("Ranges", *(
+              f"Range{part}{tier}" for tier in (1, 2) for part in ("Start", "End", "Value"))))]),
+    (US, [("Category2Name,Books films and music", "Category2Name,Books, films and music")],
+     ["@Category2Name: the line is ignored: it has 3 fields, not a key and a value",
+      '$: "Category2Name" is missing']),
+    (UK, [("Category17Tiers,FinalTrainers", "Category17Tiers,FinalTrainer")],
+     [*(f'@FinalTrainers{word}: Quillet UK never asks for "FinalTrainers{word}"'
+        for word in ("Ranges", *(f"Range{part}{tier}" for tier in (1, 2)
+                                 for part in ("Start", "End", "Value")))),
+      '$: "FinalTrainerRanges" is missing']),
+    (US, [("ShopFinalMostRangeStart2,2500", "ShopFinalMostRangeStart2,2501"),
+          ("ShopOpeningRangeValue1,0.25", "ShopOpeningRangeValue1,little")],
+     ['@ShopFinalMostRangeStart2: "ShopFinalMost": gap between tier 1 to 2500 and tier 2 from 2501',
+      '@ShopOpeningRangeValue1: "ShopOpeningRangeValue1" isn\'t a number: "little"']),
+    (US, [("FinalBase,3", "FinalBase,4"), ("Category6Whole,True", "Category6Whole,Perhaps"),
+          ("Category10FreeFrom,150", "Category10FreeFrom,$150"), ("FixedFeatureBold,4.00", ""),
+          ("ExtraPercent3Name,Many returns", ""), ("FeeTaxName,Tax", "")],
+     ['@FinalBase: "FinalBase" isn\'t a number from 1 to 3: "4"',
+      '@Category6Whole: "Category6Whole" is neither True nor False: "Perhaps"',
+      '@Category10FreeFrom: "Category10FreeFrom" isn\'t a number: "$150"',
+      '$: "FeeTaxName" is missing', '$: "ExtraPercent3Name" is missing']),
+    (US, [("FeatureBold,2.00", "FeatureBold30,2.00")],
+     ['@FeatureBold30: Quillet US never asks for "FeatureBold30"',
+      '$: "FeatureBold" is missing']),
+)
+
 
 class Check(Temporary):
     def test_the_shipped_schedules_have_no_findings(self):
-        for program, name in SCHEDULES.items():
+        for program, name in (*SCHEDULES.items(), *TODAY.items(),
+                              (UK, "UpdateUK_2026-10-private.dat")):
             self.assertEqual(calc("--check", ROOT / "data" / name, program=program), (0, "", ""))
 
     def test_each_fault_is_found_and_nothing_else(self):
-        for program, edits, findings in FINDINGS:
+        for files, (program, edits, findings) in (*((SCHEDULES, row) for row in FINDINGS),
+                                                  *((TODAY, row) for row in FINDINGS_TODAY)):
             with self.subTest(program=program, edits=[new[:60] for _, new in edits]):
-                lines = (ROOT / "data" / SCHEDULES[program]).read_text().splitlines()
+                lines = (ROOT / "data" / files[program]).read_text().splitlines()
                 for old, new in edits:
                     at = lines.index(old)
                     lines[at:at + 1] = new.split("\n")
