@@ -21,9 +21,7 @@ add_library(quillet_desktop STATIC
   look/movies/MovieButton.cpp
   look/movies/ScrollingText.cpp
   look/movies/SplashMovie.cpp
-  look/movies/aboutParameters.cpp
   look/movies/drawing.cpp
-  look/movies/movies.cpp
   look/palette.cpp
   look/scale.cpp
   platform/Sound.cpp

@@ -1,6 +1,5 @@
 #include "controls/ImageButton.h"
 
-#include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
 
@@ -33,9 +32,7 @@ int GapOf(ButtonPicture ePicture) {
 }  // namespace
 
 ImageButton::ImageButton(QWidget* pParent)
-    : QAbstractButton(pParent), Control(static_cast<QWidget&>(*this)) {
-  setAttribute(Qt::WA_Hover);
-}
+    : PlainButton(pParent), Control(static_cast<QWidget&>(*this)) {}
 
 void ImageButton::SetPicture(ButtonPicture ePicture) {
   m_ePicture = ePicture;
@@ -164,16 +161,6 @@ void ImageButton::DrawPicture(QPainter& oPainter, const QRectF& oSquare) const {
       return DrawIcon(oPainter, m_ePicture == ButtonPicture::About ? Icon::About : Icon::Configure,
                       oSquare, isChecked() ? InkColour(Ink::Accent) : WordsColour(), kIconStroke);
   }
-}
-
-void ImageButton::keyPressEvent(QKeyEvent* pEvent) {
-  if (pEvent->key() == Qt::Key_Return || pEvent->key() == Qt::Key_Enter) {
-    if (!pEvent->isAutoRepeat()) {
-      click();
-    }
-    return;
-  }
-  QAbstractButton::keyPressEvent(pEvent);
 }
 
 bool ImageButton::hitButton(const QPoint& oAt) const {

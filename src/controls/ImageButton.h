@@ -1,9 +1,8 @@
 // A button with text, a picture, or both.
 #pragma once
 
-#include <QAbstractButton>
-
 #include "controls/Control.h"
+#include "look/PlainButton.h"
 
 namespace quillet {
 
@@ -17,8 +16,8 @@ enum class ButtonPicture {
   Settings,
 };
 
-/// Works with the mouse, Space and Enter, and the access key in its caption.
-class ImageButton : public QAbstractButton, public Control {
+/// Works with the access key in its caption too.
+class ImageButton : public PlainButton, public Control {
  public:
   explicit ImageButton(QWidget* pParent);
   [[nodiscard]] const char* TypeName() const override { return "Image"; }
@@ -46,7 +45,6 @@ class ImageButton : public QAbstractButton, public Control {
  protected:
   void Placed() override;
   void paintEvent(QPaintEvent* pEvent) override;
-  void keyPressEvent(QKeyEvent* pEvent) override;
   [[nodiscard]] bool hitButton(const QPoint& oAt) const override;
 
  private:

@@ -5,8 +5,6 @@
 
 namespace quillet {
 
-class Movie;
-
 class ShockwaveFlash : public QWidget {
   Q_OBJECT
 
@@ -31,7 +29,9 @@ class ShockwaveFlash : public QWidget {
   void resizeEvent(QResizeEvent* pEvent) override;
 
  private:
-  Movie* m_oMovie = nullptr;  ///< a child, or none
+  QWidget* MakeMovie(const QString& sFileName, const QString& sParameters);
+
+  QWidget* m_pMovie = nullptr;  ///< a child, or none
 };
 
 }  // namespace quillet

@@ -1,9 +1,9 @@
 #include "look/ShockwaveFlash.h"
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
 #include <QImage>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 #include <set>
@@ -34,7 +34,7 @@ class ShockwaveFlashTest : public ::testing::Test {
     m_oWindow.show();
     QApplication::setActiveWindow(&m_oWindow);
   }
-  QPushButton& Button() { return *m_oFlash.findChild<QPushButton*>(); }
+  QAbstractButton& Button() { return *m_oFlash.findChild<QAbstractButton*>(); }
   QImage Picture() { return m_oFlash.grab().toImage(); }
 
   QWidget m_oWindow;

@@ -4,7 +4,6 @@
 #include <QPainter>
 #include <QTimer>
 #include <cmath>
-#include <utility>
 
 #include "look/font.h"
 #include "look/movies/MovieButton.h"
@@ -43,18 +42,37 @@ QString OwnMessage() {
          "<br><br>And what it leaves you.";
 }
 
+QString MessageOf(const QString& sParameters) {
+  constexpr QLatin1String kMessage("AboutInfo=");
+  const QString sMessage = sParameters.section('&', 0, -3);
+  return sMessage.size() > kMessage.size() && sMessage.startsWith(kMessage)
+             ? sMessage.mid(kMessage.size())
+             : OwnMessage();
+}
+
+int TuneOf(const QString& sParameters) {
+  constexpr QLatin1String kMusic("music=");
+  const QString sMusic = sParameters.section('&', -2, -2);
+  const int nTune =
+      sMusic.startsWith(kMusic, Qt::CaseInsensitive) ? sMusic.mid(kMusic.size()).toInt() : 0;
+  return nTune >= 0 && nTune < kTunes ? nTune : 0;
+}
+
+bool IsMute(const QString& sParameters) {
+  return sParameters.section('&', -1).compare(QLatin1String("mute=true"), Qt::CaseInsensitive) == 0;
+}
+
 QRect Scaled(const QRectF& oPlace, double fScale) {
   return QRectF(oPlace.topLeft() * fScale, oPlace.size() * fScale).toAlignedRect();
 }
 
 }  // namespace
 
-AboutMovie::AboutMovie(const QString& sParameters, QWidget& oStage, SendCommand oSend)
-    : QWidget(&oStage),
-      m_oState(ParseAboutParameters(sParameters)),
-      m_oSend(std::move(oSend)),
-      m_pText(
-          new ScrollingText(m_oState.sMessage.isEmpty() ? OwnMessage() : m_oState.sMessage, this)) {
+AboutMovie::AboutMovie(const QString& sParameters, QWidget* pStage)
+    : QWidget(pStage),
+      m_nTune(TuneOf(sParameters)),
+      m_bMute(IsMute(sParameters)),
+      m_pText(new ScrollingText(MessageOf(sParameters), this)) {
   MakeTunes();
   MakeMute();
   MakeLink();
@@ -71,7 +89,7 @@ void AboutMovie::MakeTunes() {
     pTune->setAccessibleName(sName);
     pTune->setToolTip(sName);
     pTune->setCheckable(true);
-    connect(pTune, &QPushButton::clicked, this, [this, i] { ChooseTune(i); });
+    connect(pTune, &QAbstractButton::clicked, this, [this, i] { ChooseTune(i); });
     m_apTunes.at(static_cast<size_t>(i)) = pTune;
   }
 }
@@ -81,7 +99,7 @@ void AboutMovie::MakeMute() {
   m_pMute->setObjectName("mute");
   m_pMute->setAccessibleName("Mute");
   m_pMute->setCheckable(true);
-  connect(m_pMute, &QPushButton::clicked, this, [this] { ToggleMute(); });
+  connect(m_pMute, &QAbstractButton::clicked, this, [this] { ToggleMute(); });
 }
 
 void AboutMovie::MakeLink() {
@@ -90,37 +108,37 @@ void AboutMovie::MakeLink() {
   m_pLink->setAccessibleName("Website");
   m_pLink->setToolTip("Open the website of Quillet");
   m_pLink->setCursor(Qt::PointingHandCursor);
-  connect(m_pLink, &QPushButton::clicked, this, [this] { m_oSend("click", {}); });
+  connect(m_pLink, &QAbstractButton::clicked, this, [this] { emit Command("click"); });
 }
 
 void AboutMovie::ChooseTune(int nTune) {
-  m_oState.nTune = nTune;
+  m_nTune = nTune;
   ShowState();
   PlayOrStop();
-  m_oSend(QString("music=%1").arg(nTune), {});
+  emit Command(QString("music=%1").arg(nTune));
 }
 
 void AboutMovie::ToggleMute() {
-  m_oState.bMute = !m_oState.bMute;
+  m_bMute = !m_bMute;
   ShowState();
   PlayOrStop();
-  m_oSend(m_oState.bMute ? "mute=true" : "mute=false", {});
+  emit Command(m_bMute ? "mute=true" : "mute=false");
 }
 
 void AboutMovie::ShowState() {
   for (int i = 0; i < kTunes; ++i) {
-    m_apTunes.at(static_cast<size_t>(i))->setChecked(i == m_oState.nTune);
+    m_apTunes.at(static_cast<size_t>(i))->setChecked(i == m_nTune);
   }
-  m_pMute->SetIcon(m_oState.bMute ? Icon::Muted : Icon::Sound);
-  m_pMute->setChecked(m_oState.bMute);
-  m_pMute->setToolTip(m_oState.bMute ? "Sound on" : "Mute");
+  m_pMute->SetIcon(m_bMute ? Icon::Muted : Icon::Sound);
+  m_pMute->setChecked(m_bMute);
+  m_pMute->setToolTip(m_bMute ? "Sound on" : "Mute");
 }
 
 void AboutMovie::PlayOrStop() const {
-  if (m_oState.bMute) {
+  if (m_bMute) {
     TheSound().Stop();
   } else {
-    TheSound().Play(m_oState.nTune);
+    TheSound().Play(m_nTune);
   }
 }
 
@@ -166,7 +184,7 @@ void AboutMovie::paintEvent(QPaintEvent* /*pEvent*/) {
 /// Lets the window appear first, since the first tune has to load a library.
 void AboutMovie::showEvent(QShowEvent* /*pEvent*/) {
   QTimer::singleShot(0, this, [this] {
-    if (isVisible() && !m_oState.bMute) {
+    if (isVisible() && !m_bMute) {
       PlayOrStop();
     }
   });

@@ -6,8 +6,6 @@
 #include <QWidget>
 #include <array>
 
-#include "look/movies/aboutParameters.h"
-#include "look/movies/movies.h"
 #include "platform/Sound.h"
 
 namespace quillet {
@@ -16,12 +14,18 @@ class MovieButton;
 class ScrollingText;
 
 /// Designed in 361 by 241 units, scaled to its width. Its tune plays while it is visible.
-class AboutMovie : public QWidget, public Movie {
- public:
-  /// `sParameters` as in aboutParameters.h. Without a message it shows one of its own.
-  AboutMovie(const QString& sParameters, QWidget& oStage, SendCommand oSend);
+class AboutMovie : public QWidget {
+  Q_OBJECT
 
-  [[nodiscard]] QWidget& Widget() override { return *this; }
+ public:
+  /// `sParameters` is "AboutInfo=" with the message, "&music=" with a tune's number and "&mute="
+  /// with "true" or "false". The message has "<br>" for a line break, isn't escaped and may hold
+  /// anything, so the other two are looked for at the end. What can't be understood counts as the
+  /// first tune, not mute, or no message, in whose place it shows one of its own.
+  AboutMovie(const QString& sParameters, QWidget* pStage);
+
+ signals:
+  void Command(const QString& sCommand);
 
  protected:
   void paintEvent(QPaintEvent* pEvent) override;
@@ -38,8 +42,8 @@ class AboutMovie : public QWidget, public Movie {
   void ShowState();
   void PlayOrStop() const;
 
-  AboutParameters m_oState;
-  SendCommand m_oSend;
+  int m_nTune;
+  bool m_bMute;
   ScrollingText* m_pText;
   std::array<MovieButton*, kTunes> m_apTunes{};
   MovieButton* m_pMute;

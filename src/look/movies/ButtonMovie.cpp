@@ -3,8 +3,6 @@
 #include <QFocusEvent>
 #include <QPainter>
 #include <algorithm>
-#include <array>
-#include <utility>
 
 #include "look/font.h"
 #include "look/marks.h"
@@ -22,17 +20,12 @@ constexpr double kTileRadius = 8.0;
 constexpr double kFocusWidth = 2.0;
 constexpr double kIconStroke = 1.8;
 
-/// The captions, in the order of the icons.
-constexpr std::array<const char*, 7> kCaptions = {"New",  "Calculator", "Wizard", "Save",
-                                                  "Load", "Configure",  "About"};
-
 }  // namespace
 
-ButtonMovie::ButtonMovie(Icon eIcon, QWidget& oStage, SendCommand oSend)
-    : QPushButton(kCaptions.at(static_cast<std::size_t>(eIcon)), &oStage), m_eIcon(eIcon) {
-  setAutoDefault(true);  // Enter presses it, like the space bar
-  setAttribute(Qt::WA_Hover);
-  connect(this, &QPushButton::clicked, this, [oSend = std::move(oSend)] { oSend("click", {}); });
+ButtonMovie::ButtonMovie(Icon eIcon, const char* sCaption, QWidget* pStage)
+    : PlainButton(pStage), m_eIcon(eIcon) {
+  setText(sCaption);
+  connect(this, &QAbstractButton::clicked, this, [this] { emit Command("click"); });
 }
 
 void ButtonMovie::SetCurrent(bool bCurrent) {
@@ -44,13 +37,13 @@ void ButtonMovie::focusInEvent(QFocusEvent* pEvent) {
   if (pEvent->reason() != Qt::ActiveWindowFocusReason) {
     m_bShowFocus = pEvent->reason() != Qt::MouseFocusReason;
   }
-  QPushButton::focusInEvent(pEvent);
+  PlainButton::focusInEvent(pEvent);
 }
 
 void ButtonMovie::keyPressEvent(QKeyEvent* pEvent) {
   m_bShowFocus = true;
   update();
-  QPushButton::keyPressEvent(pEvent);
+  PlainButton::keyPressEvent(pEvent);
 }
 
 ButtonMovie::Look ButtonMovie::LookNow() const {

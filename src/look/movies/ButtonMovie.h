@@ -1,28 +1,31 @@
 // A button of the main window: an icon with its caption below. Sends "click".
 #pragma once
 
-#include <QPushButton>
 #include <optional>
 
+#include "look/PlainButton.h"
 #include "look/icons.h"
-#include "look/movies/movies.h"
 #include "look/palette.h"
 
 namespace quillet {
 
 /// Designed in 72 by 72 units, scaled to its size.
-class ButtonMovie : public QPushButton, public Movie {
- public:
-  ButtonMovie(Icon eIcon, QWidget& oStage, SendCommand oSend);
+class ButtonMovie : public PlainButton {
+  Q_OBJECT
 
-  [[nodiscard]] QWidget& Widget() override { return *this; }
-  void SetCurrent(bool bCurrent) override;
+ public:
+  ButtonMovie(Icon eIcon, const char* sCaption, QWidget* pStage);
+
+  /// Whether its view is showing.
+  void SetCurrent(bool bCurrent);
+
+ signals:
+  void Command(const QString& sCommand);
 
  protected:
   void focusInEvent(QFocusEvent* pEvent) override;
   void keyPressEvent(QKeyEvent* pEvent) override;
   void paintEvent(QPaintEvent* pEvent) override;
-  [[nodiscard]] bool hitButton(const QPoint& oAt) const override { return rect().contains(oAt); }
 
  private:
   struct Look {

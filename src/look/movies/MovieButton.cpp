@@ -1,6 +1,5 @@
 #include "look/movies/MovieButton.h"
 
-#include <QKeyEvent>
 #include <QPainter>
 #include <cmath>
 
@@ -20,9 +19,8 @@ constexpr double kStroke = 2.0;
 }  // namespace
 
 MovieButton::MovieButton(Icon eIcon, const QString& sWords, QWidget* pParent)
-    : QPushButton(sWords, pParent), m_eIcon(eIcon) {
-  setAutoDefault(false);
-  setAttribute(Qt::WA_Hover);
+    : PlainButton(pParent), m_eIcon(eIcon) {
+  setText(sWords);
 }
 
 void MovieButton::SetIcon(Icon eIcon) {
@@ -67,16 +65,6 @@ void MovieButton::paintEvent(QPaintEvent* /*pEvent*/) {
   DrawIcon(oPainter, m_eIcon, oIcon, oInk, kStroke);
   DrawWords(oPainter, QRectF(rect()).adjusted(oIcon.right() + kGap * m_fScale, 0, 0, 0), text(),
             oInk);
-}
-
-void MovieButton::keyPressEvent(QKeyEvent* pEvent) {
-  if (pEvent->key() == Qt::Key_Return || pEvent->key() == Qt::Key_Enter) {
-    if (!pEvent->isAutoRepeat()) {
-      click();
-    }
-    return;
-  }
-  QPushButton::keyPressEvent(pEvent);
 }
 
 }  // namespace quillet

@@ -1,16 +1,16 @@
 // A button within a movie: an icon, words, or both.
 #pragma once
 
-#include <QPushButton>
 #include <optional>
 
+#include "look/PlainButton.h"
 #include "look/icons.h"
 #include "look/palette.h"
 
 namespace quillet {
 
-/// Works with the mouse, Space and Enter. A checked one is drawn in the accent.
-class MovieButton : public QPushButton {
+/// A checked one is drawn in the accent.
+class MovieButton : public PlainButton {
   Q_OBJECT
 
  public:
@@ -25,8 +25,6 @@ class MovieButton : public QPushButton {
 
  protected:
   void paintEvent(QPaintEvent* pEvent) override;
-  void keyPressEvent(QKeyEvent* pEvent) override;
-  [[nodiscard]] bool hitButton(const QPoint& oAt) const override { return rect().contains(oAt); }
 
  private:
   [[nodiscard]] std::optional<Ink> Face() const;

@@ -64,8 +64,8 @@ QPointF NibAt(double fNow) {
 
 }  // namespace
 
-SplashMovie::SplashMovie(const QString& sParameters, QWidget& oStage, SendCommand oSend)
-    : QWidget(&oStage), m_sEdition(EditionOf(sParameters)), m_oSend(std::move(oSend)) {
+SplashMovie::SplashMovie(const QString& sParameters, QWidget* pStage)
+    : QWidget(pStage), m_sEdition(EditionOf(sParameters)) {
   setFocusPolicy(Qt::StrongFocus);
   setAccessibleName(QString("Quillet, %1").arg(m_sEdition));
   m_oTicks.setTimerType(Qt::PreciseTimer);
@@ -97,7 +97,7 @@ void SplashMovie::End() {
 /// Sends each command once.
 void SplashMovie::Tell(bool& bTold, const char* sCommand) {
   if (!std::exchange(bTold, true)) {
-    m_oSend(sCommand, {});
+    emit Command(sCommand);
   }
 }
 

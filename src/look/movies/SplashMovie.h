@@ -6,19 +6,21 @@
 #include <QTimer>
 #include <QWidget>
 
-#include "look/movies/movies.h"
-
 namespace quillet {
 
 /// Designed in 553 by 305 units, scaled to its size. Begins when it is played, and keeps showing
 /// its last picture. A key or click ends it; later ones go to its window.
-class SplashMovie : public QWidget, public Movie {
+class SplashMovie : public QWidget {
+  Q_OBJECT
+
  public:
   /// `sParameters` is "Version=" with the edition: "UK", "US" or "EU".
-  SplashMovie(const QString& sParameters, QWidget& oStage, SendCommand oSend);
+  SplashMovie(const QString& sParameters, QWidget* pStage);
 
-  [[nodiscard]] QWidget& Widget() override { return *this; }
-  void Play() override;
+  void Play();
+
+ signals:
+  void Command(const QString& sCommand);
 
  protected:
   void paintEvent(QPaintEvent* pEvent) override;
@@ -35,7 +37,6 @@ class SplashMovie : public QWidget, public Movie {
   void DrawWords(QPainter& oPainter, double fScale) const;
 
   QString m_sEdition;
-  SendCommand m_oSend;
   QTimer m_oTicks;
   QElapsedTimer m_oClock;
   double m_fNow = 0.0;  ///< seconds since it began
