@@ -24,6 +24,7 @@ add_library(quillet_desktop STATIC
   look/movies/drawing.cpp
   look/palette.cpp
   look/scale.cpp
+  look/scrollBar.cpp
   platform/Sound.cpp
   platform/qt/QtHost.cpp
   platform/qt/QtSettingsHive.cpp

@@ -15,6 +15,7 @@
 #include "look/marks.h"
 #include "look/palette.h"
 #include "look/scale.h"
+#include "look/scrollBar.h"
 
 namespace quillet {
 namespace {
@@ -25,7 +26,6 @@ constexpr double kTwipsOfMessageIcon = 540.0;
 constexpr double kTwipsOfMargin = 240.0;
 constexpr double kTwipsOfSpacing = 120.0;
 constexpr double kTwipsOfScrollBar = 165.0;
-constexpr double kTwipsOfLeastThumb = 360.0;
 constexpr double kTwipsOfMark = 165.0;
 constexpr double kTwipsOfMarkAndGap = 255.0;  // up to the text
 constexpr double kTwipsOfTextMargin = 90.0;
@@ -152,50 +152,6 @@ void DrawCombo(QPainter& oPainter, const QStyleOptionComboBox& oCombo) {
   oPainter.setRenderHint(QPainter::Antialiasing);
   DrawChevron(oPainter, {oMiddle - QPointF(fArrow, fArrow) / 2, QSizeF(fArrow, fArrow)},
               Towards::Down, InkColour(bHover ? Ink::Text : Ink::FaintText));
-  oPainter.restore();
-}
-
-/// The places of a scroll bar's parts: its thumb, and the track on both sides of it.
-QRect PartOfScrollBar(const QStyleOptionSlider& oBar, QStyle::SubControl ePart) {
-  const bool bAcross = oBar.orientation == Qt::Horizontal;
-  const int nWay = bAcross ? oBar.rect.width() : oBar.rect.height();
-  const double fSteps = oBar.maximum - oBar.minimum + std::max(1, oBar.pageStep);
-  const int nShare = static_cast<int>(nWay * oBar.pageStep / fSteps);
-  const int nThumb = std::min(nWay, std::max(nShare, Pixels(kTwipsOfLeastThumb)));
-  const int nAt = QStyle::sliderPositionFromValue(oBar.minimum, oBar.maximum, oBar.sliderPosition,
-                                                  nWay - nThumb, oBar.upsideDown);
-  const auto fnPart = [&](int nFrom, int nLength) {
-    return bAcross ? QRect(nFrom, 0, nLength, oBar.rect.height())
-                   : QRect(0, nFrom, oBar.rect.width(), nLength);
-  };
-  switch (ePart) {
-    case QStyle::SC_ScrollBarSlider:
-      return fnPart(nAt, nThumb);
-    case QStyle::SC_ScrollBarSubPage:
-      return fnPart(0, nAt);
-    case QStyle::SC_ScrollBarAddPage:
-      return fnPart(nAt + nThumb, nWay - nAt - nThumb);
-    case QStyle::SC_ScrollBarGroove:
-      return oBar.rect;
-    default:
-      return {};
-  }
-}
-
-void DrawScrollBar(QPainter& oPainter, const QStyleOptionSlider& oBar) {
-  oPainter.fillRect(oBar.rect, oBar.palette.window());
-  if (oBar.maximum <= oBar.minimum) {
-    return;
-  }
-  const bool bHot = (oBar.state & (QStyle::State_Sunken | QStyle::State_MouseOver)) != 0;
-  const QRectF oThumb = PartOfScrollBar(oBar, QStyle::SC_ScrollBarSlider);
-  const double fInset = std::min(oThumb.width(), oThumb.height()) * 0.25;
-  const QRectF oInk = oThumb.adjusted(fInset, fInset, -fInset, -fInset);
-  const double fRadius = std::min(oInk.width(), oInk.height()) / 2;
-  oPainter.save();
-  oPainter.setRenderHint(QPainter::Antialiasing);
-  DrawRounded(oPainter, oInk, fRadius, Qt::NoPen,
-              InkColour(bHot ? Ink::FaintText : Ink::FieldEdge));
   oPainter.restore();
 }
 
