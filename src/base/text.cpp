@@ -72,9 +72,17 @@ std::size_t Units(char32_t cCode) {
   return cCode != kInvalid && cCode > 0xFFFF ? 2 : 1;
 }
 
+/// Looks at every character: without an early end the compiler takes many at a time.
 bool IsAscii(std::string_view sText) {
-  return std::all_of(sText.begin(), sText.end(),
-                     [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+  unsigned char nBits = 0;
+  for (const char c : sText) {
+    nBits |= static_cast<unsigned char>(c);
+  }
+  return nBits < 0x80;
+}
+
+bool IsBlank(char c) {
+  return c == ' ' || c == '\t';
 }
 
 }  // namespace
@@ -192,12 +200,13 @@ bool EqualIgnoringCase(std::string_view sLeft, std::string_view sRight) {
 }
 
 std::string_view Trim(std::string_view sText) {
-  constexpr std::string_view kBlanks = " \t";
-  const std::size_t nFirst = sText.find_first_not_of(kBlanks);
-  if (nFirst == std::string_view::npos) {
-    return {};
+  while (!sText.empty() && IsBlank(sText.front())) {
+    sText.remove_prefix(1);
   }
-  return sText.substr(nFirst, sText.find_last_not_of(kBlanks) - nFirst + 1);
+  while (!sText.empty() && IsBlank(sText.back())) {
+    sText.remove_suffix(1);
+  }
+  return sText;
 }
 
 std::string TrimAtNul(std::string sText) {

@@ -48,20 +48,17 @@ void SectionWriter::Amount(Single fField) {
 }
 
 void SectionWriter::Switch(bool bField) {
-  m_sData += BooleanText(bField);
-  m_sData += kSeparator;
+  m_sData.append(BooleanText(bField)) += kSeparator;
 }
 
 void SectionWriter::Byte(std::int32_t nField, std::size_t nDigits) {
-  if (nDigits == 1 && nField >= 0 && nField <= 9) {
-    m_sData += static_cast<char>('0' + nField);  // by far the most common case
-  } else {
-    std::array<char, 12> acDigits{};
-    const auto oEnd = std::to_chars(acDigits.data(), acDigits.data() + acDigits.size(), nField);
-    const std::string_view sDigits(acDigits.data(), oEnd.ptr);
-    m_sData.append(nDigits - std::min(nDigits, sDigits.size()), '0').append(sDigits);
+  std::array<char, 12> acDigits{};
+  const auto oEnd = std::to_chars(acDigits.data(), acDigits.data() + acDigits.size(), nField);
+  const std::string_view sDigits(acDigits.data(), oEnd.ptr);
+  for (std::size_t nLength = sDigits.size(); nLength < nDigits; ++nLength) {
+    m_sData += '0';
   }
-  m_sData += kSeparator;
+  m_sData.append(sDigits) += kSeparator;
 }
 
 void SectionWriter::Close() {

@@ -55,7 +55,10 @@ void Calculate(std::string& sText, const Options& oOptions, Result& oResult) {
   sText = DecodeText(std::move(sText));
   oAuction.Serialize(sText, false);
   oResult.sMessage = CalcHost::TakeMessage();
-  oResult.sAuction.emplace();
+  if (!oResult.sAuction) {
+    oResult.sAuction.emplace();
+  }
+  oResult.sAuction->clear();  // keeps its memory
   oAuction.Serialize(*oResult.sAuction, true);
   oResult.sError.reset();
   try {

@@ -8,10 +8,10 @@ namespace {
 
 Cell ReadName(const Result& oResult, std::string& sText) {
   if (oResult.nLine > 0) {
-    sText = std::to_string(oResult.nLine);
+    sText += std::to_string(oResult.nLine);
     return Cell::Number;
   }
-  sText = oResult.sFile;
+  sText += oResult.sFile;
   return Cell::Text;
 }
 
@@ -19,7 +19,7 @@ template <std::optional<std::string> Result::*sField>
 Cell ReadText(const Result& oResult, std::string& sText) {
   const std::optional<std::string>& sValue = oResult.*sField;
   if (sValue) {
-    sText = *sValue;
+    sText += *sValue;
   }
   return sValue ? Cell::Text : Cell::None;
 }
@@ -28,7 +28,7 @@ Cell ReadText(const Result& oResult, std::string& sText) {
 Cell WriteNumber(Single fValue, std::string& sText) {
   std::array<char, 32> acText{};
   const auto oEnd = std::to_chars(acText.data(), acText.data() + acText.size(), fValue.Float());
-  sText.assign(acText.data(), oEnd.ptr);
+  sText.append(acText.data(), oEnd.ptr);
   return Cell::Number;
 }
 
@@ -49,7 +49,7 @@ Cell ReadPrice(const Result& oResult, std::string& sText) {
   if (nPrice) {
     return WriteNumber(PriceOf(*nPrice), sText);
   }
-  sText = "none";
+  sText += "none";
   return Cell::None;
 }
 
@@ -57,7 +57,7 @@ Cell ReadPercent(const Result& oResult, std::string& sText) {
   if (!oResult.oFigures || !oResult.oFigures->sProfitPercent) {
     return Cell::None;
   }
-  sText = *oResult.oFigures->sProfitPercent;
+  sText += *oResult.oFigures->sProfitPercent;
   return Cell::Number;
 }
 

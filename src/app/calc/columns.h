@@ -15,8 +15,7 @@ enum class Cell { None, Number, Text };
 
 struct Column {
   std::string_view sName;
-  /// Writes the column's value for a result into `sText`, which is empty; it may be a word for
-  /// none.
+  /// Appends the column's value for a result to `sText`; it may be a word for none.
   Cell (*fnRead)(const Result& oResult, std::string& sText);
 };
 

@@ -1,6 +1,4 @@
 // The reports for programs: CSV and JSON.
-#include <algorithm>
-
 #include <nlohmann/json.hpp>
 
 #include "app/calc/Report.h"
@@ -9,19 +7,27 @@
 namespace quillet {
 namespace {
 
-void AppendQuotedForCsv(std::string_view sText, std::string& sOut) {
-  const bool bPlain = std::none_of(sText.begin(), sText.end(), [](char c) {
-    return c == ',' || c == '"' || c == '\r' || c == '\n';
-  });
-  if (bPlain) {
-    sOut += sText;
+/// Looks at every character: without an early end the compiler takes many at a time.
+bool NeedsQuotes(std::string_view sCell) {
+  unsigned char nNeeds = 0;
+  for (const char c : sCell) {
+    nNeeds |= static_cast<unsigned char>(c == ',' || c == '"' || c == '\r' || c == '\n');
+  }
+  return nNeeds != 0;
+}
+
+/// Quotes the last cell of a line, which begins at `nCell`, if it needs that.
+void QuoteForCsv(std::string& sLine, std::size_t nCell) {
+  if (!NeedsQuotes(std::string_view(sLine).substr(nCell))) {
     return;
   }
-  sOut += '"';
-  for (const char c : sText) {
-    sOut.append(c == '"' ? 2 : 1, c);
+  const std::string sCell = sLine.substr(nCell);
+  sLine.resize(nCell);
+  sLine += '"';
+  for (const char c : sCell) {
+    sLine.append(c == '"' ? 2 : 1, c);
   }
-  sOut += '"';
+  sLine += '"';
 }
 
 class CsvReport : public Report {
@@ -38,17 +44,17 @@ class CsvReport : public Report {
 
   void Add(const Result& oResult, std::string& sOut) override {
     for (const Column& oColumn : m_aoColumns) {
-      sOut += &oColumn == m_aoColumns.data() ? "" : ",";
-      m_sCell.clear();
-      oColumn.fnRead(oResult, m_sCell);
-      AppendQuotedForCsv(m_sCell, sOut);
+      const std::size_t nCell = sOut.size();
+      if (oColumn.fnRead(oResult, sOut) == Cell::Text) {
+        QuoteForCsv(sOut, nCell);
+      }
+      sOut += ',';
     }
-    sOut += '\n';
+    sOut.back() = '\n';
   }
 
  private:
   std::vector<Column> m_aoColumns;
-  std::string m_sCell;
 };
 
 class JsonReport : public Report {
