@@ -6,6 +6,7 @@
 
 #include "base/Single.h"
 #include "engine/clsOutlay.h"
+#include "engine/fresh.h"
 #include "prices/PriceKey.h"
 #include "prices/shopDuration.h"
 
@@ -43,8 +44,6 @@ enum eRealEstateSaleFormat : std::int32_t {
 
 class clsAuctionType {
  public:
-  clsAuctionType() { Serialize(m_sDefaultState, true); }
-
   // Fees are in the auction's currency and not rounded to pennies. A price that the schedule lacks
   // leaves its part of a fee as it was; a missing tier table throws a Failure.
 
@@ -62,7 +61,7 @@ class clsAuctionType {
   void Serialize(std::string& sData, bool bSave);
 
   /// Resets everything but m_bDirty.
-  void Clear() { Serialize(m_sDefaultState, false); }
+  void Clear() { MakeFresh(*this); }
 
   /// Whether the seller may choose a kind of listing, or a vehicle of eMotorType. With today's fees
   /// not if the schedule gives no price or one below 0; with those of 2007 always.
@@ -117,7 +116,6 @@ class clsAuctionType {
   [[nodiscard]] Single ApplyShopInventory(Single fFee) const;
 
   const clsOutlay* m_oLastOutlay = nullptr;
-  std::string m_sDefaultState;
 };
 
 /// The amount under a key without a suffix; 0 if the schedule lacks it.

@@ -5,13 +5,12 @@
 #include <string>
 
 #include "base/Single.h"
+#include "engine/fresh.h"
 
 namespace quillet {
 
 class clsOutlay {
  public:
-  clsOutlay() { Serialize(m_sDefaultState, true); }
-
   /// The total outlay: cost times quantity, and the local tax on it if m_bAddTax. A schedule
   /// without "LocalTax" means no tax.
   [[nodiscard]] Single DoCalc() const;
@@ -20,7 +19,7 @@ class clsOutlay {
   void Serialize(std::string& sData, bool bSave);
 
   /// Resets everything but m_bDirty.
-  void Clear() { Serialize(m_sDefaultState, false); }
+  void Clear() { MakeFresh(*this); }
 
   Single m_fOutlay;             ///< cost of one item
   Single m_fStartingPrice;      ///< of the listing
@@ -29,9 +28,6 @@ class clsOutlay {
   std::int32_t m_lQuantity = 0;
   bool m_bAddTax = false;  ///< local tax is added to the outlay
   bool m_bDirty = false;   ///< changed since last saved
-
- private:
-  std::string m_sDefaultState;
 };
 
 }  // namespace quillet

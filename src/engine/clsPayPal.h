@@ -6,6 +6,7 @@
 
 #include "base/Single.h"
 #include "engine/clsOutlay.h"
+#include "engine/fresh.h"
 #include "prices/PriceKey.h"
 
 namespace quillet {
@@ -18,8 +19,6 @@ enum eAccountType : std::int32_t {
 
 class clsPayPal {
  public:
-  clsPayPal() { Serialize(m_sDefaultState, true); }
-
   /// The fee on an amount received: a percentage and a fixed charge, rounded to the smallest unit
   /// of the currency with an exact half going down. Keeps its arguments for DoCalcAuto; the outlay
   /// may be null and must otherwise live as long as this object. Throws a Failure for a premier or
@@ -40,7 +39,7 @@ class clsPayPal {
   void Serialize(std::string& sData, bool bSave);
 
   /// Resets everything but m_bDirty and what DoCalc keeps.
-  void Clear() { Serialize(m_sDefaultState, false); }
+  void Clear() { MakeFresh(*this); }
 
   bool m_bEnabled = false;  ///< the seller takes PayPal
   std::int32_t m_eAccountType = kAccountPersonal;
@@ -55,7 +54,6 @@ class clsPayPal {
   [[nodiscard]] Single ApplyIndividually(Single fAmount) const;
 
   Single m_fLastPrice;
-  std::string m_sDefaultState;
 };
 
 }  // namespace quillet

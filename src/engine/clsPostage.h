@@ -7,6 +7,7 @@
 
 #include "base/Single.h"
 #include "engine/clsOutlay.h"
+#include "engine/fresh.h"
 
 namespace quillet {
 
@@ -19,8 +20,6 @@ enum ePostageClass : std::int32_t {
 
 class clsPostage {
  public:
-  clsPostage() { Serialize(m_sDefaultState, true); }
-
   // Amounts are in the auction's currency. A price that the schedule lacks is 0; a missing table of
   // weights throws a Failure.
 
@@ -52,7 +51,7 @@ class clsPostage {
   void Serialize(std::string& sData, bool bSave);
 
   /// Resets everything but m_bDirty and what DoCalc keeps.
-  void Clear() { Serialize(m_sDefaultState, false); }
+  void Clear() { MakeFresh(*this); }
 
   bool m_bEnabled = false;  ///< the item is posted at all
   Single m_fWeight;         ///< kilograms
@@ -73,8 +72,6 @@ class clsPostage {
   [[nodiscard]] std::optional<Single> SecondClassCost() const;
   [[nodiscard]] std::optional<Single> ParcelCost() const;
   [[nodiscard]] Single ApplyIndividually(Single fAmount) const;
-
-  std::string m_sDefaultState;
 };
 
 }  // namespace quillet

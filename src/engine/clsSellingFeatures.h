@@ -7,6 +7,7 @@
 #include "base/Single.h"
 #include "engine/clsAuctionType.h"
 #include "engine/clsOutlay.h"
+#include "engine/fresh.h"
 #include "prices/PriceKey.h"
 
 namespace quillet {
@@ -38,8 +39,6 @@ enum eFeature : std::int32_t {
 
 class clsSellingFeatures {
  public:
-  clsSellingFeatures() { Serialize(m_sDefaultState, true); }
-
   void AddFeature(std::int32_t lFeature) { m_lFeatures |= lFeature; }
   /// Clears the bits if all of them are set; otherwise does nothing.
   void RemoveFeature(std::int32_t lFeature);
@@ -63,7 +62,7 @@ class clsSellingFeatures {
   void Serialize(std::string& sData, bool bSave);
 
   /// No features and no pictures; the prices, m_bDirty and what DoCalc keeps stay.
-  void Clear() { Serialize(m_sDefaultState, false); }
+  void Clear() { MakeFresh(*this); }
 
   // Prices as of the latest DoCalc; below 0 where a feature isn't on offer.
   Single m_fHomePage;
@@ -104,7 +103,6 @@ class clsSellingFeatures {
 
   std::int32_t m_lFeatures = 0;  ///< a mask of eFeature
   Single m_fLastFee;
-  std::string m_sDefaultState;
   const clsAuctionType* m_oAuctionType = nullptr;
   const clsOutlay* m_oLastOutlay = nullptr;
 };
