@@ -26,10 +26,11 @@ void clsCalculate::DoCalc() {
   m_fListingCost = m_oAuctionType.DoCalcListingFee(m_oOutlay);
   m_fReserveCost = m_oAuctionType.DoCalcReserveFee(m_oOutlay);
   m_fFinalValueFee = m_oAuctionType.DoCalcFinalValueFee(m_oOutlay);
+  const Single fFees = m_fReserveCost + m_fListingCost + m_fFinalValueFee;
   if (m_oOutlay.m_lQuantity < 1) {
     m_fFinalValueFee = 0;  // only in the figure shown; the sum below keeps the fee
   }
-  m_fSellCost = m_oAuctionType.DoCalc(m_oOutlay) + m_fSellCost;
+  m_fSellCost = fFees + m_fSellCost;
   m_fSellCost = m_oSellingFeatures.DoCalc(&m_oAuctionType, &m_oOutlay) + m_fSellCost;
   m_fPostageCost = m_oPostage.DoCalc(&m_oOutlay);
   m_fPostageProfit = m_oPostage.DoCalcProfit();

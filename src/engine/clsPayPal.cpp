@@ -48,6 +48,11 @@ KeyText CurrencyName(std::int32_t eCurrency) {
   }
 }
 
+Single BandRate(const KeyText& oKey, Single fBandValue) {
+  clsPriceRange oTier;
+  return Prices().HitTestRanges(oKey, fBandValue, oTier, kShopNone) ? oTier.m_fValue : Single(0);
+}
+
 /// The text's amount in whole smallest units; an exact half goes down.
 Single RoundFee(const std::string& sFee) {
   const std::int32_t nUnitsPerMajor = CurrencyUnitsPerMajor();
@@ -78,8 +83,9 @@ Single clsPayPal::DoCalc(Single fAmount, const clsOutlay* oOutlay) {
     Prices().GetPrice(oPercentKey, fPercent, kShopNone);
     Prices().GetPrice(oFixedKey, fFixed, kShopNone);
   } else {
-    fPercent = BandRate(oPercentKey);
-    fFixed = BandRate(oFixedKey);
+    const Single fBandValue = BandValue();
+    fPercent = BandRate(oPercentKey, fBandValue);
+    fFixed = BandRate(oFixedKey, fBandValue);
   }
   const Single fFixedTotal = ApplyIndividually(fFixed);
   const Single fFee = fPercent / 100 * fAmount + fFixedTotal;
@@ -110,8 +116,8 @@ std::string clsPayPal::GetBusinessRateBandAttribute(std::int32_t nAttribute,
   return std::string(sData);
 }
 
-/// The rate of the chosen band. It is the band's own value that selects the tier, not the amount.
-Single clsPayPal::BandRate(const KeyText& oKey) const {
+/// Of the chosen band. It is this that selects the tier of a rate, not the amount.
+Single clsPayPal::BandValue() const {
   std::int32_t nBand = 0;
   Single fValue;
   if (!Prices().GetPrice(BandKey(1, nBand), fValue, kShopNone)) {
@@ -119,8 +125,7 @@ Single clsPayPal::BandRate(const KeyText& oKey) const {
                   "The fee schedule has no value for PayPal's merchant rate band " +
                       std::to_string(nBand) + ".");
   }
-  clsPriceRange oTier;
-  return Prices().HitTestRanges(oKey, fValue, oTier, kShopNone) ? oTier.m_fValue : Single(0);
+  return fValue;
 }
 
 Single clsPayPal::ApplyIndividually(Single fAmount) const {

@@ -50,7 +50,7 @@ class clsPayPal {
 
  private:
   [[nodiscard]] PriceKey BandKey(std::int32_t nAttribute, std::int32_t& nBand) const;
-  [[nodiscard]] Single BandRate(const KeyText& oKey) const;
+  [[nodiscard]] Single BandValue() const;
   [[nodiscard]] Single ApplyIndividually(Single fAmount) const;
 
   Single m_fLastPrice;
