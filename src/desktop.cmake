@@ -60,7 +60,24 @@ add_library(quillet_desktop STATIC
   shell/frmAbout.cpp
   shell/frmMain.cpp
   shell/frmSplash.cpp
+  shell/frmWhatIf.cpp
   shell/tabOrder.cpp
+  shell/whatif/AlternativesModel.cpp
+  shell/whatif/AlternativesTable.cpp
+  shell/whatif/Answers.cpp
+  shell/whatif/CurveCard.cpp
+  shell/whatif/FiguresCard.cpp
+  shell/whatif/GoalCard.cpp
+  shell/whatif/MoneyCard.cpp
+  shell/whatif/Segments.cpp
+  shell/whatif/TableCard.cpp
+  shell/whatif/TitledCard.cpp
+  shell/whatif/Uses.cpp
+  shell/whatif/WhatIfButton.cpp
+  shell/whatif/copyText.cpp
+  shell/whatif/curveScale.cpp
+  shell/whatif/figures.cpp
+  shell/whatif/moneyParts.cpp
   shell/zoomSteps.cpp
   )
 set_target_properties(quillet_desktop PROPERTIES AUTOMOC ON AUTORCC ON)

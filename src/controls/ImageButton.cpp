@@ -44,6 +44,10 @@ void ImageButton::SetPrimary(bool bPrimary) {
   update();
 }
 
+bool ImageButton::IsLit() const {
+  return m_bPrimary && isEnabled();
+}
+
 void ImageButton::SetPage(bool bPage) {
   m_bPage = bPage;
   setCheckable(bPage);
@@ -85,7 +89,7 @@ QColor ImageButton::FaceColour() const {
   if (m_bPage) {
     return PageColour();
   }
-  if (m_bPrimary) {
+  if (IsLit()) {
     const QColor oAccent = InkColour(Ink::Accent);
     return isDown() ? oAccent.darker(kDarker) : bHover ? oAccent.lighter(kLighter) : oAccent;
   }
@@ -117,7 +121,7 @@ void ImageButton::paintEvent(QPaintEvent* /*pEvent*/) {
   QPainter oPainter(this);
   oPainter.setRenderHint(QPainter::Antialiasing);
   DrawRounded(oPainter, oFace.adjusted(0.5, 0.5, -0.5, -0.5), kRadius,
-              m_bPrimary || m_bPage ? QPen(Qt::NoPen) : QPen(InkColour(Ink::FieldEdge), 1.0),
+              IsLit() || m_bPage ? QPen(Qt::NoPen) : QPen(InkColour(Ink::FieldEdge), 1.0),
               FaceColour());
   if (hasFocus()) {
     DrawRing(oPainter, oFace.adjusted(-kRing, -kRing, kRing, kRing), kRingRadius);

@@ -48,6 +48,7 @@ class ImageButton : public PlainButton, public Control {
   [[nodiscard]] bool hitButton(const QPoint& oAt) const override;
 
  private:
+  [[nodiscard]] bool IsLit() const;
   [[nodiscard]] QRectF Face() const;
   [[nodiscard]] QColor FaceColour() const;
   [[nodiscard]] QColor PageColour() const;

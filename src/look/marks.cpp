@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <initializer_list>
 
+#include "look/font.h"
+
 namespace quillet {
 namespace {
 
@@ -71,6 +73,16 @@ void DrawWords(QPainter& oPainter, const QRectF& oPlace, const QString& sWords,
                const QColor& oColour, int nFlags) {
   oPainter.setPen(oColour);
   oPainter.drawText(oPlace, nFlags | int{Qt::AlignVCenter} | int{Qt::AlignLeft}, sWords);
+}
+
+void DrawTitle(QPainter& oPainter, const QRectF& oPlace, const QString& sTitle) {
+  constexpr double kPoints = 6.75;
+  constexpr double kSpacing = 112.0;
+  QFont oFont = ThemeFont(kPoints, QFont::DemiBold);
+  oFont.setLetterSpacing(QFont::PercentageSpacing, kSpacing);
+  oFont.setCapitalization(QFont::AllUppercase);
+  oPainter.setFont(oFont);
+  DrawWords(oPainter, oPlace, sTitle, InkColour(Ink::FaintText));
 }
 
 void Card::paintEvent(QPaintEvent* /*pEvent*/) {

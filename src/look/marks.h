@@ -35,6 +35,9 @@ void DrawCard(QPainter& oPainter, const QRectF& oCard);
 void DrawWords(QPainter& oPainter, const QRectF& oPlace, const QString& sWords,
                const QColor& oColour, int nFlags = 0);
 
+/// The title of a card, left-aligned and vertically centred.
+void DrawTitle(QPainter& oPainter, const QRectF& oPlace, const QString& sTitle);
+
 /// The background of something in front of others: a widget of its own, transparent to the mouse.
 class Card : public QWidget {
  public:

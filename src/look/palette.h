@@ -25,6 +25,17 @@ enum class Ink {
   ColumnText,  ///< captions and icons of those buttons
   Warning,
   Error,
+  // Parts of a whole, side by side.
+  Slate,
+  Peach,
+  Sand,
+  Orange,
+  Rust,
+  Sky,
+  Green,
+  Violet,
+  Teal,
+  Pink,
 };
 
 [[nodiscard]] QColor InkColour(Ink eInk);

@@ -7,7 +7,6 @@
 #include "base/FlagGuard.h"
 #include "base/failure.h"
 #include "controls/SectionHeader.h"
-#include "look/font.h"
 #include "look/marks.h"
 #include "look/palette.h"
 #include "look/scale.h"
@@ -18,7 +17,6 @@
 namespace quillet {
 namespace {
 
-constexpr double kTitlePoints = 6.75;
 constexpr int kTitleHeight = 255;  // twips, the header's
 constexpr int kBoxGap = 10;        // twips between the panel's edge and its Show boxes
 
@@ -187,12 +185,8 @@ void SectionPanel::paintEvent(QPaintEvent* /*pEvent*/) {
   if (pHeader->Visible()) {
     return;
   }
-  QFont oFont = ThemeFont(kTitlePoints, QFont::DemiBold);
-  oFont.setLetterSpacing(QFont::PercentageSpacing, 112);
-  oFont.setCapitalization(QFont::AllUppercase);
-  oPainter.setFont(oFont);
-  DrawWords(oPainter, QRect(Pixels(ContentLeft()), 0, width(), Pixels(kTitleHeight)),
-            QString::fromUtf8(Title()), InkColour(Ink::FaintText));
+  DrawTitle(oPainter, QRect(Pixels(ContentLeft()), 0, width(), Pixels(kTitleHeight)),
+            QString::fromUtf8(Title()));
 }
 
 void SectionPanel::Placed() {

@@ -9,14 +9,16 @@
 
 namespace quillet {
 
-SectionSet::SectionSet(QWidget& oView, std::function<void(bool)> fnChanged)
+SectionSet::SectionSet(QWidget& oView, std::function<void(bool)> fnChanged,
+                       std::function<void()> fnShown)
     : ctlSellingCostsSection(*Make<ctlSellingCosts>("ctlSellingCostsSection", &oView)),
       ctlOutlaySection(*Make<ctlOutlay>("ctlOutlaySection", &oView)),
       ctlSellingFeaturesSection(*Make<ctlSellingFeatures>("ctlSellingFeaturesSection", &oView)),
       ctlAuctionTypeSection(*Make<ctlAuctionType>("ctlAuctionTypeSection", &oView)),
       ctlPayPalSection(*Make<ctlPayPal>("ctlPayPalSection", &oView)),
       ctlPostageSection(*Make<ctlPostage>("ctlPostageSection", &oView)),
-      m_fnChanged(std::move(fnChanged)) {}
+      m_fnChanged(std::move(fnChanged)),
+      m_fnShown(std::move(fnShown)) {}
 
 void SectionSet::RefreshSums(clsCalculate& oDocument, bool bUpdateControlDisplays) {
   if (bUpdateControlDisplays && !oDocument.m_oAuctionType.m_bShopInventory) {
@@ -25,14 +27,25 @@ void SectionSet::RefreshSums(clsCalculate& oDocument, bool bUpdateControlDisplay
   Refresh(oDocument, bUpdateControlDisplays ? &SectionSet::BringOnView : nullptr);
 }
 
+void SectionSet::ShowChanged(clsCalculate& oDocument, bool bReact) {
+  RefreshSums(oDocument, true);
+  if (bReact) {
+    FollowChange(oDocument);
+  }
+}
+
 void SectionSet::FollowChange(clsCalculate& oDocument) {
   Refresh(oDocument, &SectionSet::PushChange);
 }
 
 void SectionSet::Refresh(clsCalculate& oDocument, Push pPush) {
-  if (m_bRefreshing) {
-    return;
+  if (!m_bRefreshing) {
+    ShowAndPush(oDocument, pPush);
+    m_fnShown();
   }
+}
+
+void SectionSet::ShowAndPush(clsCalculate& oDocument, Push pPush) {
   const FlagGuard oRefreshing(m_bRefreshing);
   IgnoreFailure([&] {
     ShowSums(oDocument);

@@ -17,8 +17,10 @@ namespace quillet {
 class SectionSet {
  public:
   /// Makes the controls as children of the view, which owns them and must outlive the set.
-  /// Each calculation calls `fnChanged` with whether the auction is dirty.
-  SectionSet(QWidget& oView, std::function<void(bool bDirty)> fnChanged);
+  /// Each calculation calls `fnChanged` with whether the auction is dirty, and `fnShown` when it
+  /// has been shown or has failed.
+  SectionSet(QWidget& oView, std::function<void(bool bDirty)> fnChanged,
+             std::function<void()> fnShown);
 
   // Both calculate an auction and show it in the summary. A call from within does nothing; a
   // Failure ends the routine silently.
@@ -26,6 +28,10 @@ class SectionSet {
   /// Shows an auction: with `bUpdateControlDisplays` its models are pushed into the sections, which
   /// changes neither it nor the auction shown before, nor their flags. Both must outlive the set.
   void RefreshSums(clsCalculate& oDocument, bool bUpdateControlDisplays);
+
+  /// Shows the auction after its inputs were changed elsewhere than in its sections. With `bReact`
+  /// the sections react as to a change in one of them.
+  void ShowChanged(clsCalculate& oDocument, bool bReact);
 
   /// The user has changed the auction shown: its models are pushed into the sections once, so that
   /// they react, and features that it can't have any more are removed from it.
@@ -47,6 +53,7 @@ class SectionSet {
   using Push = void (SectionSet::*)(clsCalculate& oDocument);
 
   void Refresh(clsCalculate& oDocument, Push pPush);
+  void ShowAndPush(clsCalculate& oDocument, Push pPush);
   void ShowSums(clsCalculate& oDocument);
   void BringOnView(clsCalculate& oDocument);
   void PushChange(clsCalculate& oDocument);
@@ -54,6 +61,7 @@ class SectionSet {
   void ShowKeptInsurance(clsCalculate& oDocument);
 
   std::function<void(bool)> m_fnChanged;
+  std::function<void()> m_fnShown;
   bool m_bRefreshing = false;
   clsCalculate* m_oOnView = nullptr;  ///< what the sections were given last
 };

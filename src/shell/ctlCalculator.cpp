@@ -16,6 +16,7 @@
 #include "look/scale.h"
 #include "shell/MissingPriceLine.h"
 #include "shell/tabOrder.h"
+#include "shell/whatif/WhatIfButton.h"
 
 namespace quillet {
 namespace {
@@ -58,8 +59,10 @@ bool Holds(const SectionPanel& oSection, const QWidget* pWidget) {
 ctlCalculator::ctlCalculator(QWidget* pParent)
     : QWidget(pParent),
       Control(static_cast<QWidget&>(*this)),
-      m_oSet(*this, [this](bool bDocDirty) { emit Changed(bDocDirty); }),
-      m_pMissingPrice(Make<MissingPriceLine>("MissingPrice", this)) {
+      m_oSet(
+          *this, [this](bool bDocDirty) { emit Changed(bDocDirty); }, [this] { emit Shown(); }),
+      m_pMissingPrice(Make<MissingPriceLine>("MissingPrice", this)),
+      m_pWhatIf(MakeWhatIfButton(this)) {
   PlaceAll(std::to_array<ControlPlace>({
       {&m_oSet.ctlSellingCostsSection, 120, 120, 10755, 960},
       {&m_oSet.ctlOutlaySection, 240, 1560, 5550, 1935},
@@ -81,6 +84,7 @@ ctlCalculator::ctlCalculator(QWidget* pParent)
       IgnoreFailure([&] { MoveSection(*pSection, fX, fY); });
     });
   }
+  connect(m_pWhatIf, &QAbstractButton::clicked, this, &ctlCalculator::WhatIfClicked);
   connect(qApp, &QApplication::focusChanged, this, &ctlCalculator::FollowFocus);
 }
 
@@ -168,7 +172,22 @@ void ctlCalculator::paintEvent(QPaintEvent* /*pEvent*/) {
 void ctlCalculator::Placed() {
   m_pMissingPrice->Place(kMissingPriceLeft, kMissingPriceTop,
                          Width() - kMissingPriceGap - kMissingPriceLeft, kMissingPriceHeight);
+  PlaceWhatIf();
   PlaceCards();
+}
+
+/// At the right end of the summary's card: beside the profit, or below it where that has no room.
+void ctlCalculator::PlaceWhatIf() {
+  constexpr int kWidth = 1290;
+  constexpr int kRightGap = 225;
+  constexpr int kEndOfProfit = 10455;
+  constexpr int kTop = 180;
+  constexpr int kHeight = 435;
+  constexpr int kLowTop = 540;
+  constexpr int kLowHeight = 315;
+  const int nLeft = Width() - kRightGap - kWidth;
+  const bool bBeside = nLeft >= kEndOfProfit;
+  m_pWhatIf->Place(nLeft, bBeside ? kTop : kLowTop, kWidth, bBeside ? kHeight : kLowHeight);
 }
 
 void ctlCalculator::PlaceCards() {
@@ -208,6 +227,7 @@ void ctlCalculator::OrderTabs() {
     aoInOrder.push_back(aoSections.at(nSection));
   }
   ChainInputs(*this, aoInOrder);
+  setTabOrder(aoInOrder.back()->InputsInReadingOrder().last(), m_pWhatIf);
 }
 
 /// The focus is a section's when any control inside it has it.

@@ -13,6 +13,7 @@
 namespace quillet {
 
 class Card;
+class ImageButton;
 class MissingPriceLine;
 
 class ctlCalculator : public QWidget, public Control {
@@ -45,8 +46,15 @@ class ctlCalculator : public QWidget, public Control {
 
   [[nodiscard]] SectionSet& Set() { return m_oSet; }
 
+  /// The one on view, or that comes back on view with the calculator.
+  [[nodiscard]] clsCalculate& Document() const;
+
  signals:
   void Changed(bool bDocDirty);
+  /// The document was calculated, or couldn't be, and is shown as it is.
+  void Shown();
+  /// The button of the what-if window was clicked.
+  void WhatIfClicked();
 
  protected:
   void showEvent(QShowEvent* pEvent) override;
@@ -54,10 +62,10 @@ class ctlCalculator : public QWidget, public Control {
   void Placed() override;
 
  private:
-  [[nodiscard]] clsCalculate& Document() const;
   void UserControl_Show();
   void FollowPlaces();
   void PlaceCards();
+  void PlaceWhatIf();
   void OrderTabs();
   void FollowFocus(const QWidget* pOld, const QWidget* pNow);
   void MoveSection(SectionPanel& oSection, float fX, float fY);
@@ -69,6 +77,7 @@ class ctlCalculator : public QWidget, public Control {
 
   SectionSet m_oSet;
   MissingPriceLine* m_pMissingPrice;
+  ImageButton* m_pWhatIf;
   std::array<Card*, 5> m_apCards{};  ///< in the order of the sections
   bool m_bConfigMode = false;
   clsCalculate* m_oDocument = nullptr;

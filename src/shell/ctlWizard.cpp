@@ -21,6 +21,7 @@
 #include "shell/PageScroller.h"
 #include "shell/WizardSteps.h"
 #include "shell/tabOrder.h"
+#include "shell/whatif/WhatIfButton.h"
 
 namespace quillet {
 
@@ -38,6 +39,10 @@ constexpr int kButtonWidth = 1965;
 constexpr int kButtonHeight = 495;
 constexpr int kButtonGap = 300;  // keeps neighbours, whose places overlap, apart
 
+constexpr int kWhatIfGap = 120;  // beside the summary
+constexpr int kWhatIfWidth = 1290;
+constexpr int kWhatIfHeight = 435;
+
 constexpr double kInfoPoints = 13.0;
 
 std::string PageInfoText(int nText) {
@@ -49,7 +54,8 @@ std::string PageInfoText(int nText) {
 ctlWizard::ctlWizard(QWidget* pParent)
     : QWidget(pParent),
       Control(static_cast<QWidget&>(*this)),
-      m_oSet(*this, [this](bool bDocDirty) { emit Changed(bDocDirty); }),
+      m_oSet(
+          *this, [this](bool bDocDirty) { emit Changed(bDocDirty); }, [this] { emit Shown(); }),
       m_pViewPort(Make<PageScroller>("fraViewPort", this)),
       m_aPages(MakePages()),
       m_pInfo(Make<Label>("lblInfo", this)),
@@ -58,7 +64,8 @@ ctlWizard::ctlWizard(QWidget* pParent)
       m_pButtons(Make<Frame>("fraButtons", this)),
       m_pBack(Make<ImageButton>("imgBack", m_pButtons)),
       m_pNext(Make<ImageButton>("imgNext", m_pButtons)),
-      m_pCancel(Make<ImageButton>("imgCancel", m_pButtons)) {
+      m_pCancel(Make<ImageButton>("imgCancel", m_pButtons)),
+      m_pWhatIf(MakeWhatIfButton(this)) {
   m_pInfo->SetCaption("Information is shown here");
   m_pInfo->SetFontSize(kInfoPoints, QFont::DemiBold);
   m_pInfo->setAlignment(Qt::AlignCenter);
@@ -143,9 +150,11 @@ void ctlWizard::MakeButtons() {
     setTabOrder(pBefore, pButton);
     pBefore = pButton;
   }
+  setTabOrder(pBefore, m_pWhatIf);
   connect(m_pBack, &QAbstractButton::clicked, this, &ctlWizard::imgBack_Click);
   connect(m_pNext, &QAbstractButton::clicked, this, &ctlWizard::imgNext_Click);
   connect(m_pCancel, &QAbstractButton::clicked, this, &ctlWizard::FinishWizard);
+  connect(m_pWhatIf, &QAbstractButton::clicked, this, &ctlWizard::WhatIfClicked);
 }
 
 /// Alt+Right does nothing on the last page: only Finish and Enter end the wizard.
@@ -258,6 +267,8 @@ void ctlWizard::UserControl_Resize() {
   oSummary.SetTop(Height() - oSummary.Height() - kBelowSummary);
   m_pMissingPrice->Place(oSummary.Left(), Height() - kBelowSummary + kMissingPriceGap,
                          Width() - 2 * oSummary.Left(), kMissingPriceHeight);
+  m_pWhatIf->Place(oSummary.Left() + oSummary.Width() + kWhatIfGap, oSummary.Top(), kWhatIfWidth,
+                   kWhatIfHeight);
   m_lLineTop = oSummary.Top() - kLineAboveSummary;
   const int nTop = m_pInfo->Top() + m_pInfo->Height();
   m_pViewPort->Place(0, nTop, Width(), std::max(1, m_lLineTop - nTop));

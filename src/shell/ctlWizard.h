@@ -46,6 +46,10 @@ class ctlWizard : public QWidget, public Control {
 
  signals:
   void Changed(bool bDocDirty);
+  /// The auction was calculated, or couldn't be, and is shown as it is.
+  void Shown();
+  /// The button of the what-if window was clicked.
+  void WhatIfClicked();
   /// Finished or cancelled, which is the same: what was entered stays.
   void WizardComplete();
 
@@ -85,6 +89,7 @@ class ctlWizard : public QWidget, public Control {
   ImageButton* m_pBack;
   ImageButton* m_pNext;
   ImageButton* m_pCancel;
+  ImageButton* m_pWhatIf;
   int m_lLineTop = 0;  ///< of the rule above the summary, twips
   int m_lLaidWidth = -1;
   int m_lLaidHeight = -1;

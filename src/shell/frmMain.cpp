@@ -18,6 +18,7 @@
 #include "shell/ScrollFrame.h"
 #include "shell/formPosition.h"
 #include "shell/frmAbout.h"
+#include "shell/whatif/WhatIfButton.h"
 
 namespace quillet {
 namespace {
@@ -66,6 +67,10 @@ frmMain::frmMain()
     SetWindowTitle(m_pCalculator->ConfigMode() ? kDefaultAuctionTitle : m_oDocuments.FileName(),
                    bDocDirty);
   });
+  connect(m_pCalculator, &ctlCalculator::Shown, this, &frmMain::FollowWithWhatIf);
+  connect(m_pCalculator, &ctlCalculator::WhatIfClicked, this, &frmMain::ShowWhatIf);
+  connect(m_pWizard, &ctlWizard::Shown, this, &frmMain::FollowWithWhatIf);
+  connect(m_pWizard, &ctlWizard::WhatIfClicked, this, &frmMain::ShowWhatIf);
   connect(m_pWizard, &ctlWizard::WizardComplete, this,
           [this] { IgnoreFailure([this] { ClickButton(kButtonCalculator); }); });
 }
@@ -86,6 +91,7 @@ void frmMain::MakeShortcuts() {
   }
   fnAdd("Ctrl+-", [this] { m_oZoom.Step(false); });
   fnAdd("Ctrl+0", [this] { m_oZoom.SetPercent(100); });
+  fnAdd(kWhatIfKey, [this] { ShowWhatIf(); });
 }
 
 void frmMain::Show() {
@@ -230,6 +236,29 @@ void frmMain::ShowAboutBox() {
   m_frmAboutBox.reset();
 }
 
+void frmMain::ShowWhatIf() {
+  ctlNumericText::CommitFocused();
+  if (m_frmWhatIf == nullptr) {
+    m_frmWhatIf = std::make_unique<frmWhatIf>(static_cast<AuctionView&>(*this), this);
+  }
+  m_frmWhatIf->Open();
+}
+
+void frmMain::FollowWithWhatIf() {
+  if (m_frmWhatIf != nullptr) {
+    m_frmWhatIf->Follow();
+  }
+}
+
+clsCalculate& frmMain::AuctionOnView() {
+  return m_pWizard->Visible() ? WorkingAuction() : m_pCalculator->Document();
+}
+
+void frmMain::ShowChanged(bool bReact) {
+  SectionSet& oSet = m_pWizard->Visible() ? m_pWizard->Set() : m_pCalculator->Set();
+  oSet.ShowChanged(AuctionOnView(), bReact);
+}
+
 void frmMain::SetWindowTitle(const std::string& sName, bool bDirty) {
   std::string sTitle = sName;
   if (sTitle.ends_with(kAuctionExtension)) {
@@ -243,6 +272,9 @@ void frmMain::SetWindowTitle(const std::string& sName, bool bDirty) {
 void frmMain::Rescale() {
   QApplication::setFont(ThemeFont(kTextPoints));
   RescaleAll(*this);
+  if (m_frmWhatIf != nullptr) {
+    m_frmWhatIf->Rescale();
+  }
 }
 
 /// The window can't be smaller than its view needs, unless the screen is smaller still. Where the
@@ -298,9 +330,16 @@ void frmMain::LeaveBox() {
   }
 }
 
+void frmMain::StorePlaces() const {
+  SaveFormPosition(*this);
+  if (m_frmWhatIf != nullptr && m_frmWhatIf->isVisible()) {
+    SaveFormPosition(*m_frmWhatIf);
+  }
+}
+
 bool frmMain::EndSession(bool bMayAsk) {
   ctlNumericText::CommitFocused();
-  SaveFormPosition(*this);
+  StorePlaces();
   m_bEndAgreed = !bMayAsk || m_oDocuments.PromptBeforeExit();
   Registry().Flush();
   return m_bEndAgreed;
@@ -308,19 +347,22 @@ bool frmMain::EndSession(bool bMayAsk) {
 
 void frmMain::EndUnasked() {
   if (isVisible()) {
-    SaveFormPosition(*this);
+    StorePlaces();
   }
   WriteLog("End app");
 }
 
 void frmMain::closeEvent(QCloseEvent* pEvent) {
   ctlNumericText::CommitFocused();
-  SaveFormPosition(*this);
+  StorePlaces();
   // A session that ends closes the window itself; if it went on after all, the user closes it.
   const bool bAsked = m_bEndAgreed && !pEvent->spontaneous();
   if (!bAsked && !m_oDocuments.PromptBeforeExit()) {
     pEvent->ignore();
     return;
+  }
+  if (m_frmWhatIf != nullptr) {
+    m_frmWhatIf->close();
   }
   WriteLog("End app");
   pEvent->accept();

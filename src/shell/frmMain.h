@@ -11,13 +11,14 @@
 #include "shell/WindowZoom.h"
 #include "shell/ctlCalculator.h"
 #include "shell/ctlWizard.h"
+#include "shell/frmWhatIf.h"
 
 namespace quillet {
 
 class ScrollFrame;
 class frmAbout;
 
-class frmMain : public QWidget, private DocumentView {
+class frmMain : public QWidget, private DocumentView, private AuctionView {
   Q_OBJECT
 
  public:
@@ -62,12 +63,19 @@ class frmMain : public QWidget, private DocumentView {
   void RefreshCalculator() override;
   void ShowWizard() override;
 
+  // AuctionView
+  [[nodiscard]] clsCalculate& AuctionOnView() override;
+  void ShowChanged(bool bReact) override;
+
   void MakeShortcuts();
   void Form_Load();
   void Form_Activate();
   void Form_Resize();
   void ShowConfiguration();
   void ShowAboutBox();
+  void ShowWhatIf();
+  void FollowWithWhatIf();
+  void StorePlaces() const;
   void PushDocument(bool bConfigMode, clsCalculate& oDocument, const std::string& sTitle);
   void LeaveBox();
   void FitFirstStart();
@@ -82,6 +90,7 @@ class frmMain : public QWidget, private DocumentView {
   ScrollFrame* m_pRhs;
   ctlCalculator* m_pCalculator;
   ctlWizard* m_pWizard;
+  std::unique_ptr<frmWhatIf> m_frmWhatIf;   ///< since it was first opened
   std::unique_ptr<frmAbout> m_frmAboutBox;  ///< while it is open
   int m_lMinWidth = 0;                      ///< twips; the smallest size while the wizard shows
   int m_lMinHeight = 0;                     ///< likewise

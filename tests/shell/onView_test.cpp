@@ -1,11 +1,7 @@
 // An auction that comes on view stays what it is, and so does the one that was on view before.
-#include <filesystem>
-#include <fstream>
-
 #include <gtest/gtest.h>
 
 #include "base/clsRegistryAccess.h"
-#include "base/region.h"
 #include "shell/frmMain.h"
 #include "support/ByRegion.h"
 #include "support/Screen.h"
@@ -16,20 +12,14 @@ namespace {
 
 /// The region's samples; an insurance that only a parcel can have; and codes that no option has.
 std::vector<std::string> Auctions() {
-  std::vector<std::string> asAuctions = {
-      "[TYPE]000|True|False|3|0|0|0|True[TYPE][OUTLAY]40|1|0|9|2|False[OUTLAY]"
-      "[FEATURES]0|0[FEATURES][PAYPAL]True|1|4|True[PAYPAL]"
-      "[POSTAGE]True|0.2|0|3|2|True|True|True|1|True[POSTAGE]",
-      "[TYPE]009|False|False|3|8|7|6|False[TYPE][OUTLAY]40|1|0|9|1|False[OUTLAY]"
-      "[FEATURES]0|0[FEATURES][PAYPAL]True|7|0|False[PAYPAL]"
-      "[POSTAGE]True|0.2|7|3|0|False|False|True|1|False[POSTAGE]"};
-  const std::string sFolder = std::string(QUILLET_SOURCE_DIR) + "/data/samples";
-  for (const auto& oEntry : std::filesystem::directory_iterator(sFolder)) {
-    if (oEntry.path().filename().string().starts_with("uk-") == (RegionCode() == 0)) {
-      std::ifstream oFile(oEntry.path());
-      std::getline(oFile, asAuctions.emplace_back());
-    }
-  }
+  std::vector<std::string> asAuctions = SampleTexts();
+  asAuctions.insert(asAuctions.end(),
+                    {"[TYPE]000|True|False|3|0|0|0|True[TYPE][OUTLAY]40|1|0|9|2|False[OUTLAY]"
+                     "[FEATURES]0|0[FEATURES][PAYPAL]True|1|4|True[PAYPAL]"
+                     "[POSTAGE]True|0.2|0|3|2|True|True|True|1|True[POSTAGE]",
+                     "[TYPE]009|False|False|3|8|7|6|False[TYPE][OUTLAY]40|1|0|9|1|False[OUTLAY]"
+                     "[FEATURES]0|0[FEATURES][PAYPAL]True|7|0|False[PAYPAL]"
+                     "[POSTAGE]True|0.2|7|3|0|False|False|True|1|False[POSTAGE]"});
   return asAuctions;
 }
 

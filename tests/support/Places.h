@@ -73,7 +73,8 @@ inline std::string PlacesOf(const std::array<SectionPanel*, 5>& aoSections) {
 /// The places, out of config mode, of newly made sections with the stored lists.
 inline std::string PlacesAfterRestart() {
   QWidget oWindow(nullptr, Qt::ToolTip);  // doesn't take the focus from others
-  const SectionSet oSet(oWindow, [](bool /*bDirty*/) {});
+  const SectionSet oSet(
+      oWindow, [](bool /*bDirty*/) {}, [] {});
   oWindow.show();
   for (SectionPanel* const pSection : oSet.Sections()) {
     pSection->SetShowConfig(false);

@@ -1,0 +1,120 @@
+#include "shell/whatif/AlternativesTable.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+#include "look/font.h"
+#include "look/marks.h"
+#include "look/scale.h"
+
+namespace quillet {
+namespace {
+
+// Twips.
+constexpr int kRow = 332;
+constexpr int kHeadings = 300;
+constexpr int kFigure = 1500;
+constexpr int kInset = 90;  // of the mark of the current row
+
+class Headings : public QHeaderView {
+ public:
+  explicit Headings(QWidget* pParent) : QHeaderView(Qt::Horizontal, pParent) {
+    setSectionsClickable(false);
+    setHighlightSections(false);
+  }
+
+ protected:
+  void paintSection(QPainter* pPainter, const QRect& oPlace, int nSection) const override {
+    pPainter->fillRect(oPlace, InkColour(Ink::Panel));
+    pPainter->setFont(ThemeFont(kTextPoints));
+    pPainter->setPen(InkColour(Ink::FaintText));
+    pPainter->drawText(oPlace.adjusted(0, 0, -Pixels(kInset), 0), Qt::AlignRight | Qt::AlignVCenter,
+                       model()->headerData(nSection, Qt::Horizontal).toString());
+  }
+};
+
+/// Each row one line of words; the current one lies on a light ground while the table has the
+/// focus.
+class RowDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  void paint(QPainter* pPainter, const QStyleOptionViewItem& oOption,
+             const QModelIndex& oIndex) const override {
+    const bool bCurrent = (oOption.state & QStyle::State_Selected) != 0;
+    const bool bHover = (oOption.state & QStyle::State_MouseOver) != 0;
+    if (bCurrent || bHover) {
+      pPainter->fillRect(oOption.rect, InkColour(bCurrent ? Ink::Hairline : Ink::Hover));
+    }
+    if (bCurrent && oOption.widget->hasFocus() && oIndex.column() == 0) {
+      pPainter->fillRect(
+          QRect(oOption.rect.left(), oOption.rect.top(), Pixels(kInset / 3), oOption.rect.height()),
+          InkColour(Ink::Accent));
+    }
+    pPainter->setFont(ThemeFont(kTextPoints));
+    pPainter->setPen(oIndex.data(Qt::ForegroundRole).value<QColor>());
+    const QRect oWords = oOption.rect.adjusted(Pixels(kInset), 0, -Pixels(kInset), 0);
+    pPainter->drawText(oWords, oIndex.data(Qt::TextAlignmentRole).toInt() | int{Qt::TextSingleLine},
+                       pPainter->fontMetrics().elidedText(oIndex.data().toString(), Qt::ElideRight,
+                                                          oWords.width()));
+  }
+};
+
+}  // namespace
+
+AlternativesTable::AlternativesTable(QAbstractItemModel* pModel, QWidget* pParent)
+    : QTableView(pParent) {
+  setModel(pModel);
+  setHorizontalHeader(new Headings(this));
+  setItemDelegate(new RowDelegate(this));
+  verticalHeader()->hide();
+  setFrameShape(QFrame::NoFrame);
+  setShowGrid(false);
+  setCornerButtonEnabled(false);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setSelectionBehavior(QAbstractItemView::SelectRows);
+  setSelectionMode(QAbstractItemView::SingleSelection);
+  setEditTriggers(QAbstractItemView::NoEditTriggers);
+  setTabKeyNavigation(false);
+  setAutoScroll(false);
+  setMouseTracking(true);
+  QPalette oPalette = palette();
+  oPalette.setColor(QPalette::Base, InkColour(Ink::Panel));
+  setPalette(oPalette);
+  Rescale();
+}
+
+int AlternativesTable::HeightOf(int nRows) {
+  return kHeadings + nRows * kRow;
+}
+
+void AlternativesTable::Rescale() {
+  verticalHeader()->setMinimumSectionSize(1);
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  verticalHeader()->setDefaultSectionSize(Pixels(kRow));
+  QHeaderView& oHeadings = *horizontalHeader();
+  oHeadings.setFixedHeight(Pixels(kHeadings));
+  oHeadings.setMinimumSectionSize(1);
+  for (int i = 0; i < oHeadings.count(); ++i) {
+    oHeadings.setSectionResizeMode(i, i == 0 ? QHeaderView::Stretch : QHeaderView::Fixed);
+    oHeadings.resizeSection(i, Pixels(kFigure));
+  }
+}
+
+/// A key held down uses one row, not one after the other.
+void AlternativesTable::keyPressEvent(QKeyEvent* pEvent) {
+  const bool bEnter = pEvent->key() == Qt::Key_Return || pEvent->key() == Qt::Key_Enter;
+  if (bEnter && pEvent->isAutoRepeat()) {
+    return;
+  }
+  if (pEvent->key() == Qt::Key_Escape) {
+    pEvent->ignore();
+    return;
+  }
+  QTableView::keyPressEvent(pEvent);
+}
+
+}  // namespace quillet

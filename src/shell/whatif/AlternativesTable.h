@@ -1,0 +1,22 @@
+// A table of the toolkit, drawn as a part of its card: as high as its rows, without edges.
+#pragma once
+
+#include <QTableView>
+
+namespace quillet {
+
+class AlternativesTable : public QTableView {
+ public:
+  AlternativesTable(QAbstractItemModel* pModel, QWidget* pParent);
+
+  /// The height of so many rows and the headings, in twips.
+  [[nodiscard]] static int HeightOf(int nRows);
+
+  /// Takes fonts and measures anew, after a change of zoom.
+  void Rescale();
+
+ protected:
+  void keyPressEvent(QKeyEvent* pEvent) override;
+};
+
+}  // namespace quillet

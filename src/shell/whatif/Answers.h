@@ -1,0 +1,32 @@
+// All that the what-if window tells of an auction.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "answers/Alternatives.h"
+#include "answers/Breakdown.h"
+#include "answers/Curve.h"
+#include "answers/Goal.h"
+#include "answers/Price.h"
+#include "engine/clsCalculate.h"
+
+namespace quillet {
+
+struct Answers {
+  Single fPrice;  ///< of one item
+  Single fProfit;
+  Breakdown oBreakdown;
+  std::optional<double> fReturn;  ///< percent of the selling cost
+  std::optional<double> fMargin;  ///< percent of what is asked for all items
+  std::optional<Cents> nBreakEven;
+  std::optional<Cents> nGoalPrice;
+  std::vector<CurvePoint> aoCurve;
+  std::vector<Alternative> aoAlternatives;
+};
+
+/// Leaves the auction as it is. What keeps it from being calculated is a Failure.
+[[nodiscard]] Answers AnswersFor(const clsCalculate& oAuction, const Goal& oGoal);
+
+}  // namespace quillet
