@@ -32,7 +32,9 @@ constexpr std::array<Duration, 5> kDurations = {{
 constexpr std::array<const char*, 4> kAuctions = {
     "Standard auction", "Motor auction", "Real estate auction", "Business & industrial auction"};
 constexpr const char* kFixedPrice = "Fixed price";
+constexpr const char* kShop = "Shop inventory";
 
+constexpr std::array<int, 4> kAdvertising = {0, 2, 5, 10};  // percent
 constexpr std::array<int, 4> kPercentsLess = {5, 10, 15, 20};
 
 std::string AuctionName(const clsAuctionType& oType) {
@@ -41,20 +43,25 @@ std::string AuctionName(const clsAuctionType& oType) {
 }
 
 std::string ListingName(const clsAuctionType& oType) {
+  if (oType.m_bShopInventory && oType.m_oSaleFees != nullptr) {
+    return kShop;
+  }
   if (oType.m_bShopInventory) {
     const auto* const pDuration =
         std::find_if(kDurations.begin(), kDurations.end(),
                      [&](const Duration& o) { return o.eShop == oType.m_eShopDuration; });
-    return pDuration != kDurations.end() ? pDuration->sName : "Shop inventory";
+    return pDuration != kDurations.end() ? pDuration->sName : kShop;
   }
   return oType.m_bBuyItNowOnly ? kFixedPrice : AuctionName(oType);
 }
 
 class Collector {
  public:
-  explicit Collector(const clsCalculate& oAuction)
-      : m_oAuction(oAuction), m_oTrial(oAuction), m_sAsItIs(ListingName(oAuction.m_oAuctionType)) {
+  explicit Collector(const clsCalculate& oAuction) : m_oAuction(oAuction), m_oTrial(oAuction) {
     const clsCalculate& oAsItIs = m_oTrial.With(NoChange());
+    m_bToday = oAsItIs.m_oAuctionType.m_oSaleFees != nullptr;
+    m_bPaysSaleFees = oAsItIs.m_oAuctionType.HasPaidSaleFees();
+    m_sAsItIs = ListingName(oAsItIs.m_oAuctionType);
     m_fProfitAsItIs = oAsItIs.m_fProfit;
     std::string sName = m_sAsItIs;
     sName.front() = LowerCase(sName.front());
@@ -65,11 +72,7 @@ class Collector {
     AddListing(AuctionName(m_oAuction.m_oAuctionType), ListAsAuction());
     AddListing(kFixedPrice, ListAtFixedPrice());
     if (m_oAuction.m_oAuctionType.m_eAuctionType == kAuctionStandard) {
-      for (const Duration& oDuration : kDurations) {
-        if (RegionAllowsControl(oDuration.sOption)) {
-          AddListing(oDuration.sName, ListInShop(oDuration.eShop));
-        }
-      }
+      AddShop();
     }
     std::stable_sort(
         m_aoFound.begin(), m_aoFound.end(),
@@ -78,6 +81,9 @@ class Collector {
 
   void AddPayPal() {
     const bool bTaken = m_oAuction.m_oPayPal.m_bEnabled;
+    if (m_bPaysSaleFees && !bTaken) {
+      return;  // a sale on eBay doesn't go through it
+    }
     Add(AlternativeKind::PayPal, bTaken ? "Without PayPal" : "With PayPal", TakePayPal(!bTaken));
   }
 
@@ -86,6 +92,18 @@ class Collector {
       if (m_oAuction.m_oSellingFeatures.HasFeature(oFeature.eBit)) {
         Add(AlternativeKind::Feature, std::string("Without ") + oFeature.sName,
             DropFeature(oFeature.eBit));
+      }
+    }
+  }
+
+  void AddAdvertising() {
+    const double fPresent = m_oAuction.m_oSaleFees.m_oInputs.fAdvertising;
+    for (const int nPercent : kAdvertising) {
+      if (m_bPaysSaleFees && nPercent != fPresent) {
+        Add(AlternativeKind::Advertising,
+            nPercent == 0 ? "Without advertising"
+                          : "With advertising of " + std::to_string(nPercent) + " %",
+            AdvertiseAt(nPercent * 10));
       }
     }
   }
@@ -113,6 +131,18 @@ class Collector {
   std::vector<Alternative> Take() { return std::move(m_aoFound); }
 
  private:
+  void AddShop() {
+    if (m_bToday) {
+      AddListing(kShop, ListInShop(kShop30Days));  // all durations cost the same
+      return;
+    }
+    for (const Duration& oDuration : kDurations) {
+      if (RegionAllowsControl(oDuration.sOption)) {
+        AddListing(oDuration.sName, ListInShop(oDuration.eShop));
+      }
+    }
+  }
+
   void AddListing(const std::string& sName, const Change& oChange) {
     if (sName != m_sAsItIs) {
       Add(AlternativeKind::Listing, sName, oChange);
@@ -137,6 +167,8 @@ class Collector {
   const clsCalculate& m_oAuction;
   Trial m_oTrial;
   std::string m_sAsItIs;
+  bool m_bToday = false;
+  bool m_bPaysSaleFees = false;
   Single m_fProfitAsItIs;
   std::vector<Alternative> m_aoFound;
 };
@@ -148,6 +180,7 @@ std::vector<Alternative> Alternatives(const clsCalculate& oAuction) {
   oCollector.AddListings();
   oCollector.AddPayPal();
   oCollector.AddFeatures();
+  oCollector.AddAdvertising();
   oCollector.AddOffers();
   oCollector.AddUnsold();
   return oCollector.Take();

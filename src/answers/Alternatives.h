@@ -10,7 +10,7 @@
 
 namespace quillet {
 
-enum class AlternativeKind { AsItIs, Listing, PayPal, Feature, Offer, Unsold };
+enum class AlternativeKind { AsItIs, Listing, PayPal, Feature, Advertising, Offer, Unsold };
 
 struct Alternative {
   AlternativeKind eKind = AlternativeKind::AsItIs;
@@ -23,8 +23,8 @@ struct Alternative {
 
 /// What the kind of listing and the region allow: first the ways to list the item, including the
 /// present one, highest profit first; then with or without PayPal, without each chosen feature,
-/// lower offers, and unsold. Leaves out listings that don't offer a chosen feature, and those that
-/// can't be calculated.
+/// with today's fees at other rates of advertising, lower offers, and unsold. Leaves out listings
+/// that don't offer a chosen feature, and those that can't be calculated.
 [[nodiscard]] std::vector<Alternative> Alternatives(const clsCalculate& oAuction);
 
 }  // namespace quillet

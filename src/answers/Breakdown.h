@@ -14,6 +14,13 @@ enum class PartKind {
   Features,
   Reserve,
   FinalValue,
+  // Today's sale fees have these in its place.
+  Category,
+  Order,
+  Regulatory,
+  Advertising,
+  Surcharges,
+  TaxOnFees,
   PayPal,
   Postage,
   Profit,
@@ -35,7 +42,8 @@ struct Breakdown {
 };
 
 /// Reads the totals of the latest DoCalc. The final value fee is what was charged, though an
-/// auction that sells nothing shows none.
+/// auction that sells nothing shows none. Where today's sale fees are paid, their parts are given
+/// instead.
 [[nodiscard]] Breakdown BreakDown(const clsCalculate& oAuction);
 
 /// All that the buyer would pay at a price for one item.

@@ -68,4 +68,12 @@ Change DropFeature(std::int32_t lFeature) {
           lFeature};
 }
 
+Change AdvertiseAt(std::int32_t nTenths) {
+  return {[](clsCalculate& oAuction, std::int32_t nValue) {
+            oAuction.m_oSaleFees.m_oInputs.fAdvertising = nValue / 10.0;
+            oAuction.m_oSaleFees.m_bDirty = true;
+          },
+          nTenths};
+}
+
 }  // namespace quillet

@@ -25,5 +25,6 @@ struct Change {
 [[nodiscard]] Change ListInShop(std::int32_t eShopDuration);
 [[nodiscard]] Change TakePayPal(bool bTake);
 [[nodiscard]] Change DropFeature(std::int32_t lFeature);
+[[nodiscard]] Change AdvertiseAt(std::int32_t nTenths);  ///< of a percent; 0: without
 
 }  // namespace quillet

@@ -12,8 +12,8 @@ namespace {
 
 constexpr int kSamples = 100;  // a fee may also bend between tiers, where it reaches its cap
 
-std::vector<Cents> PricesToDraw(const clsOutlay& oOutlay, Cents nFrom, Cents nLast) {
-  std::vector<Cents> anPrices = PieceStarts(oOutlay, nFrom, nLast);
+std::vector<Cents> PricesToDraw(const clsCalculate& oAuction, Cents nFrom, Cents nLast) {
+  std::vector<Cents> anPrices = PieceStarts(oAuction, nFrom, nLast);
   const std::size_t nPieces = anPrices.size();
   for (std::size_t i = 1; i < nPieces; ++i) {
     anPrices.push_back(anPrices[i] - 1);
@@ -26,9 +26,9 @@ std::vector<Cents> PricesToDraw(const clsOutlay& oOutlay, Cents nFrom, Cents nLa
   return anPrices;
 }
 
-/// More than a cent on every item, and one for rounding.
-bool IsJump(const CurvePoint& oBelow, const CurvePoint& oPoint, std::int32_t lQuantity) {
-  const double fMost = (lQuantity + 1.5) / 100;
+/// More than a cent on every item, and the rounding of both points.
+bool IsJump(const CurvePoint& oBelow, const CurvePoint& oPoint, const clsCalculate& oAuction) {
+  const double fMost = (oAuction.m_oOutlay.m_lQuantity + 0.5) / 100 + 2 * MostRounded(oAuction);
   return oPoint.nPrice - oBelow.nPrice == 1 && std::abs(oPoint.fProfit - oBelow.fProfit) > fMost;
 }
 
@@ -37,10 +37,9 @@ bool IsJump(const CurvePoint& oBelow, const CurvePoint& oPoint, std::int32_t lQu
 std::vector<CurvePoint> Curve(const clsCalculate& oAuction, Cents nFrom, Cents nLast) {
   Trial oTrial(oAuction);
   std::vector<CurvePoint> aoPoints;
-  for (const Cents nPrice : PricesToDraw(oAuction.m_oOutlay, nFrom, nLast)) {
+  for (const Cents nPrice : PricesToDraw(oTrial.AtPrice(nFrom), nFrom, nLast)) {
     CurvePoint oPoint{nPrice, oTrial.AtPrice(nPrice).m_fProfit};
-    oPoint.bJump =
-        !aoPoints.empty() && IsJump(aoPoints.back(), oPoint, oAuction.m_oOutlay.m_lQuantity);
+    oPoint.bJump = !aoPoints.empty() && IsJump(aoPoints.back(), oPoint, oTrial.Latest());
     aoPoints.push_back(oPoint);
   }
   return aoPoints;

@@ -6,7 +6,6 @@
 #include "answers/Breakdown.h"
 #include "answers/Trial.h"
 #include "answers/pieces.h"
-#include "prices/money.h"
 
 namespace quillet {
 namespace {
@@ -17,7 +16,11 @@ constexpr int kMostTries = 20'000;
 
 class Search {
  public:
-  Search(const clsCalculate& oAuction, const Goal& oGoal) : m_oTrial(oAuction), m_oGoal(oGoal) {}
+  Search(const clsCalculate& oAuction, const Goal& oGoal) : m_oTrial(oAuction), m_oGoal(oGoal) {
+    m_oTrial.AtPrice(0);
+  }
+
+  [[nodiscard]] const clsCalculate& Latest() const { return m_oTrial.Latest(); }
 
   /// The lowest price of one piece, `nEnd` excluded; `nEnd` if none does it. The next to try is the
   /// first that would do it if it cost no more than the one just tried: within a piece, costs never
@@ -47,7 +50,7 @@ class Search {
   }
 
   /// For when those steps are small because fees or the goal take nearly all that a higher price
-  /// brings. A piece is straight or bends upwards, apart from rounding to the smallest unit, so it
+  /// brings. A piece is straight or bends upwards, apart from what is rounded in it, so it
   /// is below the line from the price just tried to the one before `nEnd`. Gives the price where
   /// that line comes near the goal; `nEnd` if it doesn't.
   [[nodiscard]] Cents SkipByChord(Cents nPrice, Cents nEnd) {
@@ -55,7 +58,7 @@ class Search {
     m_oTrial.AtPrice(nEnd - 1);
     const double fThere = Surplus();
     const double fRounding =
-        (1.0 / CurrencyUnitsPerMajor() + Noise(PriceOf(nEnd - 1))) * m_oGoal.WeightOfCosts();
+        (2 * MostRounded(m_oTrial.Latest()) + Noise(PriceOf(nEnd - 1))) * m_oGoal.WeightOfCosts();
     if (fHere + fRounding >= 0) {
       return nPrice + 1;
     }
@@ -88,7 +91,7 @@ class Search {
 
 std::optional<Cents> PriceFor(const clsCalculate& oAuction, const Goal& oGoal) {
   Search oSearch(oAuction, oGoal);
-  const std::vector<Cents> anStarts = PieceStarts(oAuction.m_oOutlay, 0, kHighestPrice);
+  const std::vector<Cents> anStarts = PieceStarts(oSearch.Latest(), 0, kHighestPrice);
   for (std::size_t i = 0; i < anStarts.size(); ++i) {
     const Cents nEnd = i + 1 < anStarts.size() ? anStarts[i + 1] : kHighestPrice + 1;
     const Cents nPrice = oSearch.LowestIn(anStarts[i], nEnd);

@@ -4,13 +4,18 @@
 #include <vector>
 
 #include "answers/Price.h"
-#include "engine/clsOutlay.h"
+#include "engine/clsCalculate.h"
 
 namespace quillet {
 
 /// The prices of a range at which a tier of the schedule begins or has just ended, after the
 /// range's first price: in order, each once. Between two of them fees grow evenly, apart from
-/// rounding.
-[[nodiscard]] std::vector<Cents> PieceStarts(const clsOutlay& oOutlay, Cents nFrom, Cents nLast);
+/// rounding. Reads the postage of the latest DoCalc.
+[[nodiscard]] std::vector<Cents> PieceStarts(const clsCalculate& oAuction, Cents nFrom,
+                                             Cents nLast);
+
+/// The most that rounding, other than that of floats, changes the fees by: half a unit of the
+/// currency for PayPal, and with today's fees half a cent for each order and for its tax.
+[[nodiscard]] double MostRounded(const clsCalculate& oAuction);
 
 }  // namespace quillet

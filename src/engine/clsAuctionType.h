@@ -71,6 +71,9 @@ class clsAuctionType {
   /// True unless it is a vehicle or real estate: those pay none of today's sale fees.
   [[nodiscard]] bool PaysSaleFees() const;
 
+  /// The same, by what the latest DoCalc of the auction went by.
+  [[nodiscard]] bool HasPaidSaleFees() const { return m_oSaleFees != nullptr && PaysSaleFees(); }
+
   /// A shop's inventory has a fixed price too.
   [[nodiscard]] bool HasFixedPrice() const { return m_bBuyItNowOnly || m_bShopInventory; }
 

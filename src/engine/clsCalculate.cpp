@@ -37,7 +37,7 @@ void clsCalculate::DoCalc() {
   const Single fIncome =
       m_oOutlay.m_fEstimatedEndPrice * m_oOutlay.m_lQuantity + m_fPostageCost + m_fPostageProfit;
   if (pSaleRates != nullptr) {
-    const Single fSaleFee = m_oSaleFees.DoCalc(*pSaleRates, m_oAuctionType, m_oOutlay, m_oPostage,
+    const Single fSaleFee = m_oSaleFees.DoCalc(*pSaleRates, m_oAuctionType, m_oOutlay, Orders(),
                                                m_fPostageCost + m_fPostageProfit);
     m_fFinalValueFee = m_fFinalValueFee + fSaleFee;
     m_fSellCost = m_fSellCost + fSaleFee;

@@ -1,6 +1,7 @@
 // One auction: its six models, and the totals that they add up to.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "base/Single.h"
@@ -28,6 +29,11 @@ class clsCalculate {
   /// Works out all totals. A Failure of a look-up passes through, and leaves the totals after it as
   /// they were.
   void DoCalc();
+
+  /// How often the buyers pay: once for each item if they are sent individually, or else once.
+  [[nodiscard]] std::int32_t Orders() const {
+    return m_oPostage.m_bSendIndividually ? m_oOutlay.m_lQuantity : 1;
+  }
 
   /// The whole text of the auction (docs/auction-file.md): appended to `sData`, or read from there.
   /// A missing section ends the reading with a message box; what was read before it stays, and the

@@ -14,7 +14,7 @@ __extension__ using Wide = __int128;
 
 constexpr std::int64_t kWhole = 1'000'000;     // a Rate of 100 %
 constexpr Wide kCent = Wide{kWhole} * kWhole;  // a cent of an amount times a rate
-constexpr double kLargestAmount = 1e12;
+constexpr double kLargestAmount = 1e14;
 
 /// In whole cents, as prices are typed and shown.
 std::int64_t CentsOf(double fAmount) {
@@ -136,7 +136,7 @@ Rate ExtrasOf(const SaleRates& oRates, std::int32_t lExtras) {
 }  // namespace
 
 Single clsSaleFees::DoCalc(const SaleRates& oRates, const clsAuctionType& oAuctionType,
-                           const clsOutlay& oOutlay, const clsPostage& oPostage, double fPostage) {
+                           const clsOutlay& oOutlay, std::int32_t lOrders, double fPostage) {
   m_oLastParts = {};
   m_fLastFee = 0;
   const SaleCategory* const pCategory = oRates.Category(m_oInputs.nCategory);
@@ -148,10 +148,9 @@ Single clsSaleFees::DoCalc(const SaleRates& oRates, const clsAuctionType& oAucti
     return 0;
   }
   const bool bShop = oAuctionType.m_bShopInventory;
-  const std::int64_t nOrders = oPostage.m_bSendIndividually ? oOutlay.m_lQuantity : 1;
-  Bill oBill(nOrders);
+  Bill oBill(lOrders);
   if (pCategory == nullptr || !pCategory->IsFree(oOutlay.m_fEstimatedEndPrice)) {
-    m_oLastParts.fOrder = oBill.Add(oSale.OrderFees(oRates.oOrderFee.For(bShop), nOrders));
+    m_oLastParts.fOrder = oBill.Add(oSale.OrderFees(oRates.oOrderFee.For(bShop), lOrders));
   }
   if (pCategory != nullptr) {
     m_oLastParts.fCategory = oBill.Add(oSale.In(*pCategory, bShop));

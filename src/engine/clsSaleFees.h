@@ -7,7 +7,6 @@
 #include "base/Single.h"
 #include "engine/clsAuctionType.h"
 #include "engine/clsOutlay.h"
-#include "engine/clsPostage.h"
 #include "prices/SaleRates.h"
 
 namespace quillet {
@@ -36,12 +35,11 @@ struct SaleParts {
 
 class clsSaleFees {
  public:
-  /// The fees on all that is sold, to which the postage's cost and profit are known. 0 for real
-  /// estate and vehicles, and if nothing is sold or paid. A tier table that the schedule lacks is a
-  /// Failure, and so is an amount beyond a trillion.
+  /// The fees on all that is sold in so many orders, with the cost of the postage and the profit on
+  /// it. 0 for real estate and vehicles, and if nothing is sold or paid. A tier table that the
+  /// schedule lacks is a Failure, and so is an amount beyond a hundred trillion.
   [[nodiscard]] Single DoCalc(const SaleRates& oRates, const clsAuctionType& oAuctionType,
-                              const clsOutlay& oOutlay, const clsPostage& oPostage,
-                              double fPostage);
+                              const clsOutlay& oOutlay, std::int32_t lOrders, double fPostage);
 
   /// What the latest DoCalc gave, in all and by its parts.
   [[nodiscard]] Single LastFee() const { return m_fLastFee; }
@@ -52,7 +50,7 @@ class clsSaleFees {
 
   [[nodiscard]] bool IsFresh() const { return m_oInputs == SaleInputs{}; }
 
-  /// Back to the fresh state, but for m_bDirty and what DoCalc keeps.
+  /// Resets everything but m_bDirty and what DoCalc keeps.
   void Clear() { m_oInputs = {}; }
 
   SaleInputs m_oInputs;

@@ -78,6 +78,21 @@ void MakeUp(clsCalculate& oAuction, std::mt19937& oRandom) {
   oAuction.m_oPostage.m_bMakeProfit = fnUpTo(2) == 0;
   oAuction.m_oPostage.m_fProfit = PriceOf(fnUpTo(300));
   oAuction.m_oPostage.m_bSendIndividually = fnUpTo(1) == 0;
+  oAuction.m_oSaleFees.m_oInputs = {.nCategory = 1 + fnUpTo(17),
+                                    .fBuyerTax = fnUpTo(1) * fnUpTo(10'000) / 1000.0,
+                                    .fAdvertising = fnUpTo(3) == 0 ? fnUpTo(100) / 10.0 : 0,
+                                    .lExtras = fnUpTo(2) == 0 ? fnUpTo(15) : 0,
+                                    .bFreeListing = fnUpTo(1) == 0,
+                                    .bTaxIsCost = fnUpTo(1) == 0};
+}
+
+void ExpectTheLowestOfRandomAuctions(int nAuctions) {
+  std::mt19937 oRandom(20070130);
+  for (int i = 0; i < nAuctions; ++i) {
+    clsCalculate oAuction;
+    MakeUp(oAuction, oRandom);
+    ExpectTheLowest(oAuction);
+  }
 }
 
 TEST(PriceFor, IsTheLowestThatTryingEveryCentFinds) {
@@ -92,12 +107,28 @@ TEST(PriceFor, IsTheLowestThatTryingEveryCentFinds) {
     oAuction.Serialize(sText, false);
     ExpectTheLowest(oAuction);
   }
-  std::mt19937 oRandom(20070130);
-  for (int i = 0; i < 200; ++i) {
-    clsCalculate oAuction;
-    MakeUp(oAuction, oRandom);
-    ExpectTheLowest(oAuction);
-  }
+  ExpectTheLowestOfRandomAuctions(150);
+}
+
+TEST(PriceFor, IsSoWithTodaysFeesToo) {
+  UseShippedSchedule(RegionCode() == 1 ? "UpdateUS_2026-10.dat" : "UpdateUK_2026-10.dat");
+  ExpectTheLowestOfRandomAuctions(100);
+  // Tiers near the prices that are tried, on the whole amount and on its parts, upwards too.
+  UseSchedule(
+      "FeeModel,2\nFinalBase,3\nFeeTax,17.5\nAlwaysPercent,0.35\nExtraPercentCount,1\n"
+      "ExtraPercent1Value,1.65\nInsuranceBandValue1,0\nCurrencyFormat,0.00\n"
+      "CategoryCount,3\nCategory1Tiers,A\nCategory1Whole,True\nCategory1FreeFrom,9.5\n"
+      "Category2Tiers,A\nCategory3Tiers,A\nCategory3Whole,1\nCategory3ByPrice,1\n"
+      "FeaturePicturePackRanges,0\nReserveRanges,0\nBusinessRateBand1Value,1\n"
+      "BusinessRateBand2Value,1\nBusinessRateBand3Value,1\nBusinessRateBand4Value,1\n"
+      "BusinessRateBand5Value,1\nPersonalRatePounds%,3\n" +
+      Tiers("BusinessRatePounds%", {{"1", "1", "2.9"}}) +
+      Tiers("BusinessRatePoundsFixed", {{"1", "1", "0.3"}}) +
+      Tiers("A", {{"0", "5", "20"}, {"5", "12.345", "3"}, {"12.345", "-1", "11.9"}}) +
+      Tiers("OrderFee", {{"0", "10", "0.3"}, {"10", "-1", "1.4"}}) +
+      Tiers("Opening", {{"0", "-1", "0.35"}}) + Tiers("ShopOpening", {{"0", "-1", "0.1"}}));
+  ExpectTheLowestOfRandomAuctions(100);
+  UseSchedule("");
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "answers/Advertising.h"
 #include "answers/Alternatives.h"
 #include "answers/Breakdown.h"
 #include "answers/Curve.h"
@@ -151,6 +152,73 @@ TEST(Alternatives, KeepToTheKindAndTheRegionAndPutTheBestListingFirst) {
       fnNames("[TYPE]000|False|False|3|0|0|0|False[TYPE]", sPlain);
   EXPECT_EQ(asStandard.size(), ByRegion<std::size_t>(11, 13));
   EXPECT_EQ(asStandard.front(), "As it is: standard auction");
+}
+
+/// A fixed price in most categories of the United States, or one of clothes in the United Kingdom.
+class ASaleOfToday : public ::testing::Test {
+ protected:
+  ASaleOfToday() {
+    UseShippedSchedule(ByRegion("UpdateUK_2026-10.dat", "UpdateUS_2026-10.dat"));
+    const std::string sFees = "[FEES]2|6|1.5|2|False|True[FEES]";
+    const std::string sPlain = Replaced(kRest, "[FEATURES]17", "[FEATURES]16");
+    Read(kType + Replaced(sPlain, "[PAYPAL]True", "[PAYPAL]False") + sFees, oAuction);
+  }
+  ~ASaleOfToday() override { UseSchedule(""); }
+
+  clsCalculate oAuction;
+};
+
+TEST_F(ASaleOfToday, HasThePartsOfItsFee) {
+  const Breakdown oBreakdown = BreakDown(oAuction);
+  std::string sParts;
+  double fSum = 0;
+  for (const Part& oPart : oBreakdown.aoParts) {
+    const bool bOfSale = oPart.eKind >= PartKind::Category && oPart.eKind <= PartKind::TaxOnFees;
+    sParts += bOfSale ? oPart.sName + (" " + FormatNumber(oPart.fAmount, "0.00 ")) : "";
+    fSum += oPart.fAmount;
+    EXPECT_NE(oPart.eKind, PartKind::FinalValue);
+  }
+  // 158.45 and VAT on the fees; 158.45 with 6 % is 167.957
+  EXPECT_EQ(sParts, ByRegion("Category 18.86 Order 0.40 Regulatory 0.55 Advertising 2.38 "
+                             "Surcharges 2.85 Tax on fees 5.01 ",
+                             "Category 25.70 Order 0.40 Regulatory 0.00 Advertising 2.52 "
+                             "Surcharges 10.07 Tax on fees 0.00 "));
+  EXPECT_NEAR(fSum, oBreakdown.fWhole, 0.005);
+  EXPECT_NEAR(oBreakdown.fFees + oAuction.m_oOutlay.DoCalc(), oAuction.m_fSellCost, 0.005);
+}
+
+TEST_F(ASaleOfToday, MayBeAdvertisedAndHasOneShopAndNoPayPal) {
+  std::vector<std::string> asNames;
+  for (const Alternative& oFound : Alternatives(oAuction)) {
+    if (oFound.eKind != AlternativeKind::Offer) {
+      asNames.push_back(oFound.sName);
+    }
+    clsCalculate oUsed;
+    Read(TextOf(oAuction), oUsed);
+    oFound.oChange(oUsed);
+    oUsed.DoCalc();
+    EXPECT_EQ(oFound.fProfit, oUsed.m_fProfit) << oFound.sName;
+  }
+  EXPECT_THAT(asNames, ::testing::UnorderedElementsAre(
+                           "As it is: fixed price", "Standard auction", "Shop inventory",
+                           "Without Bold", "Without advertising", "With advertising of 2 %",
+                           "With advertising of 5 %", "With advertising of 10 %", "Unsold"));
+}
+
+TEST_F(ASaleOfToday, TellsTheHighestRateOfAdvertising) {
+  const std::int32_t nTenths = HighestAdvertising(oAuction).value();
+  for (const auto& [nRate, bBreaksEven] : {std::pair{nTenths, true}, {nTenths + 1, false}}) {
+    AdvertiseAt(nRate)(oAuction);
+    oAuction.DoCalc();
+    EXPECT_EQ(oAuction.m_fProfit >= 0, bBreaksEven) << nRate;
+  }
+  oAuction.m_oOutlay.m_fOutlay = 1;
+  oAuction.m_oSaleFees.m_oInputs.lExtras = 0;
+  EXPECT_LT(HighestAdvertising(oAuction).value(), 1000);
+  oAuction.m_oOutlay.m_fOutlay = 200;
+  EXPECT_EQ(HighestAdvertising(oAuction), std::nullopt);
+  UseShippedSchedule();
+  EXPECT_EQ(HighestAdvertising(oAuction), std::nullopt);
 }
 
 }  // namespace

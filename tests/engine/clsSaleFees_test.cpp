@@ -151,7 +151,7 @@ TEST_F(SaleFees, ATableThatIsMissingStopsTheCalculationAndAnUnknownCategoryDoesN
   EXPECT_THROW((void)FeeOf(9), Failure);
   oInputs.nCategory = 2;
   EXPECT_EQ(FeeOf(9), 0);
-  EXPECT_THROW((void)FeeOf(2e12), Failure);
+  EXPECT_THROW((void)FeeOf(2e14), Failure);
 }
 
 TEST_F(SaleFees, ReserveAndKindsOfListingGoByTheSchedule) {
