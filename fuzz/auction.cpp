@@ -10,10 +10,12 @@
 namespace quillet {
 namespace {
 
-void UseShippedSchedule(bool bUs) {
+void UseShippedSchedule(bool bUs, bool bToday) {
+  const std::string sName =
+      std::string(bUs ? "UpdateUS_" : "UpdateUK_") + (bToday ? "2026-10.dat" : "v0101.dat");
   const std::string sFolder = std::string(QUILLET_SOURCE_DIR) + "/data/";
   auto oPrices = std::make_unique<clsPrices>();
-  oPrices->LoadFile(sFolder + (bUs ? "UpdateUS_v0101.dat" : "UpdateUK_v0101.dat"));
+  oPrices->LoadFile(sFolder + sName);
   UsePrices(std::move(oPrices));
 }
 
@@ -35,12 +37,12 @@ Bits FiguresOf(std::string sText) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t nSize) {
   using namespace quillet;
-  static int nScheduleOf = -1;
+  static int nSettingsOf = -1;
   const std::string sText(TakeSettings(pData, nSize));
-  const int nRegion = nSize != 0 ? pData[0] & 1 : 0;
-  if (nRegion != nScheduleOf) {
-    UseShippedSchedule(nRegion == 1);
-    nScheduleOf = nRegion;
+  const int nSettings = nSize != 0 ? pData[0] & 5 : 0;
+  if (nSettings != nSettingsOf) {
+    UseShippedSchedule((nSettings & 1) != 0, (nSettings & 4) != 0);
+    nSettingsOf = nSettings;
   }
   const std::string sSaved = Resaved(sText);
   Require(Resaved(sSaved) == sSaved);

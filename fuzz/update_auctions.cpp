@@ -29,10 +29,10 @@ constexpr std::array<Listing, 7> kListings = {{
 
 void CalculateAll() {
   for (const Listing& oListing : kListings) {
-    std::string sText = std::string("[TYPE]") + oListing.sType + "[TYPE][OUTLAY]10|1|250|60|" +
-                        oListing.sQuantity +
-                        "|True[OUTLAY][FEATURES]2097151|7[FEATURES][PAYPAL]True|2|1|True[PAYPAL]"
-                        "[POSTAGE]True|0|0|1|0|True|True|True|1|True[POSTAGE]";
+    std::string sText =
+        std::string("[TYPE]") + oListing.sType + "[TYPE][OUTLAY]10|1|250|60|" + oListing.sQuantity +
+        "|True[OUTLAY][FEATURES]2097151|7[FEATURES][PAYPAL]True|2|1|True[PAYPAL]"
+        "[POSTAGE]True|0|0|1|0|True|True|True|1|True[POSTAGE][FEES]1|7|2|3|False|True[FEES]";
     clsCalculate oAuction;
     oAuction.Serialize(sText, false);
     oAuction.m_oPostage.m_fWeight = 1.6;

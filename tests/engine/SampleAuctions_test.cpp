@@ -26,23 +26,34 @@ std::string RowOf(const std::string& sName, const clsCalculate& oAuction) {
   return sRow + (fPercent > 0 ? " " + std::to_string(static_cast<int>(fPercent)) : "") + " |\n";
 }
 
-class SampleAuctions : public ::testing::TestWithParam<const char*> {};
-INSTANTIATE_TEST_SUITE_P(DecimalSeparator, SampleAuctions, ::testing::Values(".", ",", "\u066b"));
+struct Page {
+  const char* sName;
+  const char* sFolder;
+  bool bToday;
+};
 
-TEST_P(SampleAuctions, StandAsTheyAreSavedAndGiveTheFiguresOfTheirPageWhereverTheUserIs) {
-  ScopedHost oHost;
-  oHost.sDecimalSeparator = GetParam();
-  UseShippedSchedule();
-  const std::filesystem::path oSource(QUILLET_SOURCE_DIR);
-  const std::string sPage = ReadTestFile((oSource / "docs/sample-auctions.md").string());
-  int nSamples = 0;
-  for (const auto& oEntry : std::filesystem::directory_iterator(oSource / "data/samples")) {
-    const std::string sName = oEntry.path().stem().string();
+constexpr Page kPages[] = {{"docs/sample-auctions.md", "data/samples", false},
+                           {"docs/sample-auctions-today.md", "data/samples/today", true}};
+
+void UseScheduleOf(const std::string& sSample) {
+  UseShippedSchedule(sSample.starts_with("uk-private-") ? "UpdateUK_2026-10-private.dat"
+                     : sSample.starts_with("uk-")       ? "UpdateUK_2026-10.dat"
+                                                        : "UpdateUS_2026-10.dat");
+}
+
+class SampleAuctions : public ::testing::TestWithParam<std::tuple<Page, const char*>> {
+ protected:
+  ~SampleAuctions() override { UseSchedule(""); }
+
+  void ExpectAsSavedAndOnPage(const std::filesystem::path& oFile, const std::string& sPage) {
+    const std::string sName = oFile.stem().string();
     SCOPED_TRACE(sName);
-    ++nSamples;
+    if (std::get<Page>(GetParam()).bToday) {
+      UseScheduleOf(sName);
+    }
     clsCalculate oAuction;
-    std::string sText = ReadTestFile(oEntry.path().string());
-    oHost.sDecimalSeparator = GetParam();
+    std::string sText = ReadTestFile(oFile.string());
+    oHost.sDecimalSeparator = std::get<const char*>(GetParam());
     oAuction.Serialize(sText, false);
     const bool bOfThisRegion = sName.starts_with("uk-") == (RegionCode() == 0);
     if (bOfThisRegion) {
@@ -57,7 +68,27 @@ TEST_P(SampleAuctions, StandAsTheyAreSavedAndGiveTheFiguresOfTheirPageWhereverTh
       EXPECT_NE(sPage.find(sRow), std::string::npos) << "not on the page: " << sRow;
     }
   }
-  EXPECT_GT(nSamples, 16);
+
+  ScopedHost oHost;
+};
+INSTANTIATE_TEST_SUITE_P(DecimalSeparator, SampleAuctions,
+                         ::testing::Combine(::testing::ValuesIn(kPages),
+                                            ::testing::Values(".", ",", "\u066b")));
+
+TEST_P(SampleAuctions, StandAsTheyAreSavedAndGiveTheFiguresOfTheirPageWhereverTheUserIs) {
+  const Page& oPage = std::get<Page>(GetParam());
+  oHost.sDecimalSeparator = std::get<const char*>(GetParam());
+  UseShippedSchedule();
+  const std::filesystem::path oSource(QUILLET_SOURCE_DIR);
+  const std::string sPage = ReadTestFile((oSource / oPage.sName).string());
+  int nSamples = 0;
+  for (const auto& oEntry : std::filesystem::directory_iterator(oSource / oPage.sFolder)) {
+    if (oEntry.is_regular_file()) {
+      ++nSamples;
+      ExpectAsSavedAndOnPage(oEntry.path(), sPage);
+    }
+  }
+  EXPECT_EQ(nSamples, oPage.bToday ? 8 : 17);
 }
 
 // A new auction reads the features of thirty days until its type is set; it must not read others

@@ -36,7 +36,9 @@ std::vector<std::string> Samples() {
   std::vector<std::string> asSamples;
   const std::string sFolder = std::string(QUILLET_SOURCE_DIR) + "/data/samples";
   for (const auto& oEntry : std::filesystem::directory_iterator(sFolder)) {
-    asSamples.push_back(oEntry.path().string());
+    if (oEntry.is_regular_file()) {
+      asSamples.push_back(oEntry.path().string());
+    }
   }
   std::sort(asSamples.begin(), asSamples.end());
   return asSamples;

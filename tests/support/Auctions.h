@@ -30,7 +30,8 @@ inline std::vector<std::string> SampleTexts() {
   std::vector<std::string> asTexts;
   const std::string sFolder = std::string(QUILLET_SOURCE_DIR) + "/data/samples";
   for (const auto& oEntry : std::filesystem::directory_iterator(sFolder)) {
-    if (oEntry.path().filename().string().starts_with("uk-") == (RegionCode() == 0)) {
+    if (oEntry.is_regular_file() &&
+        oEntry.path().filename().string().starts_with("uk-") == (RegionCode() == 0)) {
       std::ifstream oFile(oEntry.path());
       std::getline(oFile, asTexts.emplace_back());
     }
