@@ -1,7 +1,9 @@
 // The lowest price for a goal, against a search that tries every cent.
 #include "answers/PriceFor.h"
 
+#include <algorithm>
 #include <random>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -50,32 +52,20 @@ void MakeUp(clsCalculate& oAuction, std::mt19937& oRandom) {
   const auto fnUpTo = [&](std::uint32_t nLimit) {
     return static_cast<std::int32_t>(oRandom() % (nLimit + 1));
   };
+  const auto fnFlag = [&] { return fnUpTo(1) == 0 ? "|True" : "|False"; };
   const auto fnAmount = [&] { return PriceOf(fnUpTo(fnUpTo(3) == 0 ? 2'500 : 250)); };
-  oAuction.m_oAuctionType.m_eAuctionType = fnUpTo(5) == 0 ? fnUpTo(3) : kAuctionStandard;
-  oAuction.m_oAuctionType.m_eMotorType = fnUpTo(5);
-  oAuction.m_oAuctionType.m_bBuyItNowOnly = fnUpTo(1) == 0;
-  oAuction.m_oAuctionType.m_bShopInventory = fnUpTo(4) == 0;
-  oAuction.m_oAuctionType.m_eShopDuration = fnUpTo(5);
-  oAuction.m_oAuctionType.m_eRealEstateType = fnUpTo(1);
-  oAuction.m_oAuctionType.m_bRealEstateBinding = fnUpTo(1) == 0;
-  oAuction.m_oOutlay.m_fOutlay = fnAmount();
-  oAuction.m_oOutlay.m_fStartingPrice = fnAmount();
-  oAuction.m_oOutlay.m_fReservePrice = fnUpTo(2) == 0 ? fnAmount() : Single(0);
-  oAuction.m_oOutlay.m_lQuantity = 1 + fnUpTo(1) * fnUpTo(6);
-  for (int i = 0; i < 2; ++i) {
-    oAuction.m_oSellingFeatures.AddFeature(1 << (1 + fnUpTo(19)));
-  }
-  oAuction.m_oSellingFeatures.m_lExtraImageCount = fnUpTo(12);
-  oAuction.m_oPayPal.m_bEnabled = fnUpTo(3) != 0;
-  oAuction.m_oPayPal.m_eAccountType = fnUpTo(2);
-  oAuction.m_oPayPal.m_nBusinessBand = 1 + fnUpTo(4);
-  oAuction.m_oPayPal.m_bPayIndividually = fnUpTo(1) == 0;
-  oAuction.m_oPostage.m_bEnabled = fnUpTo(1) == 0;
-  oAuction.m_oPostage.m_ePostageClass = kPostageManual;
-  oAuction.m_oPostage.m_fManualPostage = PriceOf(fnUpTo(2'000));
-  oAuction.m_oPostage.m_bMakeProfit = fnUpTo(2) == 0;
-  oAuction.m_oPostage.m_fProfit = PriceOf(fnUpTo(300));
-  oAuction.m_oPostage.m_bSendIndividually = fnUpTo(1) == 0;
+  std::ostringstream oText;
+  oText << "[TYPE]" << (fnUpTo(5) == 0 ? fnUpTo(3) : 0) << fnFlag() << fnFlag() << '|' << fnUpTo(5)
+        << '|' << fnUpTo(5) << '|' << fnUpTo(1) << "|0" << fnFlag() << "[TYPE][OUTLAY]"
+        << fnAmount() << '|' << fnAmount() << '|' << (fnUpTo(2) == 0 ? fnAmount() : Single(0))
+        << "|0|" << 1 + fnUpTo(1) * fnUpTo(6) << "|False[OUTLAY][FEATURES]"
+        << (2U << fnUpTo(19) | 2U << fnUpTo(19)) << '|' << fnUpTo(12) << "[FEATURES][PAYPAL]"
+        << (fnUpTo(3) == 0 ? "False|" : "True|") << fnUpTo(2) << '|' << 1 + fnUpTo(4) << fnFlag()
+        << "[PAYPAL][POSTAGE]" << (fnUpTo(1) == 0 ? "True" : "False") << "|0|3|"
+        << PriceOf(fnUpTo(2'000)) << "|0|False|False" << fnFlag() << '|' << PriceOf(fnUpTo(300))
+        << fnFlag() << "[POSTAGE]";
+  std::string sText = oText.str();
+  oAuction.Serialize(sText, false);
   oAuction.m_oSaleFees.m_oInputs = {.nCategory = 1 + fnUpTo(17),
                                     .fBuyerTax = fnUpTo(1) * fnUpTo(10'000) / 1000.0,
                                     .fAdvertising = fnUpTo(3) == 0 ? fnUpTo(100) / 10.0 : 0,

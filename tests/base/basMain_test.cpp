@@ -22,21 +22,10 @@ namespace {
 
 using ::testing::ElementsAre;
 
-class StartHost : public ScopedHost {
- public:
-  Answer ShowMessage(const std::string& sPrompt, int nButtons, const std::string& sTitle) override {
-    WriteLog("* message");
-    nTicksAtMessage = nTicks;
-    return ScopedHost::ShowMessage(sPrompt, nButtons, sTitle);
-  }
-
-  std::int64_t nTicksAtMessage = 0;
-};
-
 /// Its movie loads and ends a few pumpings after it is shown.
 class RecordedSplash : public SplashWindow {
  public:
-  explicit RecordedSplash(const TestHost& oHost) : m_oHost(oHost), m_nFirst(oHost.nPumped) {}
+  explicit RecordedSplash(const TestHost& oHost) : m_oHost(oHost) {}
   ~RecordedSplash() override { WriteLog("* splash unloaded"); }
   bool LoadComplete() const override { return m_oHost.nPumped >= m_nFirst + 3; }
   bool MovieComplete() const override { return m_oHost.nPumped >= m_nFirst + 10; }
@@ -44,7 +33,7 @@ class RecordedSplash : public SplashWindow {
 
  private:
   const TestHost& m_oHost;
-  int m_nFirst;
+  int m_nFirst = m_oHost.nPumped;
 };
 
 class RecordedMain : public MainWindow {
@@ -52,9 +41,8 @@ class RecordedMain : public MainWindow {
   explicit RecordedMain(std::function<void()> fnOnShow) : m_fnOnShow(std::move(fnOnShow)) {}
   void Show() override {
     WriteLog(g_frmMain.get() == this ? "* main shown" : "* main shown before it is known");
-    if (const auto fnOnShow = m_fnOnShow) {
-      fnOnShow();  // this object may be gone behind it
-    }
+    const auto fnOnShow = m_fnOnShow;  // this object may be gone behind it
+    fnOnShow();
   }
   void Unload() override { WriteLog("* main unloaded"); }
 
@@ -62,55 +50,14 @@ class RecordedMain : public MainWindow {
   std::function<void()> m_fnOnShow;
 };
 
-class RecordedApplication : public Application {
- public:
-  explicit RecordedApplication(const TestHost& oHost) : m_oHost(oHost) {}
-  std::unique_ptr<SplashWindow> ShowSplash() override {
-    WriteLog("* splash");
-    return std::make_unique<RecordedSplash>(m_oHost);
-  }
-  bool OpenConnection() override {
-    WriteLog("* open connection");
-    return true;
-  }
-  void FetchActions() override {
-    Step("actions");
-    g_lActionFlags = lActions;
-    g_sActionMessage = "The servers rest on Sunday.";
-  }
-  void FetchUpdateFile() override { Step("update file"); }
-  void FetchAboutText() override { Step("about text"); }
-  void CloseConnection() override { Step("close connection"); }
-  std::unique_ptr<MainWindow> CreateMainWindow() override {
-    WriteLog(m_oHost.nPumped >= 10 ? "* create main" : "* create main before the movie's end");
-    fnOnCreate();
-    return std::make_unique<RecordedMain>(fnOnShow);
-  }
-
-  std::int32_t lActions = 0;
-  std::set<std::string> asFailing;  ///< the steps that fail
-  std::function<void()> fnOnCreate = [] {};
-  std::function<void()> fnOnShow;
-
- private:
-  void Step(const std::string& sStep) const {
-    WriteLog("* " + sStep);
-    if (asFailing.contains(sStep)) {
-      throw Failure(FailureNumber::Internet, "cut off");
-    }
-  }
-
-  const TestHost& m_oHost;
-};
-
-class Start : public ::testing::Test {
+/// The host and the application in one; what it is asked for can be made to fail.
+class Start : public ::testing::Test, public ScopedHost, public Application {
  protected:
   Start() {
-    m_oHost.sProgramFolder = m_oFolder.sPath;
-    m_oHost.sCommandLine = "/x debug=True";
-    SetApplication(m_oApplication);
+    sProgramFolder = m_oFolder.sPath;
+    sCommandLine = "/x debug=True";
+    SetApplication(*this);
     SetRegistryHive(m_oHive);
-    g_lActionFlags = 0;
     WriteTestFile(m_oFolder / "QlDebug.log", "\n");  // so that there is no header
   }
   ~Start() override {
@@ -127,14 +74,45 @@ class Start : public ::testing::Test {
     return asComments;
   }
 
+  Answer ShowMessage(const std::string& sPrompt, int nButtons, const std::string& sTitle) override {
+    WriteLog("* message");
+    m_nTicksAtMessage = nTicks;
+    return ScopedHost::ShowMessage(sPrompt, nButtons, sTitle);
+  }
+  std::unique_ptr<SplashWindow> ShowSplash() override {
+    Step("splash");
+    return std::make_unique<RecordedSplash>(*this);
+  }
+  bool OpenConnection() override { return Step("open connection"); }
+  void FetchActions() override {
+    g_lActionFlags = m_lActions;
+    g_sActionMessage = "The servers rest on Sunday.";
+    Step("actions");
+  }
+  void FetchUpdateFile() override { Step("update file"); }
+  void FetchAboutText() override { Step("about text"); }
+  void CloseConnection() override { Step("close connection"); }
+  std::unique_ptr<MainWindow> CreateMainWindow() override {
+    Step(nPumped >= 10 ? "create main" : "create main before the movie's end");
+    m_fnOnCreate();
+    return std::make_unique<RecordedMain>(m_fnOnShow);
+  }
+  bool Step(const std::string& sStep) const {
+    WriteLog("* " + sStep);
+    return m_asFailing.contains(sStep) ? throw Failure(FailureNumber::Internet, "cut off") : true;
+  }
+
   TemporaryFolder m_oFolder;
-  StartHost m_oHost;
   MemoryHive m_oHive;
-  RecordedApplication m_oApplication{m_oHost};
+  std::int32_t m_lActions = 0;
+  std::int64_t m_nTicksAtMessage = 0;
+  std::set<std::string> m_asFailing;
+  std::function<void()> m_fnOnCreate = [] {};
+  std::function<void()> m_fnOnShow = [] {};
 };
 
 TEST_F(Start, RunsItsStepsInOrderAndKeepsTheSplashUntilTheMainWindowStands) {
-  m_oApplication.lActions = kActionMessage;
+  m_lActions = kActionMessage;
   EXPECT_THAT(
       Run(),
       ElementsAre("Started app", "* splash", "Setting system defaults", "DL's", "* open connection",
@@ -144,12 +122,11 @@ TEST_F(Start, RunsItsStepsInOrderAndKeepsTheSplashUntilTheMainWindowStands) {
                   "* main shown", "* splash hidden", "* splash unloaded", "End startup"));
   EXPECT_NE(g_frmMain, nullptr);
   EXPECT_EQ(g_frmSplash, nullptr);
-  EXPECT_THAT(m_oHost.aoShown,
-              ElementsAre(ShownMessage{"The servers rest on Sunday.", 64, "Information"}));
+  EXPECT_THAT(aoShown, ElementsAre(ShownMessage{"The servers rest on Sunday.", 64, "Information"}));
 }
 
 TEST_F(Start, AFailedDownloadGoesStraightToTheClosingOfTheConnection) {
-  m_oApplication.asFailing = {"actions", "close connection"};
+  m_asFailing = {"actions", "close connection"};
   const std::vector<std::string> asRun = Run();
   const auto iActions = std::find(asRun.begin(), asRun.end(), "* actions");
   ASSERT_NE(iActions, asRun.end());
@@ -160,27 +137,27 @@ TEST_F(Start, AFailedDownloadGoesStraightToTheClosingOfTheConnection) {
 TEST_F(Start, AMissingPriceFileIsTriedFiveTimesThenClosesTheProgramAndMainRunsToItsEnd) {
   UsePrices(nullptr);
   std::int64_t nTicksAtFirstLook = 0;
-  m_oApplication.fnOnShow = [&] {
-    nTicksAtFirstLook = m_oHost.nTicks;
+  m_fnOnShow = [&] {
+    nTicksAtFirstLook = nTicks;
     (void)Prices();
   };
   const std::vector<std::string> asRun = Run();
   EXPECT_THAT(std::vector(asRun.end() - 6, asRun.end()),
               ElementsAre("* main shown", "* message", "* splash hidden", "* splash unloaded",
                           "* main unloaded", "End startup"));
-  EXPECT_THAT(m_oHost.aoShown,
+  EXPECT_THAT(aoShown,
               ElementsAre(ShownMessage{"Error opening file " + (m_oFolder / UpdateFileName(true)) +
                                            "\n\n" + EditionName() + " must close.",
                                        16, EditionName()}));
-  EXPECT_EQ(m_oHost.nTicksAtMessage - nTicksAtFirstLook, 5 * 100);
+  EXPECT_EQ(m_nTicksAtMessage - nTicksAtFirstLook, 5 * 100);
   EXPECT_EQ(g_frmMain, nullptr);
   (void)Prices();
-  EXPECT_EQ(m_oHost.aoShown.size(), 1U) << "not tried again";
+  EXPECT_EQ(aoShown.size(), 1U) << "not tried again";
 }
 
 TEST_F(Start, AMainWindowThatAsksForMissingPricesWhileItIsMadeNeverShows) {
   UsePrices(nullptr);
-  m_oApplication.fnOnCreate = [] { (void)Prices(); };
+  m_fnOnCreate = [] { (void)Prices(); };
   const std::vector<std::string> asRun = Run();
   EXPECT_THAT(std::vector(asRun.end() - 5, asRun.end()),
               ElementsAre("* create main", "* message", "* splash hidden", "* splash unloaded",
@@ -192,10 +169,10 @@ TEST_F(Start, AMainWindowThatAsksForMissingPricesWhileItIsMadeNeverShows) {
 TEST_F(Start, ClosingTheProgramDuringTheSplashsWaitIsSafe) {
   ManageSplash(true, false);
   EXPECT_NE(g_frmSplash, nullptr);
-  m_oHost.fnOnPump = [this, n = 0]() mutable {
+  fnOnPump = [this, n = 0]() mutable {
     if (++n == 3) {
-      m_oHost.fnOnPump = nullptr;
-      m_oHost.nPumped += 100;  // the movie's end
+      fnOnPump = nullptr;
+      nPumped += 100;  // the movie's end
       CloseApplication();
     }
   };

@@ -10,7 +10,7 @@ namespace quillet {
 namespace {
 
 // A schedule in which no two prices are alike, so that a mixed-up key shows.
-void UseAuctionTypeSchedule(const std::string& sMore = "") {
+void UseAuctionTypeSchedule() {
   UseSchedule(
       Tiers("Opening", {{"0.01", "0.99", "0.2"}, {"1", "9.99", "0.4"}, {"10", "-1", "0.6"}}) +
       Tiers("Reserve", {{"0.01", "49.99", "1"},
@@ -40,8 +40,7 @@ void UseAuctionTypeSchedule(const std::string& sMore = "") {
       "FinalRealEstateTimeshare,45\nFinalRealEstateOther,46\n"
       "AuctionTypeBusiness,21\nReserveBusiness,22\nFinalBusiness,1\nFinalBusinessMax,250\n"
       "ShopInsertionFee,0.07\nShopInsertionFee90,0.05\nShopInsertionSurcharge90,0.1\n"
-      "ShopInsertionSurcharge60,0.5\n" +
-      sMore);
+      "ShopInsertionSurcharge60,0.5\n");
 }
 
 struct TypeRow {

@@ -1,6 +1,5 @@
 #include "look/movies/AboutMovie.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QSignalSpy>
 #include <QTest>
@@ -10,7 +9,6 @@
 #include "look/ShockwaveFlash.h"
 #include "look/movies/MovieButton.h"
 #include "look/movies/ScrollingText.h"
-#include "look/scale.h"
 #include "platform/Sound.h"
 
 namespace quillet {
@@ -42,12 +40,8 @@ class AboutMovieTest : public ::testing::Test {
     EXPECT_TRUE(QTest::qWaitForWindowActive(&m_oWindow));
     QApplication::processEvents();
   }
-  MovieButton& Button(const char* sName) {
-    return *m_oFlash.findChildren<MovieButton*>(sName).constLast();
-  }
-  ScrollingText& Text() { return *m_oFlash.findChildren<ScrollingText*>().constLast(); }
+  MovieButton& Button(const char* sName) { return *m_oFlash.findChild<MovieButton*>(sName); }
   void Click(const char* sName) { QTest::mouseClick(&Button(sName), Qt::LeftButton); }
-  QString Command(int i) const { return m_oCommands.value(i).value(0).toString(); }
 
   RecordedSound m_oSound;
   QWidget m_oWindow;
@@ -68,31 +62,20 @@ TEST_F(AboutMovieTest, ATuneThatIsChosenOutlivesAMute) {
   Click("mute");
   EXPECT_EQ(m_oSound.sPlaying, "tune 1");
   Click("website");
-  const QStringList asExpected = {"music=3", "mute=true", "music=1", "mute=false", "click"};
+  QStringList asCommands;
+  for (const QVariantList& oCommand : m_oCommands) {
+    asCommands += oCommand[0].toString();
+  }
+  EXPECT_EQ(asCommands.join(' '), "music=3 mute=true music=1 mute=false click");
   m_oWindow.hide();
   EXPECT_EQ(m_oSound.sPlaying, "nothing") << "out of view";
-  ASSERT_EQ(m_oCommands.size(), asExpected.size());
-  for (int i = 0; i < asExpected.size(); ++i) {
-    EXPECT_EQ(Command(i), asExpected.at(i)) << i;
-  }
 }
 
-TEST_F(AboutMovieTest, KeysAndScreenReadersReachEveryButton) {
+TEST_F(AboutMovieTest, TheTextScrollsAndNothingButLineBreaksIsReadInIt) {
   Show("AboutInfo=One<br>Two<BR/><br><b>&amp;&music=0&mute=false");
-  EXPECT_EQ(Text().accessibleName(), "One\nTwo\n\n<b>&amp;") << "nothing but line breaks is read";
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Text().Offset() > 0; }, 10000));
-  Text().setFocus();
-  for (const char* const sName : {"tune0", "tune1", "tune2", "tune3", "mute", "website"}) {
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    ASSERT_EQ(QApplication::focusWidget(), &Button(sName)) << sName;
-    m_oCommands.clear();
-    QTest::keyClick(&Button(sName), Qt::Key_Return);
-    QTest::keyClick(&Button(sName), Qt::Key_Space);
-    EXPECT_EQ(m_oCommands.size(), 2) << sName;
-    QAccessibleInterface* const pAccess = QAccessible::queryAccessibleInterface(&Button(sName));
-    EXPECT_FALSE(pAccess->text(QAccessible::Name).isEmpty()) << sName;
-    EXPECT_TRUE(pAccess->actionInterface() != nullptr) << sName;
-  }
+  const auto& oText = *m_oFlash.findChild<ScrollingText*>();
+  EXPECT_EQ(oText.accessibleName(), "One\nTwo\n\n<b>&amp;");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return oText.Offset() > 0; }, 10000));
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // Asks the platform's Internet client for one thing and tells what came of it:
-//   internet_probe http HOST:PORT PATH
+//   internet_probe http HOST:PORT PATH [PROXY:PORT]
 //   internet_probe ftp HOST:PORT PASSWORD FOLDER FILE LOCAL
 // Prints "got" and the number of bytes, and for FTP the size that was announced; or "lost" and the
 // client's own words, or the server's.
@@ -7,7 +7,6 @@
 #include <cstdint>
 #include <filesystem>
 #include <iostream>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -21,64 +20,45 @@ using namespace std::chrono_literals;
 
 constexpr InternetLimits kShortLimits{1s, 1s, 3s, 100'000};
 
-class Probe {
- public:
-  explicit Probe(const std::string& sServer)
-      : m_sHost(sServer.substr(0, sServer.find(':'))),
-        m_nPort(static_cast<std::uint16_t>(std::stoi(sServer.substr(sServer.find(':') + 1)))) {}
+InternetHandle Connect(Internet& oInternet, const std::string& sServer,
+                       const std::string& sPassword, InternetService eService,
+                       const std::string& sProxy = "") {
+  const std::size_t nColon = sServer.find(':');
+  const InternetHandle hSession = oInternet.Open(
+      "probe", sProxy.empty() ? InternetAccess::Preconfigured : InternetAccess::Proxy, sProxy);
+  return oInternet.Connect(hSession, sServer.substr(0, nColon),
+                           static_cast<std::uint16_t>(std::stoi(sServer.substr(nColon + 1))),
+                           sPassword.empty() ? "" : "quillet", sPassword, eService);
+}
 
-  std::string Http(const std::string& sPath) {
-    const InternetHandle hRequest =
-        m_pInternet->OpenRequest(Connect("", InternetService::Http), sPath);
-    if (!m_pInternet->SendRequest(hRequest)) {
-      return Lost();
-    }
-    std::size_t nBytes = 0;
-    std::vector<char> acPiece(1000);
-    while (m_pInternet->DataAvailable(hRequest) != 0) {
-      nBytes += m_pInternet->Read(hRequest, acPiece.data(), acPiece.size());
-    }
-    return "got " + std::to_string(nBytes);
+/// What was got, or nothing; the words are those after "http".
+std::string Http(Internet& oInternet, const std::vector<std::string>& asWords) {
+  const std::string sProxy = asWords.size() > 2 ? asWords[2] : "";
+  const InternetHandle hRequest = oInternet.OpenRequest(
+      Connect(oInternet, asWords.at(0), "", InternetService::Http, sProxy), asWords.at(1));
+  if (!oInternet.SendRequest(hRequest)) {
+    return "";
   }
+  std::size_t nBytes = 0;
+  std::vector<char> acPiece(1000);
+  while (oInternet.DataAvailable(hRequest) != 0) {
+    nBytes += oInternet.Read(hRequest, acPiece.data(), acPiece.size());
+  }
+  return "got " + std::to_string(nBytes);
+}
 
-  std::string Ftp(const std::string& sPassword, const std::string& sFolder,
-                  const std::string& sFile, const std::string& sLocal) {
-    std::uint64_t nSize = 0;
-    const InternetHandle hFtp = Connect(sPassword, InternetService::Ftp);
-    if (hFtp == 0 || (!sFolder.empty() && !m_pInternet->SetDirectory(hFtp, sFolder)) ||
-        !m_pInternet->FindFile(hFtp, sFile, nSize) ||
-        !m_pInternet->GetFile(hFtp, sFile, sLocal, TransferType::Binary)) {
-      return Lost();
-    }
-    return "got " + std::to_string(std::filesystem::file_size(sLocal)) + " of " +
-           std::to_string(nSize);
+/// Likewise; the words are those after "ftp".
+std::string Ftp(Internet& oInternet, const std::vector<std::string>& asWords) {
+  std::uint64_t nSize = 0;
+  const InternetHandle hFtp =
+      Connect(oInternet, asWords.at(0), asWords.at(1), InternetService::Ftp);
+  if (hFtp == 0 || (!asWords.at(2).empty() && !oInternet.SetDirectory(hFtp, asWords.at(2))) ||
+      !oInternet.FindFile(hFtp, asWords.at(3), nSize) ||
+      !oInternet.GetFile(hFtp, asWords.at(3), asWords.at(4), TransferType::Binary)) {
+    return "";
   }
-
- private:
-  InternetHandle Connect(const std::string& sPassword, InternetService eService) {
-    return m_pInternet->Connect(m_pInternet->Open("probe", InternetAccess::Preconfigured, ""),
-                                m_sHost, m_nPort, sPassword.empty() ? "" : "quillet", sPassword,
-                                eService);
-  }
-
-  std::string Lost() const {
-    return "lost: " + (m_pInternet->IsExtendedError() ? m_pInternet->LastResponse()
-                                                      : m_pInternet->LastErrorText());
-  }
-
-  std::unique_ptr<Internet> m_pInternet = PlatformInternet(kShortLimits);
-  std::string m_sHost;
-  std::uint16_t m_nPort;
-};
-
-std::string Outcome(const std::vector<std::string>& asWords) {
-  if (asWords.size() == 3 && asWords[0] == "http") {
-    return Probe(asWords[1]).Http(asWords[2]);
-  }
-  if (asWords.size() == 6 && asWords[0] == "ftp") {
-    return Probe(asWords[1]).Ftp(asWords[2], asWords[3], asWords[4], asWords[5]);
-  }
-  return "usage: internet_probe http SERVER PATH | ftp SERVER PASSWORD FOLDER FILE LOCAL";
+  return "got " + std::to_string(std::filesystem::file_size(asWords.at(4))) + " of " +
+         std::to_string(nSize);
 }
 
 }  // namespace
@@ -87,6 +67,12 @@ std::string Outcome(const std::vector<std::string>& asWords) {
 int main(int nArguments, char** asArguments) {
   quillet::TerminalHost oHost;
   quillet::SetHost(oHost);
-  const std::vector<std::string> asWords(asArguments + 1, asArguments + nArguments);
-  std::cout << quillet::Outcome(asWords) << std::endl;
+  const std::vector<std::string> asWords(asArguments + 2, asArguments + nArguments);
+  const auto pInternet = quillet::PlatformInternet(quillet::kShortLimits);
+  const std::string sGot = std::string(asArguments[1]) == "ftp"
+                               ? quillet::Ftp(*pInternet, asWords)
+                               : quillet::Http(*pInternet, asWords);
+  const std::string sWords =
+      pInternet->IsExtendedError() ? pInternet->LastResponse() : pInternet->LastErrorText();
+  std::cout << (sGot.empty() ? "lost: " + sWords : sGot) << std::endl;
 }

@@ -193,6 +193,11 @@ class Client(unittest.TestCase):
             ftp.shutdown()
             server.shutdown()
 
+    def test_a_proxy_is_asked_in_place_of_the_server(self):
+        with Server([HEAD % 5, b"hello"]) as proxy:
+            self.expect(("http", "nowhere.invalid:80", "page", proxy.name), "got 5")
+            proxy.shutdown()
+
     def test_nobody_there_is_told_at_once(self):
         for server in (f"127.0.0.1:{free_port()}", ":80"):
             for words in (("http", server, "page"),

@@ -3,10 +3,9 @@
 #include <QApplication>
 #include <QTest>
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <deque>
-#include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <numeric>
 #include <random>
@@ -32,18 +31,6 @@ bool IsReachable(const Control& oControl) {
   return oControl.Widget().isVisible() && oControl.Widget().isEnabled();
 }
 
-std::vector<std::string> Samples() {
-  std::vector<std::string> asSamples;
-  const std::string sFolder = std::string(QUILLET_SOURCE_DIR) + "/data/samples";
-  for (const auto& oEntry : std::filesystem::directory_iterator(sFolder)) {
-    if (oEntry.is_regular_file()) {
-      asSamples.push_back(oEntry.path().string());
-    }
-  }
-  std::sort(asSamples.begin(), asSamples.end());
-  return asSamples;
-}
-
 /// A random walk over the main window: what a user may do, one step after the other, told by a
 /// seed.
 class Walk {
@@ -54,26 +41,19 @@ class Walk {
         m_oHost(oHost),
         m_oFolder(oFolder),
         m_oDice(nSeed),
-        m_aoPanels(AllPanels(oWindow.Calculator().Set())),
-        m_asSamples(Samples()) {}
+        m_aoPanels(AllPanels(oWindow.Calculator().Set())) {}
 
   /// Takes a step.
   const WalkStep& Step() {
-    static const std::vector<Kind> aoKinds = {
-        {40, &Walk::Click},         {4, &Walk::PressKey},     {16, &Walk::Type},
-        {8, &Walk::StepNumber},     {14, &Walk::TickShowBox}, {5, &Walk::ShowConfiguration},
-        {6, &Walk::ShowCalculator}, {2, &Walk::StartNew},     {5, &Walk::Load},
-        {3, &Walk::Save},           {2, &Walk::VisitWizard},
-    };
-    const int nWhole = std::accumulate(aoKinds.begin(), aoKinds.end(), 0,
-                                       [](int n, const Kind& o) { return n + o.nWeight; });
-    auto nDrawn = static_cast<int>(Below(static_cast<std::size_t>(nWhole)));
-    const auto pKind = std::find_if(aoKinds.begin(), aoKinds.end(), [&](const Kind& oKind) {
-      nDrawn -= oKind.nWeight;
-      return nDrawn < 0;
-    });
+    static constexpr std::array aoKinds = {
+        &Walk::Click,          &Walk::PressKey,    &Walk::Type,
+        &Walk::StepNumber,     &Walk::TickShowBox, &Walk::ShowConfiguration,
+        &Walk::ShowCalculator, &Walk::StartNew,    &Walk::Load,
+        &Walk::Save,           &Walk::VisitWizard};
+    // How often each of them comes, in their order.
+    std::discrete_distribution<std::size_t> oWeights({40, 4, 16, 8, 14, 5, 6, 2, 5, 3, 2});
     m_oStep = {};
-    (this->*pKind->pTake)();
+    (this->*aoKinds.at(oWeights(m_oDice)))();
     m_oHost.aeAnswers.clear();
     m_oHost.asChoices.clear();
     m_asTrace.push_back(std::to_string(++m_nStep) + " " + m_oStep.sWhat);
@@ -83,9 +63,6 @@ class Walk {
     return m_oStep;
   }
 
-  /// Every panel of the calculator, those within panels too.
-  [[nodiscard]] const std::vector<SectionPanel*>& Panels() const { return m_aoPanels; }
-
   /// The latest steps, one a line.
   [[nodiscard]] std::string Trace() const {
     return std::accumulate(m_asTrace.begin(), m_asTrace.end(), std::string(),
@@ -93,11 +70,6 @@ class Walk {
   }
 
  private:
-  struct Kind {
-    int nWeight;
-    void (Walk::*pTake)();
-  };
-
   [[nodiscard]] std::size_t Below(std::size_t nEnd) { return m_oDice() % nEnd; }
   template <typename Item>
   [[nodiscard]] const Item& Pick(const std::vector<Item>& aoItems) {
@@ -115,24 +87,22 @@ class Walk {
   }
 
   [[nodiscard]] Control* PickChoice() {
-    const std::vector<Control*> aoChoices = ControlsWhere([](const Control& oControl) {
-      return dynamic_cast<const Choice*>(&oControl) != nullptr && !IsShowCheck(oControl);
+    const std::vector<Control*> aoChoices = ControlsWhere([](const Control& o) {
+      return dynamic_cast<const Choice*>(&o) != nullptr && !IsShowCheck(o);
     });
     return aoChoices.empty() ? nullptr : Pick(aoChoices);
   }
 
   [[nodiscard]] ctlNumericText* PickNumber() {
-    const std::vector<Control*> aoBoxes = ControlsWhere([](const Control& oControl) {
-      return dynamic_cast<const ctlNumericText*>(&oControl) != nullptr;
-    });
+    const std::vector<Control*> aoBoxes = ControlsWhere(
+        [](const Control& o) { return dynamic_cast<const ctlNumericText*>(&o) != nullptr; });
     return aoBoxes.empty() ? nullptr : dynamic_cast<ctlNumericText*>(Pick(aoBoxes));
   }
 
   void Click() {
     if (Control* const pChoice = PickChoice()) {
       m_oStep = {.sWhat = "click " + pChoice->Name(), .bTouches = true};
-      QTest::mouseClick(&pChoice->Widget(), Qt::LeftButton, Qt::NoModifier,
-                        QPoint(4, pChoice->Widget().height() / 2));
+      ClickOn(*pChoice);
     }
   }
 
@@ -191,15 +161,14 @@ class Walk {
     }
     Control* const pBox = Pick(aoBoxes);
     m_oStep.sWhat = "show box " + pBox->Name();
-    QTest::mouseClick(&pBox->Widget(), Qt::LeftButton, Qt::NoModifier,
-                      QPoint(4, pBox->Widget().height() / 2));
+    ClickOn(*pBox);
   }
 
   void ShowConfiguration() {
     m_oStep = {.sWhat = "configuration",
                .bLaysOut = true,
                .bCleans = true,
-               .sDefault = Registry().Get(settings::kDefaultAuction)};
+               .asGiven = {"", Registry().Get(settings::kDefaultAuction)}};
     m_oWindow.ClickButton(kButtonConfig);
   }
 
@@ -221,18 +190,17 @@ class Walk {
     const bool bGoesAhead = !WorkingAuction().IsDirty() || m_oHost.aeAnswers.front() == Answer::No;
     m_oStep.bLaysOut = bGoesAhead;
     m_oWindow.ClickButton(kButtonNew);
-    m_oStep.sWorking = bGoesAhead ? TextOf(DefaultAuction()) : "";
+    m_oStep.asGiven[0] = bGoesAhead ? TextOf(DefaultAuction()) : "";
   }
 
   void Load() {
-    const std::string& sSample = Pick(m_asSamples);
-    m_oStep.sWhat = "load " + std::filesystem::path(sSample).filename().string();
+    const Sample& oSample = Pick(m_aoSamples);
+    m_oStep.sWhat = "load " + oSample.sName;
     if (!m_oWindow.Calculator().ConfigMode()) {  // where it loads nothing
       m_oStep.bCleans = true;
-      std::ifstream oFile(sSample);
-      std::getline(oFile, m_oStep.sWorking);
+      m_oStep.asGiven[0] = oSample.sText;
     }
-    m_oHost.asChoices = {sSample};
+    m_oHost.asChoices = {oSample.sPath};
     m_oWindow.ClickButton(kButtonLoad);
   }
 
@@ -254,7 +222,7 @@ class Walk {
     if (m_oStep.bShowsAgain) {
       clsCalculate oEmpty;
       oEmpty.m_oOutlay.m_lQuantity = 1;
-      m_oStep.sWorking = TextOf(oEmpty);
+      m_oStep.asGiven[0] = TextOf(oEmpty);
     }
   }
 
@@ -263,7 +231,7 @@ class Walk {
   const TemporaryFolder& m_oFolder;
   std::mt19937 m_oDice;
   std::vector<SectionPanel*> m_aoPanels;
-  std::vector<std::string> m_asSamples;
+  std::vector<Sample> m_aoSamples = Samples();
   std::deque<std::string> m_asTrace;
   WalkStep m_oStep;
   int m_nStep = 0;
@@ -277,9 +245,7 @@ unsigned NumberIn(const char* sVariable, unsigned nElse) {
 class CalculatorWalk : public ::testing::TestWithParam<unsigned> {
  protected:
   CalculatorWalk() {
-    ClearAuctions();
     Registry().Set(settings::kStartMode, "1");
-    Registry().Set(settings::kZoom, "100");
     SetLastFolder(m_oFolder.sPath);
   }
 
@@ -293,7 +259,7 @@ TEST_P(CalculatorWalk, KeepsSummaryTextRowsAndDirtyFlagsTogether) {
   std::cout << "seed " << nSeed << std::endl;  // at once, for a walk that ends in a crash
   frmMain oWindow;
   Walk oWalk(oWindow, m_oHost, m_oFolder, nSeed);
-  WalkGuard oGuard(oWindow, oWalk.Panels());
+  WalkGuard oGuard(oWindow);
   oWindow.Show();
   QApplication::processEvents();
   for (unsigned i = 1; i <= nSteps && !HasFailure(); ++i) {

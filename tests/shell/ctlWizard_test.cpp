@@ -9,10 +9,8 @@
 #include "base/clsRegistryAccess.h"
 #include "controls/ImageButton.h"
 #include "controls/ScrollBar.h"
-#include "look/scale.h"
 #include "shell/WizardSteps.h"
 #include "support/Auctions.h"
-#include "support/ByRegion.h"
 #include "support/PanelScript.h"
 
 namespace quillet {
@@ -53,12 +51,6 @@ class Wizard : public ::testing::Test {
   }
   int Page() { return m_pView->Current()->lIndex; }
   SectionPanel& Section() { return *m_pView->Current()->oSection; }
-  std::string Focus() {
-    const QWidget* const pFocus = QApplication::focusWidget();
-    const bool bBox = pFocus != nullptr && pFocus->objectName() == "txtValue";
-    return pFocus == nullptr ? "none"
-                             : (bBox ? pFocus->parentWidget() : pFocus)->objectName().toStdString();
-  }
   void Press(int nKey, Qt::KeyboardModifiers eWith = {}) {
     QWidget* const pFocus = QApplication::focusWidget();
     QTest::keyClick(pFocus != nullptr ? pFocus : m_pView, static_cast<Qt::Key>(nKey), eWith);
@@ -69,31 +61,22 @@ class Wizard : public ::testing::Test {
 };
 
 TEST_F(Wizard, ClicksLeadThroughTheFivePagesInTheirOrder) {
-  const struct {
-    const char* sSection;
-    const char* sFocus;
-  } kPages[] = {{"ctlAuctionTypeSection", "optStandardAution"},
-                {"ctlOutlaySection", "txtOutlay"},
-                {"ctlSellingFeaturesSection", "chkHomePageFeatured"},
-                {"ctlPayPalSection", "chkUsePayPal"},
-                {"ctlPostageSection", "chkUsePostage"}};
   Start();
   QSignalSpy oComplete(m_pView, &ctlWizard::WizardComplete);
-  for (int i = 0; i < 5; ++i) {
-    SCOPED_TRACE(i);
-    const auto& [sSection, sFocus] = kPages[i];
-    for (const auto& oOther : kPages) {
-      const auto& oSection = The<SectionPanel>(oOther.sSection);
-      EXPECT_EQ(oSection.isVisible(), std::string(oOther.sSection) == sSection);
+  std::string sPages;
+  for (int i = 0; i < 5; ++i, Click("imgNext")) {
+    for (const SectionPanel* const pSection : m_pView->Set().Sections()) {
+      sPages += pSection->isVisible() ? std::string(pSection->SectionKey()) + ":" : "";
     }
-    EXPECT_EQ(Focus(), sFocus);
+    sPages += FocusName() + " ";
     EXPECT_TRUE(The<WizardSteps>("Steps").Caption().contains(QString("Step %1 of 5").arg(i + 1)));
     EXPECT_EQ(The<ImageButton>("imgBack").isVisible(), i > 0);
     EXPECT_EQ(The<ImageButton>("imgNext").Caption(), i < 4 ? "&Next" : "&Finish");
-    EXPECT_EQ(The<ImageButton>("imgNext").Picture() == ButtonPicture::Finish, i == 4);
     EXPECT_EQ(oComplete.count(), 0);
-    Click("imgNext");
   }
+  EXPECT_EQ(sPages,
+            "AuctionType:optStandardAution Outlay:txtOutlay SellingFeatures:chkHomePageFeatured "
+            "PayPal:chkUsePayPal Postage:chkUsePostage ");
   EXPECT_EQ(oComplete.count(), 1);
   EXPECT_EQ(Page(), 4) << "the window turns the view off";
   EXPECT_FALSE(WorkingAuction().IsDirty()) << "nothing was entered";
@@ -142,9 +125,9 @@ TEST_F(Wizard, TabGoesFromThePageToTheButtonsAndScrollsToWhereItIs) {
     const QWidget* const pFocus = QApplication::focusWidget();
     if (oView.isAncestorOf(pFocus)) {
       const QRect oPlace(pFocus->mapTo(&oView, QPoint()), pFocus->size());
-      EXPECT_TRUE(oView.rect().contains(oPlace)) << Focus() << " after " << i << " tabs";
+      EXPECT_TRUE(oView.rect().contains(oPlace)) << FocusName() << " after " << i << " tabs";
     } else {
-      sButtons += " " + Focus();
+      sButtons += " " + FocusName();
     }
     Press(Qt::Key_Tab);
   }
@@ -215,19 +198,6 @@ TEST_F(Wizard, ThePageMovesWhenTheThumbIsLetGo) {
   EXPECT_EQ(Section().Top(), 120);
   oBar.setSliderDown(false);
   EXPECT_EQ(Section().Top(), -400);
-}
-
-TEST_F(Wizard, NoCaptionIsClippedAtAnyZoom) {
-  Start();
-  for (const double fZoom : kZooms) {
-    SetZoom(fZoom);
-    RescaleAll(m_oWindow);
-    for (int i = 0; i < 5; ++i, Click("imgNext")) {
-      EXPECT_EQ(ClippedIn(*m_pView), "") << i;
-    }
-    m_pView->SetVisible(false);
-    m_pView->SetVisible(true);
-  }
 }
 
 }  // namespace

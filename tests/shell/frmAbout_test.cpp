@@ -16,7 +16,6 @@
 #include "controls/ComboBox.h"
 #include "controls/Controls.h"
 #include "controls/ImageButton.h"
-#include "engine/clsCalculate.h"
 #include "look/ShockwaveFlash.h"
 #include "look/movies/MovieButton.h"
 #include "look/movies/ScrollingText.h"
@@ -146,9 +145,6 @@ TEST_F(About, TheMovieGetsTheMessageWithItsBreaksAndWhatItSends) {
 
 TEST_F(About, ResetPutsTheSectionsBackAtOnceFromTheMainWindow) {
   Registry().Set(settings::kStartMode, "1");
-  Registry().Set(settings::kZoom, "100");
-  WorkingAuction().SetDirty(false);  // so that the window needn't ask
-  DefaultAuction().SetDirty(false);
   frmMain oMain;
   oMain.Show();
   Control& oPayPal = oMain.Calculator().Set().ctlPayPalSection;
@@ -168,40 +164,6 @@ TEST_F(About, ResetPutsTheSectionsBackAtOnceFromTheMainWindow) {
   EXPECT_TRUE(bOpened);
   EXPECT_EQ(oPayPal.Left(), nLeft);
   EXPECT_EQ(oMain.findChild<frmAbout*>(), nullptr) << "it is gone when it is closed";
-}
-
-TEST_F(About, KeysReachEveryControlAndEachHasANameForScreenReaders) {
-  OpenSettings();
-  Click("txtValue");  // so that Apply is there
-  const QStringList asExpected = {"imgApply",     "imgCancel", "imgAbout",         "imgSettings",
-                                  "cboStartMode", "txtValue",  "imgResetPositions"};
-  QStringList asReached;
-  SnapBox().setFocus();
-  for (int i = 0; i < asExpected.size(); ++i) {
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    QWidget* const pNow = QApplication::focusWidget();
-    asReached += pNow->objectName();
-    EXPECT_FALSE(QAccessible::queryAccessibleInterface(pNow)->text(QAccessible::Name).isEmpty())
-        << pNow->objectName().toStdString();
-    EXPECT_NE(QAccessible::queryAccessibleInterface(pNow)->role(), QAccessible::Client);
-  }
-  asReached.sort();
-  QStringList asSorted = asExpected;
-  asSorted.sort();
-  EXPECT_EQ(asReached, asSorted);
-}
-
-TEST_F(About, NoCaptionIsClippedAtAnyZoom) {
-  for (const double fZoom : kZooms) {
-    SetZoom(fZoom);
-    Open();
-    for (const MovieButton* const pButton : m_oWindow->findChildren<MovieButton*>()) {
-      EXPECT_LE(pButton->WidthOfWords(), pButton->width()) << pButton->text().toStdString();
-    }
-    Click("imgSettings");
-    The<ImageButton>("imgApply").SetVisible(true);
-    EXPECT_EQ(ClippedIn(*m_oWindow), "");
-  }
 }
 
 }  // namespace

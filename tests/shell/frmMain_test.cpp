@@ -14,10 +14,9 @@
 #include "look/ShockwaveFlash.h"
 #include "look/scale.h"
 #include "shell/zoomSteps.h"
-#include "support/Auctions.h"
 #include "support/Log.h"
 #include "support/MemoryHive.h"
-#include "support/PanelScript.h"
+#include "support/Screen.h"
 #include "support/TestHost.h"
 
 namespace quillet {
@@ -26,9 +25,7 @@ namespace {
 class Window : public ::testing::Test {
  protected:
   Window() {
-    ClearAuctions();
     Registry().Set(settings::kStartMode, "1");
-    Registry().Set(settings::kZoom, "100");
     SetLastFolder(m_oFolder.sPath);
   }
 
@@ -73,47 +70,33 @@ TEST_F(Window, AFailedLoadLeavesTheAuctionItsStarAndTheCaption) {
   Start();
   Change();
   const std::string sBefore = TextOf(WorkingAuction());
-  const std::string sOther = "[TYPE]001[TYPE][OUTLAY]9|9|9|9|9|True[OUTLAY]";
-  for (const auto& [sText, sSection] : {std::pair<std::string, std::string>{"a poem", "[OUTLAY]"},
-                                        {"", "[OUTLAY]"},
-                                        {sOther, "[PAYPAL]"}}) {
-    WriteTestFile(m_oFolder / "bad.qlt", sText);
-    m_oHost.asChoices = {m_oFolder / "bad.qlt"};
-    m_oHost.aoShown.clear();
-    m_oWindow->ClickButton(kButtonLoad);
-    EXPECT_THAT(m_oHost.aoShown,
-                testing::ElementsAre(ShownMessage{"Failure loading section " + sSection, 0, ""}));
-    EXPECT_EQ(Caption(), "*");
-    EXPECT_EQ(TextOf(WorkingAuction()), sBefore);
-    m_oHost.aoShown.clear();
-    EXPECT_FALSE(m_oWindow->close()) << "asked about what is still unsaved, and cancelled";
-    EXPECT_EQ(m_oHost.aoShown.size(), 1U);
-  }
+  WriteTestFile(m_oFolder / "bad.qlt", "[TYPE]001[TYPE][OUTLAY]9|9|9|9|9|True[OUTLAY]");
+  m_oHost.asChoices = {m_oFolder / "bad.qlt"};
+  m_oWindow->ClickButton(kButtonLoad);
+  EXPECT_THAT(m_oHost.aoShown,
+              testing::ElementsAre(ShownMessage{"Failure loading section [PAYPAL]", 0, ""}));
+  EXPECT_EQ(Caption(), "*");
+  EXPECT_EQ(TextOf(WorkingAuction()), sBefore);
+  EXPECT_FALSE(m_oWindow->close()) << "asked about what is still unsaved, and cancelled";
+  EXPECT_EQ(m_oHost.aoShown.size(), 2U);
 }
 
 TEST_F(Window, EveryRowIsThereWhetherOrNotTheSettingsCanBeWritten) {
-  const auto fnRows = [this](bool bWritable) {
+  std::array<std::string, 2> asRows;
+  for (const bool bWritable : {true, false}) {
     MemoryHive oHive;
     SetRegistryHive(oHive);
     Registry().Set(settings::kStartMode, "1");
     oHive.bWritable = bWritable;
     Start();
-    std::string sRows;
     for (const int nButton : {kButtonCalculator, kButtonConfig, kButtonCalculator}) {
       m_oWindow->ClickButton(nButton);
-      for (const SectionPanel* const pSection : m_oWindow->Calculator().Set().Sections()) {
-        sRows += NamesWhere(*pSection, [](const Control& oControl) {
-          const auto* const pBox = dynamic_cast<const CheckBox*>(&oControl);
-          return oControl.Visible() || (pBox != nullptr && pBox->Value() != 0);
-        });
-      }
+      asRows.at(bWritable) += PlacesIn(m_oWindow->Calculator().Set());
     }
     m_oWindow.reset();  // ahead of its settings
-    return sRows;
-  };
-  const std::string sRows = fnRows(true);
-  EXPECT_NE(sRows.find("txtOutlay"), std::string::npos);
-  EXPECT_EQ(fnRows(false), sRows);
+  }
+  EXPECT_NE(asRows[0].find("txtOutlay"), std::string::npos);
+  EXPECT_EQ(asRows[0], asRows[1]);
 }
 
 TEST_F(Window, ConfigModeSavesASettingAndLoadsNothing) {
@@ -133,21 +116,17 @@ TEST_F(Window, ConfigModeSavesASettingAndLoadsNothing) {
 
 TEST_F(Window, ACommandByKeyLeavesTheBoxBeforeItBringsAnotherAuction) {
   Start();
-  const auto fnEnterBox = [this] {
-    dynamic_cast<ctlNumericText&>(
-        ControlOf(m_oWindow->Calculator().Set().ctlOutlaySection, "txtOutlay"))
-        .TextBox()
-        ->setFocus();
-  };
-  fnEnterBox();
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_5);
+  auto& oBox = dynamic_cast<ctlNumericText&>(
+      ControlOf(m_oWindow->Calculator().Set().ctlOutlaySection, "txtOutlay"));
+  oBox.TextBox()->setFocus();
+  QTest::keyClick(oBox.TextBox(), Qt::Key_5);
   QTest::keyClick(m_oWindow.get(), Qt::Key_Comma, Qt::ControlModifier);
   EXPECT_FALSE(DefaultAuction().IsDirty());
   EXPECT_EQ(DefaultAuction().m_oOutlay.m_fOutlay, 0);
   EXPECT_EQ(WorkingAuction().m_oOutlay.m_fOutlay, 5) << "what was typed counts";
   QTest::keyClick(m_oWindow.get(), Qt::Key_1, Qt::ControlModifier);
-  fnEnterBox();
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_7);
+  oBox.TextBox()->setFocus();
+  QTest::keyClick(oBox.TextBox(), Qt::Key_7);
   m_oHost.asChoices = {m_oFolder / "typed.qlt"};
   QTest::keyClick(m_oWindow.get(), Qt::Key_S, Qt::ControlModifier);
   QTest::keyClick(m_oWindow.get(), Qt::Key_N, Qt::ControlModifier);
@@ -235,17 +214,15 @@ TEST_F(Window, AnyStartModeButZeroStartsInTheCalculator) {
   EXPECT_EQ(WorkingAuction().m_oOutlay.m_lQuantity, 1) << "the wizard starts with one item";
 }
 
-TEST(ZoomSteps, GoUpAndDownAndStopAtTheEnds) {
+TEST(ZoomSteps, GoUpAndDownAndTheLargestThatFitsIsChosen) {
   for (const auto& [nFrom, bLarger, nTo] :
        {std::tuple(100, true, 110), {300, true, 300}, {75, false, 75}, {103, false, 100}}) {
     EXPECT_EQ(NextZoomStep(nFrom, bLarger), nTo) << nFrom;
   }
-}
-
-TEST(ZoomSteps, TheLargestThatFitsIsChosen) {
-  EXPECT_EQ(LargestFittingZoom(900, 720, 1920, 1040), 125) << "150 % would be 1080 high";
-  EXPECT_EQ(LargestFittingZoom(900, 720, 1920, 1080), 150) << "an exact fit fits";
-  EXPECT_EQ(LargestFittingZoom(900, 720, 640, 480), 75) << "the smallest where none fits";
+  // 150 % would be 1080 high; an exact fit fits; the smallest where none fits.
+  for (const auto& [nHeight, nFitting] : {std::pair(1040, 125), {1080, 150}, {480, 75}}) {
+    EXPECT_EQ(LargestFittingZoom(900, 720, 1920, nHeight), nFitting) << nHeight;
+  }
 }
 
 }  // namespace

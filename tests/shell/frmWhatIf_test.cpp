@@ -10,10 +10,12 @@
 
 #include "base/clsRegistryAccess.h"
 #include "documents/lastFolder.h"
+#include "prices/money.h"
 #include "shell/ButtonColumn.h"
 #include "shell/frmMain.h"
 #include "shell/whatif/FiguresCard.h"
 #include "support/ByRegion.h"
+#include "support/Captions.h"
 #include "support/Prices.h"
 #include "support/Screen.h"
 #include "support/TestHost.h"
@@ -24,9 +26,7 @@ namespace {
 class WhatIf : public ::testing::Test {
  protected:
   WhatIf() {
-    ClearAuctions();
     Registry().Set(settings::kStartMode, "1");
-    Registry().Set(settings::kZoom, "100");
     SetLastFolder(m_oFolder.sPath);
     m_oMain.Show();
     QApplication::processEvents();
@@ -71,6 +71,7 @@ class WhatIf : public ::testing::Test {
   ScopedHost m_oHost;
   TemporaryFolder m_oFolder;
   frmMain m_oMain;
+  Mirror m_oMirror;
   frmWhatIf* m_pWindow = nullptr;
 };
 
@@ -89,13 +90,13 @@ TEST_F(WhatIf, ARowThatIsUsedIsOnScreenAndTakenBackToTheDigit) {
       if (sName.rfind("With", 0) == 0) {
         EXPECT_EQ(FormatMoney(WorkingAuction().m_fProfit), sProfit);
       }
-      EXPECT_EQ(WrongOnScreen(Set(), WorkingAuction()), "");
+      EXPECT_EQ(m_oMirror.Differences(Set(), WorkingAuction()), "");
       EXPECT_EQ(WorkingAuction().IsDirty(), !bAsItIs);
       Undo();
       EXPECT_EQ(TextOf(WorkingAuction()), sBefore);
       EXPECT_EQ(WorkingAuction().m_oOutlay.m_fOutlay, 1234567.875);
       EXPECT_FALSE(WorkingAuction().IsDirty());
-      EXPECT_EQ(WrongOnScreen(Set(), WorkingAuction()), "");
+      EXPECT_EQ(m_oMirror.Differences(Set(), WorkingAuction()), "");
       EXPECT_EQ(Cell(nRow, 0), sName);
     }
   }

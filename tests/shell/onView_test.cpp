@@ -26,9 +26,7 @@ std::vector<std::string> Auctions() {
 class OnView : public ::testing::Test {
  protected:
   OnView() {
-    ClearAuctions();
     Registry().Set(settings::kStartMode, "1");
-    Registry().Set(settings::kZoom, "100");
     m_oWindow.Show();
   }
 
@@ -38,17 +36,18 @@ class OnView : public ::testing::Test {
   }
 
   /// The texts of both documents, which are clean; and one of them is on the screen of a view.
-  static void ExpectShown(clsCalculate& oOnView, const SectionSet& oSet,
-                          const std::string& sWorking, const std::string& sDefault) {
+  void ExpectShown(clsCalculate& oOnView, const SectionSet& oSet, const std::string& sWorking,
+                   const std::string& sDefault) {
     EXPECT_EQ(TextOf(WorkingAuction()), sWorking);
     EXPECT_EQ(TextOf(DefaultAuction()), sDefault);
     EXPECT_FALSE(WorkingAuction().IsDirty());
     EXPECT_FALSE(DefaultAuction().IsDirty());
-    EXPECT_EQ(WrongOnScreen(oSet, oOnView), "");
+    EXPECT_EQ(m_oMirror.Differences(oSet, oOnView), "");
   }
 
   ScopedHost m_oHost;
   frmMain m_oWindow;
+  Mirror m_oMirror;
 };
 
 TEST_F(OnView, EveryAuctionIsWholeWhateverWasOnViewBeforeIt) {
@@ -112,7 +111,7 @@ TEST_F(OnView, AFeatureThatGoesGreyIsChargedNoLonger) {
       for (const char* const sNames : {sClicks, sUndone}) {
         fnClick(sNames);
         EXPECT_EQ(ChosenIn(oSet.ctlSellingFeaturesSection), sLeft) << sNames;
-        EXPECT_EQ(WrongOnScreen(oSet, WorkingAuction()), "") << sNames;
+        EXPECT_EQ(m_oMirror.Differences(oSet, WorkingAuction()), "") << sNames;
       }
     }
   }

@@ -1,13 +1,14 @@
-// The program's two auctions, and the text of any.
+// The program's two auctions, the text of any, and the sample auctions.
 #pragma once
 
+#include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <string>
 #include <vector>
 
 #include "base/region.h"
 #include "engine/clsCalculate.h"
+#include "support/Log.h"
 
 namespace quillet {
 
@@ -25,15 +26,35 @@ inline std::string TextOf(clsCalculate& oAuction) {
   return sText;
 }
 
-/// The texts of the samples that are the region's.
+struct Sample {
+  std::string sPath;
+  std::string sName;
+  std::string sText;
+  bool bOfThisRegion;
+};
+
+/// The sample auctions of a folder, by their names.
+inline std::vector<Sample> Samples(const std::string& sFolder = "data/samples") {
+  std::vector<Sample> aoSamples;
+  for (const auto& oEntry : std::filesystem::directory_iterator(QUILLET_SOURCE_DIR "/" + sFolder)) {
+    if (oEntry.is_regular_file()) {
+      const std::string sPath = oEntry.path().string();
+      const std::string sName = oEntry.path().stem().string();
+      const std::string sText = ReadTestFile(sPath);
+      aoSamples.push_back({sPath, sName, sText.substr(0, sText.find('\n')),
+                           sName.starts_with("uk-") == (RegionCode() == 0)});
+    }
+  }
+  std::ranges::sort(aoSamples, {}, &Sample::sName);
+  return aoSamples;
+}
+
+/// The texts of those that are the region's.
 inline std::vector<std::string> SampleTexts() {
   std::vector<std::string> asTexts;
-  const std::string sFolder = std::string(QUILLET_SOURCE_DIR) + "/data/samples";
-  for (const auto& oEntry : std::filesystem::directory_iterator(sFolder)) {
-    if (oEntry.is_regular_file() &&
-        oEntry.path().filename().string().starts_with("uk-") == (RegionCode() == 0)) {
-      std::ifstream oFile(oEntry.path());
-      std::getline(oFile, asTexts.emplace_back());
+  for (const Sample& oSample : Samples()) {
+    if (oSample.bOfThisRegion) {
+      asTexts.push_back(oSample.sText);
     }
   }
   return asTexts;

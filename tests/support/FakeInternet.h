@@ -1,11 +1,9 @@
-// An Internet that does as it is told. Its calls go to the diagnostic log after a "*", so that one
-// list shows the order of calls and log lines.
+// An Internet that does as it is told.
 #pragma once
 
 #include <map>
 #include <string>
 
-#include "base/basError.h"
 #include "platform/Internet.h"
 #include "support/Log.h"
 
@@ -17,24 +15,23 @@ class FakeInternet : public Internet {
   bool IsConnected() override { return bConnected; }
   InternetHandle Open(const std::string& sAgent, InternetAccess eAccess,
                       const std::string& sProxy) override {
-    WriteLog("* open " + sAgent + " " + std::to_string(static_cast<int>(eAccess)) + " " + sProxy);
+    sAsked +=
+        "open " + sAgent + " " + std::to_string(static_cast<int>(eAccess)) + " " + sProxy + "|";
     Pass().Begin();
     return bOpens ? ++m_hLast : 0;
   }
   InternetHandle Connect(InternetHandle /*hInternet*/, const std::string& sHost,
                          std::uint16_t nPort, const std::string& sUser,
                          const std::string& sPassword, InternetService eService) override {
-    WriteLog("* connect " + std::to_string(static_cast<int>(eService)) + " " + sHost + ":" +
-             std::to_string(nPort) + " " + sUser + " " + sPassword);
+    sAsked += "connect " + std::to_string(static_cast<int>(eService)) + " " + sHost + ":" +
+              std::to_string(nPort) + " " + sUser + " " + sPassword + "|";
     return bConnects ? ++m_hLast : 0;
   }
-  bool SetDirectory(InternetHandle /*hFtp*/, const std::string& sDirectory) override {
-    WriteLog("* directory " + sDirectory);
+  bool SetDirectory(InternetHandle /*hFtp*/, const std::string& /*sDirectory*/) override {
     return bHasDirectory;
   }
   bool GetFile(InternetHandle /*hFtp*/, const std::string& sRemoteFile,
-               const std::string& sLocalFile, TransferType eType) override {
-    WriteLog("* get " + sRemoteFile + " " + std::to_string(static_cast<int>(eType)));
+               const std::string& sLocalFile, TransferType /*eType*/) override {
     WriteTestFile(sLocalFile, asFiles[sRemoteFile]);  // cut off or not
     return bGets;
   }
@@ -73,6 +70,7 @@ class FakeInternet : public Internet {
   bool bHasDirectory = true;
   bool bGets = true;
   bool bExtended = false;
+  std::string sAsked;                            ///< its connections, each followed by "|"
   std::map<std::string, std::string> asFiles;    ///< by name; an empty one is missing
   std::map<std::string, std::string> asAnswers;  ///< by page
   std::string sLastRequest;

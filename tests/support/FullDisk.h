@@ -7,10 +7,12 @@
 
 namespace quillet {
 
-/// Lets no file of this process grow beyond `nBytes`, as on a full disk.
+/// Lets no file of this process grow beyond `nBytes`, as on a full disk; `pAtTheEnd` handles the
+/// signal that a write beyond them raises.
 class FullDisk {
  public:
-  explicit FullDisk(rlim_t nBytes) : m_pBefore(std::signal(SIGXFSZ, SIG_IGN)) {
+  explicit FullDisk(rlim_t nBytes, void (*pAtTheEnd)(int) = SIG_IGN)
+      : m_pBefore(std::signal(SIGXFSZ, pAtTheEnd)) {
     ::getrlimit(RLIMIT_FSIZE, &m_oBefore);
     const rlimit oSmall{nBytes, m_oBefore.rlim_max};
     ::setrlimit(RLIMIT_FSIZE, &oSmall);

@@ -46,7 +46,7 @@ class OnlineTest : public ::testing::Test {
     std::string sLast;
     for (const std::string& sComment : LogComments(m_oFolder)) {
       const std::size_t nStep = sComment.find_first_of("0123456789");
-      const bool bStep = nStep != std::string::npos && nStep > 0 && sComment.front() != '*';
+      const bool bStep = nStep != std::string::npos && nStep > 0;
       const std::string sProcedure = bStep ? sComment.substr(0, nStep) : "";
       sStory += bStep && sProcedure == sLast ? "|" + sComment.substr(nStep) : "\n" + sComment;
       sLast = sProcedure;

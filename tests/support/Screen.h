@@ -1,188 +1,126 @@
-// What the sections and the summary of a view must show for an auction.
+// How a view differs from a newly made one that shows the same auction, and where its rows are.
 #pragma once
 
 #include <QLineEdit>
-#include <algorithm>
+#include <QRegion>
 #include <cmath>
-#include <cstdint>
-#include <sstream>
+#include <memory>
 #include <string>
 #include <vector>
 
-#include "prices/money.h"
 #include "shell/SectionSet.h"
 #include "support/Auctions.h"
 #include "support/PanelScript.h"
 
 namespace quillet {
 
-/// Inputs of a section, separated by blanks; bit n of the mask is whether the nth of them is
-/// chosen.
-struct ChoiceRow {
-  std::string sSection;
-  const char* sInputs;
-  std::int32_t lChosen;
-};
-
-struct NumberRow {
-  std::string sSection;
-  const char* sBox;
-  double fValue;
-};
-
-inline std::vector<ChoiceRow> ChoicesFor(const clsCalculate& o) {
-  const auto fnOne = [](std::int32_t nCode) { return nCode >= 0 && nCode < 31 ? 1 << nCode : 0; };
-  const clsAuctionType& oType = o.m_oAuctionType;
-  const clsPostage& oPost = o.m_oPostage;
-  const bool bSeveral = o.m_oOutlay.m_lQuantity >= 2;
-  std::int32_t lFeatures = 0;
-  for (std::int32_t lBit = 1; lBit <= kFeatureCarAd; lBit *= 2) {
-    lFeatures |= o.m_oSellingFeatures.HasFeature(lBit) ? lBit : 0;
+/// The sections of a view and the panels within them.
+inline std::vector<SectionPanel*> AllPanels(const SectionSet& oSet) {
+  std::vector<SectionPanel*> aoPanels;
+  for (SectionPanel* const pSection : oSet.Sections()) {
+    const auto aoInner = pSection->findChildren<SectionPanel*>();
+    aoPanels.push_back(pSection);
+    aoPanels.insert(aoPanels.end(), aoInner.begin(), aoInner.end());
   }
-  return {
-      {"AuctionType", "optStandardAution optMotorAuction optRealEstateAuction optBusinessAuction",
-       fnOne(oType.m_eAuctionType)},
-      {"AuctionType",
-       "optShop30Days optShop90Days optShopGoodTillCancelled - optShop60Days optShop120Days",
-       fnOne(oType.m_eShopDuration)},
-      {"AuctionType",
-       "optPassenger optMotorcycle optPowersports optPocketBikes optOtherVehicle optParts",
-       fnOne(oType.m_eMotorType)},
-      {"AuctionType", "optRealEstateTimeShare optRealEstateOther", fnOne(oType.m_eRealEstateType)},
-      {"AuctionType",
-       "optRealEstate10DayAuction optRealEstate30DayAuction optRealEstate30DayAd "
-       "optRealEstate90DayAd",
-       fnOne(oType.m_eRealEstateSaleFormat)},
-      {"AuctionType", "chkBuyItNow", oType.m_bBuyItNowOnly},
-      {"AuctionType", "chkShopInventory", oType.m_bShopInventory},
-      {"AuctionType", "chkRealEstateBinding",
-       oType.m_bRealEstateBinding && oType.m_eAuctionType == kAuctionRealEstate},
-      {"SellingFeatures",
-       "chkHomePageFeatured chkFeaturePlus chkHighlight chkItemSubtitle chkBold chkGallery "
-       "chkFeaturedGallery chkBuyItNow chkScheduledListing chkListIn2Categories chkSlideShow "
-       "chkSuperSizedPicures chkPicturePack chkListingDesigner chkFeaturedInSearch "
-       "chk10DayDuration chkGiftServices chkPreviewPicture chkBorder chkListingItem chkCarAd",
-       lFeatures},
-      {"PayPal", "optPersonalAccount optPremierAccount optBusinessAccount",
-       fnOne(o.m_oPayPal.m_eAccountType)},
-      {"PayPal", "- optBand1 optBand2 optBand3 optBand4 optBand5",
-       fnOne(o.m_oPayPal.m_nBusinessBand)},
-      {"PayPal", "chkUsePayPal", o.m_oPayPal.m_bEnabled},
-      {"PayPal", "chkPayInduvidually", o.m_oPayPal.m_bPayIndividually && bSeveral},
-      {"Postage", "optFirstClass optSecondClass optParcelService optManual",
-       fnOne(oPost.m_ePostageClass)},
-      {"Postage", "optBand1 optBand2 optBand3 optBand4", fnOne(oPost.m_eInsuranceBand)},
-      {"Postage", "chkUsePostage", oPost.m_bEnabled},
-      {"Postage", "chkSendInduvidually", oPost.m_bSendIndividually && bSeveral},
-      {"Postage", "chkRecordedDelivery",
-       oPost.m_bRecordedDelivery && oPost.CanHaveRecordedDelivery()},
-      {"Postage", "chkProofOfDelivery", oPost.m_bProofOfDelivery && oPost.CanHaveProofOfDelivery()},
-      {"Postage", "chkProfit", oPost.m_bMakeProfit},
-  };
+  return aoPanels;
 }
 
-inline std::vector<NumberRow> NumbersFor(const clsCalculate& o) {
-  return {{"Outlay", "txtOutlay", o.m_oOutlay.m_fOutlay},
-          {"Outlay", "txtStartingPrice", o.m_oOutlay.m_fStartingPrice},
-          {"Outlay", "txtReservePrice", o.m_oOutlay.m_fReservePrice},
-          {"Outlay", "txtEstimatedEndPrice", o.m_oOutlay.m_fEstimatedEndPrice},
-          {"Outlay", "txtQuantity", double(o.m_oOutlay.m_lQuantity)},
-          {"SellingFeatures", "txtExtraPictures", double(o.m_oSellingFeatures.m_lExtraImageCount)},
-          {"Postage", "txtWeight", o.m_oPostage.m_fWeight},
-          {"Postage", "txtManual", o.m_oPostage.m_fManualPostage},
-          {"Postage", "txtProfit", o.m_oPostage.m_fProfit}};
+/// A numeric box shows its number to the cent or to seven digits, and while it is being typed into
+/// it may show anything. An auction never sets two of the check boxes.
+inline bool ShowsTheSame(const Control& oSeen, const Control& oWanted) {
+  if (const auto* const pBox = dynamic_cast<const ctlNumericText*>(&oSeen)) {
+    const double fWanted = dynamic_cast<const ctlNumericText&>(oWanted).Value();
+    return pBox->TextBox()->hasFocus() ||
+           std::abs(pBox->Value() - fWanted) < 0.006 + std::abs(fWanted) * 1e-6;
+  }
+  const auto* const pChoice = dynamic_cast<const Choice*>(&oSeen);
+  const bool bFed =
+      pChoice != nullptr && oSeen.Name() != "chkCarAd" && oSeen.Name() != "chkOutlayInclTax";
+  return oSeen.Caption() == oWanted.Caption() && oSeen.ForeColor() == oWanted.ForeColor() &&
+         oSeen.Enabled() == oWanted.Enabled() &&
+         (!bFed || pChoice->Value() == dynamic_cast<const Choice&>(oWanted).Value());
 }
 
-/// A box shows a number within its bounds, to the cent or to seven digits; what is being typed
-/// counts when the box is left.
-inline bool ShowsNumber(const ctlNumericText& oBox, double fNumber) {
-  const bool bBounds = oBox.Min() < oBox.Max();
-  const double fWanted =
-      bBounds ? std::clamp<double>(fNumber, oBox.Min(), oBox.Max()) : double{fNumber};
-  return oBox.TextBox()->hasFocus() ||
-         std::abs(oBox.Value() - fWanted) < 0.006 + std::abs(fNumber) * 1e-6;
-}
-
-/// How a section differs from a calculated auction: inputs, and the section's total. A loaded car
-/// ad may go with a box that is enabled but not ticked.
-inline std::string WrongIn(const SectionPanel& oSection, clsCalculate& oAuction) {
-  std::string sWrong;
-  const std::string sKey = oSection.SectionKey();
-  for (const auto& [sSection, sInputs, lChosen] : ChoicesFor(oAuction)) {
-    std::istringstream oInputs(sSection == sKey ? sInputs : "");
-    std::string sInput;
-    for (std::int32_t n = 0; oInputs >> sInput; ++n) {
-      if (sInput != "-") {
-        const auto& oInput = dynamic_cast<const Choice&>(ControlOf(oSection, sInput));
-        const bool bMayBeOff = sInput == "chkCarAd" && oInput.Container()->Enabled();
-        const bool bChosen = (lChosen >> n & 1) != 0 && !(bMayBeOff && oInput.Value() == 0);
-        sWrong += (oInput.Value() != 0) == bChosen ? "" : sInput + " ";
+/// The height of each section of a view and the tops of its visible rows.
+inline std::string PlacesIn(const SectionSet& oSet) {
+  std::string sPlaces;
+  for (const SectionPanel* const pSection : oSet.Sections()) {
+    sPlaces += std::string(pSection->SectionKey()) + " " + std::to_string(pSection->Height());
+    for (const Control* const pControl : AllControls(*pSection)) {
+      if (pControl->Widget().isVisibleTo(pSection) && !IsShowCheck(*pControl)) {
+        sPlaces += " " + pControl->Name() + "@" + std::to_string(pControl->Top());
       }
     }
+    sPlaces += "\n";
   }
-  for (const auto& [sSection, sBox, fNumber] : NumbersFor(oAuction)) {
-    if (sSection == sKey &&
-        !ShowsNumber(dynamic_cast<ctlNumericText&>(ControlOf(oSection, sBox)), fNumber)) {
-      sWrong += std::string(sBox) + " ";
-    }
-  }
-  const std::vector<std::pair<const char*, bool>> abInUse = {
-      {"ctlMotorAuction", oAuction.m_oAuctionType.m_eAuctionType == kAuctionMotor},
-      {"ctlRealEstateOption", oAuction.m_oAuctionType.m_eAuctionType == kAuctionRealEstate},
-      {"ctlShopDuration", oAuction.m_oAuctionType.m_bShopInventory},
-      {"ctlPaypalBusinessType", oAuction.m_oPayPal.m_eAccountType != kAccountPersonal}};
-  for (const auto& [sPanel, bInUse] : abInUse) {
-    if (auto* const pPanel = dynamic_cast<SectionPanel*>(oSection.Find(sPanel))) {
-      sWrong += NamesWhere(*pPanel, [bInUse = bInUse](const Control& o) {
-        return dynamic_cast<const Choice*>(&o) != nullptr && !IsShowCheck(o) && IsGrey(o) == bInUse;
-      });
-    }
-  }
-  const std::vector<std::pair<std::string, Single>> aoTotals = {
-      {"AuctionType", oAuction.m_oAuctionType.DoCalcAuto()},
-      {"SellingFeatures", oAuction.m_oSellingFeatures.LastFee()},
-      {"PayPal", oAuction.m_fPayPayCost},
-      {"Postage", oAuction.m_fPostageCost}};
-  for (const auto& [sSection, fTotal] : aoTotals) {
-    if (sSection == sKey && ControlOf(oSection, "lblTotal").Caption().toStdString() !=
-                                "Section Total " + FormatMoney(fTotal)) {
-      sWrong += "lblTotal of " + sSection + " ";
-    }
-  }
-  return sWrong;
+  return sPlaces;
 }
 
-/// The figures of a summary, one after the other.
-inline std::string FiguresOf(const ctlSellingCosts& oSummary) {
-  std::string sFigures;
-  for (const char* const sLabel :
-       {"lblInsertionFeeTotal", "lblListingCostTotal", "lblReserveFeeTotal",
-        "lblFinalValueFeeTotal", "lblSellingCostTotal", "lblPostageTotal", "lblPayPalTotal",
-        "lblProfitGrandTotal"}) {
-    sFigures += oSummary.The(sLabel).Caption().toStdString() + " ";
+/// Newly made sections, out of config mode, that no user has changed.
+class Mirror {
+ public:
+  Mirror() {
+    m_oWindow.show();
+    for (SectionPanel* const pSection : m_oSet.Sections()) {
+      pSection->SetShowConfig(false);
+    }
   }
-  return sFigures;
-}
 
-/// How a view differs from an auction. The figures come from another auction with the same inputs,
-/// which has never been shown.
-inline std::string WrongOnScreen(const SectionSet& oSet, clsCalculate& oAuction) {
-  clsCalculate oFresh;
-  std::string sText = TextOf(oAuction);
-  oFresh.Serialize(sText, false);
-  oFresh.m_oOutlay = oAuction.m_oOutlay;  // amounts have only seven digits in the text
-  oFresh.m_oPostage = oAuction.m_oPostage;
-  oFresh.DoCalc();
-  std::string sWrong;
-  for (const SectionPanel* const pSection : oSet.Sections()) {
-    sWrong += WrongIn(*pSection, oFresh);
+  std::string Places() const { return PlacesIn(m_oSet); }
+
+  /// The controls of a view that differ from what the mirror shows for a copy of the auction.
+  std::string Differences(const SectionSet& oSeen, clsCalculate& oAuction) {
+    std::string sText = TextOf(oAuction);
+    auto oFresh = std::make_unique<clsCalculate>();
+    oFresh->Serialize(sText, false);
+    oFresh->m_oOutlay = oAuction.m_oOutlay;  // amounts have only seven digits in the text
+    oFresh->m_oPostage = oAuction.m_oPostage;
+    m_oSet.RefreshSums(m_oEmpty, true);  // whatever the view has shown before
+    m_oSet.RefreshSums(*oFresh, true);
+    m_oAuction = std::move(oFresh);  // only now: the set still used the old one
+    std::string sDifferences;
+    const auto aoSeen = AllOf(oSeen);
+    const auto aoWanted = AllOf(m_oSet);
+    for (std::size_t i = 0; i < aoSeen.size(); ++i) {
+      sDifferences += ShowsTheSame(*aoSeen[i], *aoWanted[i]) ? "" : aoSeen[i]->Name() + " ";
+    }
+    return sDifferences.empty() ? "" : sDifferences + "with " + sText;
   }
-  ctlSellingCosts oSummary(nullptr);
-  oSummary.ApplySellingCosts(oFresh);
-  if (FiguresOf(oSet.ctlSellingCostsSection) != FiguresOf(oSummary)) {
-    sWrong += FiguresOf(oSet.ctlSellingCostsSection) + "for " + FiguresOf(oSummary);
+
+ private:
+  static std::vector<Control*> AllOf(const SectionSet& oSet) {
+    std::vector<Control*> aoAll;
+    for (const SectionPanel* const pPanel : AllPanels(oSet)) {
+      aoAll.insert(aoAll.end(), pPanel->Controls().begin(), pPanel->Controls().end());
+    }
+    for (Label* const pLabel : oSet.ctlSellingCostsSection.findChildren<Label*>()) {
+      aoAll.push_back(pLabel);
+    }
+    std::erase_if(aoAll, [](const Control* p) { return IsHeaderImage(*p) || IsShowCheck(*p); });
+    return aoAll;
   }
-  return sWrong.empty() ? "" : sWrong + "with " + sText;
+
+  QWidget m_oWindow{nullptr, Qt::ToolTip};  // doesn't take the focus from others
+  clsCalculate m_oEmpty;
+  std::unique_ptr<clsCalculate> m_oAuction;
+  SectionSet m_oSet{m_oWindow, [](bool /*bDirty*/) {}, [] {}};
+};
+
+/// The visible controls of a panel that overlap one before them by more than a pixel.
+template <typename Controls>
+std::string OverlapsIn(const Control& oPanel, const Controls& aoControls) {
+  constexpr int kHalfPixel = 8;
+  std::string sOverlaps;
+  QRegion oTaken;
+  for (const Control* const p : aoControls) {
+    if (p->Container() == &oPanel && p->Visible() && !IsHeaderImage(*p) && !IsShowCheck(*p)) {
+      const QRect oPlace = QRect(p->Left(), p->Top(), p->Width(), p->Height())
+                               .adjusted(kHalfPixel, kHalfPixel, -kHalfPixel, -kHalfPixel);
+      sOverlaps += oTaken.intersects(oPlace) ? p->Name() + " " : "";
+      oTaken += oPlace;
+    }
+  }
+  return sOverlaps;
 }
 
 }  // namespace quillet

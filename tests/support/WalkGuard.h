@@ -3,24 +3,16 @@
 
 #include <QApplication>
 #include <QLineEdit>
-#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstdlib>
 #include <iostream>
 #include <limits>
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 
-#include "base/regionControls.h"
-#include "sections/VisibleList.h"
-#include "sections/controlHelpers.h"
 #include "shell/frmMain.h"
-#include "support/Auctions.h"
-#include "support/PanelScript.h"
-#include "support/Places.h"
 #include "support/Screen.h"
 
 namespace quillet {
@@ -32,9 +24,8 @@ struct WalkStep {
   bool bLaysOut = false;     ///< packs the rows again
   bool bShowsAgain = false;  ///< hides the calculator and shows it again
   bool bCleans = false;      ///< loads or saves the auction then on view
-  /// The texts that the two auctions are given; empty where there is none.
-  std::string sWorking{};
-  std::string sDefault{};
+  /// The texts that the working and the default auction are given; empty where there is none.
+  std::array<std::string, 2> asGiven{};
 };
 
 inline constexpr int kMostRaised = 120;  // by a step; walks have seen 54
@@ -52,34 +43,28 @@ inline std::string AsShown(std::string sText) {
 
 class WalkGuard {
  public:
-  WalkGuard(frmMain& oWindow, const std::vector<SectionPanel*>& aoPanels)
-      : m_oWindow(oWindow),
-        m_aoPanels(aoPanels),
-        m_aoDocuments{Document{&WorkingAuction()}, Document{&DefaultAuction()}} {
+  explicit WalkGuard(frmMain& oWindow) : m_oWindow(oWindow) {
     const auto fnCount = [this] {
       if (++m_nRaised > kRunaway) {
         std::cerr << "The clicks never end." << std::endl;
         std::abort();
       }
     };
-    for (const SectionPanel* const pPanel : aoPanels) {
+    for (const SectionPanel* const pPanel : oWindow.Calculator().findChildren<SectionPanel*>()) {
       QObject::connect(pPanel, &SectionPanel::Changed, &m_oListener, fnCount);
-      for (Control* const pControl : pPanel->Controls()) {
-        if (auto* const pButton = dynamic_cast<QAbstractButton*>(pControl)) {
-          QObject::connect(pButton, &QAbstractButton::toggled, &m_oListener, fnCount);
-        }
-      }
+    }
+    for (const auto* const pButton : oWindow.Calculator().findChildren<QAbstractButton*>()) {
+      QObject::connect(pButton, &QAbstractButton::toggled, &m_oListener, fnCount);
     }
     QObject::connect(&oWindow.Calculator(), &ctlCalculator::Changed, &m_oListener, fnCount);
   }
-
   WalkGuard(const WalkGuard&) = delete;
   WalkGuard& operator=(const WalkGuard&) = delete;
 
   /// Before a step: records the state.
   void Note() {
     m_nRaised = 0;
-    m_pOnViewBefore = &OnView();
+    m_nOnViewBefore = OnView();
     m_bInBox = qobject_cast<QLineEdit*>(QApplication::focusWidget()) != nullptr;
     for (Document& oDocument : m_aoDocuments) {
       oDocument.bDirty = oDocument.pAuction->IsDirty();
@@ -90,11 +75,17 @@ class WalkGuard {
   /// After it: fails the test for each broken rule. Slow checks run only with `bAll`.
   void Check(const WalkStep& oStep, bool bAll) {
     EXPECT_LE(m_nRaised, kMostRaised) << "clicks and changes that one step has raised";
-    CheckDocument(m_aoDocuments[0], oStep, oStep.sWorking);
-    CheckDocument(m_aoDocuments[1], oStep, oStep.sDefault);
+    for (std::size_t nDocument : {0U, 1U}) {
+      CheckDocument(nDocument, oStep);
+    }
     CheckView();
     if (bAll || oStep.bLaysOut) {
-      CheckPlaces(oStep);
+      for (const SectionPanel* const pPanel : AllPanels(Set())) {
+        EXPECT_EQ(OverlapsIn(*pPanel, pPanel->Controls()), "") << pPanel->SectionKey();
+      }
+    }
+    if (oStep.bShowsAgain) {
+      EXPECT_EQ(PlacesIn(Set()), Mirror().Places());
     }
   }
 
@@ -106,13 +97,16 @@ class WalkGuard {
     std::string sText{};
   };
 
-  Document& OnView() { return m_aoDocuments[m_oWindow.Calculator().ConfigMode() ? 1 : 0]; }
+  const SectionSet& Set() { return m_oWindow.Calculator().Set(); }
+  std::size_t OnView() { return m_oWindow.Calculator().ConfigMode() ? 1 : 0; }
 
   /// Only the user changes an auction or marks it dirty: by an input, or by leaving a box.
-  void CheckDocument(const Document& oBefore, const WalkStep& oStep, const std::string& sGiven) {
+  void CheckDocument(std::size_t nDocument, const WalkStep& oStep) {
+    const Document& oBefore = m_aoDocuments.at(nDocument);
+    const std::string& sGiven = oStep.asGiven.at(nDocument);
     SCOPED_TRACE(oBefore.pAuction->m_sName);
-    const bool bTouched = &oBefore == m_pOnViewBefore && (oStep.bTouches || m_bInBox);
-    const bool bCleaned = oStep.bCleans && &oBefore == &OnView();
+    const bool bTouched = nDocument == m_nOnViewBefore && (oStep.bTouches || m_bInBox);
+    const bool bCleaned = oStep.bCleans && nDocument == OnView();
     const std::string sNow = AsShown(TextOf(*oBefore.pAuction));
     const bool bDirty = oBefore.pAuction->IsDirty();
     if (!bTouched || !sGiven.empty()) {
@@ -127,48 +121,27 @@ class WalkGuard {
 
   /// The view shows its auction, and no star if it is clean.
   void CheckView() {
-    clsCalculate& oAuction = *OnView().pAuction;
+    clsCalculate& oAuction = *m_aoDocuments.at(OnView()).pAuction;
     EXPECT_FALSE(m_oWindow.windowTitle().endsWith('*') && !oAuction.IsDirty());
     if (!HoldsTooMuch()) {
-      EXPECT_EQ(WrongOnScreen(m_oWindow.Calculator().Set(), oAuction), "");
+      EXPECT_EQ(m_oMirror.Differences(Set(), oAuction), "");
     }
   }
 
   /// A number beyond 32 bits silently ends its section's work halfway, without marking it dirty.
-  bool HoldsTooMuch() const {
-    const SectionSet& oSet = m_oWindow.Calculator().Set();
+  bool HoldsTooMuch() {
     const auto fnTooMuch = [](const Control& oBox) {
       return dynamic_cast<const ctlNumericText&>(oBox).Value() >
              double{std::numeric_limits<std::int32_t>::max()};
     };
-    return fnTooMuch(ControlOf(oSet.ctlOutlaySection, "txtQuantity")) ||
-           fnTooMuch(ControlOf(oSet.ctlSellingFeaturesSection, "txtExtraPictures"));
-  }
-
-  /// The visible rows are those that the mode, the list and the region ask for, and none overlap. A
-  /// calculator that is shown again looks as it does after a restart.
-  void CheckPlaces(const WalkStep& oStep) {
-    for (const SectionPanel* const pPanel : m_aoPanels) {
-      SCOPED_TRACE(pPanel->SectionKey());
-      const clsTokeniser oList = LoadVisibleList(pPanel->SectionKey());
-      for (const Control* const pRow : RowsIn(*pPanel)) {
-        EXPECT_TRUE(!oStep.bLaysOut ||
-                    pRow->Visible() ==
-                        (RegionAllowsControl(pRow->Name()) &&
-                         (pPanel->ShowConfig() || NameInVisibleList(pRow->Name(), oList))))
-            << pRow->Name();
-      }
-      EXPECT_EQ(OverlapsIn(*pPanel), "");
-    }
-    if (oStep.bShowsAgain) {
-      EXPECT_EQ(PlacesOf(m_oWindow.Calculator().Set().Sections()), PlacesAfterRestart());
-    }
+    return fnTooMuch(ControlOf(Set().ctlOutlaySection, "txtQuantity")) ||
+           fnTooMuch(ControlOf(Set().ctlSellingFeaturesSection, "txtExtraPictures"));
   }
 
   frmMain& m_oWindow;
-  const std::vector<SectionPanel*>& m_aoPanels;
-  std::array<Document, 2> m_aoDocuments;
-  const Document* m_pOnViewBefore = nullptr;
+  Mirror m_oMirror;
+  std::array<Document, 2> m_aoDocuments{Document{&WorkingAuction()}, Document{&DefaultAuction()}};
+  std::size_t m_nOnViewBefore = 0;
   bool m_bInBox = false;  ///< a numeric box had the focus
   int m_nRaised = 0;      ///< clicks and changes raised by the step
   QObject m_oListener;

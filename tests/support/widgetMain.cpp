@@ -8,6 +8,7 @@
 #include "base/clsRegistryAccess.h"
 #include "look/Theme.h"
 #include "look/scale.h"
+#include "support/Auctions.h"
 #include "support/MemoryHive.h"
 #include "support/Prices.h"
 #include "support/TestHost.h"
@@ -23,13 +24,15 @@ void FailOnWarning(QtMsgType eType, const QMessageLogContext& /*oContext*/, cons
   }
 }
 
-/// Each test starts with empty settings and the shipped schedule.
+/// Each test starts with the shipped schedule, fresh auctions, and no setting but the zoom.
 class FreshStart : public ::testing::EmptyTestEventListener {
   void OnTestStart(const ::testing::TestInfo& /*oTest*/) override {
     quillet::SetZoom(1.0);
     m_oHive.Clear();
     quillet::SetRegistryHive(m_oHive);
     quillet::UseShippedSchedule();
+    quillet::Registry().Set(quillet::settings::kZoom, "100");
+    quillet::ClearAuctions();
   }
 
   quillet::MemoryHive m_oHive;

@@ -6,37 +6,13 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include "support/FilesTest.h"
 #include "support/FullDisk.h"
-#include "support/Log.h"
-#include "support/TestHost.h"
 
 namespace quillet {
 namespace {
 
 namespace fs = std::filesystem;
-
-class Files : public ::testing::Test {
- protected:
-  std::size_t FilesInFolder() const {
-    const auto oList = fs::directory_iterator(m_oFolder.sPath);
-    return static_cast<std::size_t>(std::distance(begin(oList), end(oList)));
-  }
-
-  TemporaryFolder m_oFolder;
-  std::string m_sFile = m_oFolder / "a.qlt";
-};
-
-TEST_F(Files, ReadsUpToTheLimitAndLeavesTheTextAloneOtherwise) {
-  WriteTestFile(m_sFile, std::string("a\0b\r\n", 5));
-  std::string sContent = "before";
-  EXPECT_EQ(ReadWholeFile(m_sFile, 4, sContent), std::errc::file_too_large);
-  EXPECT_EQ(ReadWholeFile(m_oFolder.sPath, 99, sContent), std::errc::is_a_directory);
-  EXPECT_EQ(ReadWholeFile(m_oFolder / "none", 99, sContent), std::errc::no_such_file_or_directory);
-  EXPECT_EQ(ReadWholeFile("/dev/zero", 99, sContent), std::errc::file_too_large);
-  EXPECT_EQ(sContent, "before");
-  EXPECT_FALSE(ReadWholeFile(m_sFile, 5, sContent));
-  EXPECT_EQ(sContent, std::string("a\0b\r\n", 5));
-}
 
 TEST_F(Files, ReplacingKeepsTheLinkTheOwnerAndTheMode) {
   const mode_t nMaskBefore = ::umask(022);
@@ -58,7 +34,7 @@ TEST_F(Files, ReplacingKeepsTheLinkTheOwnerAndTheMode) {
   EXPECT_EQ(ReadTestFile(m_sFile), "new");
   EXPECT_FALSE(ReplaceFile(m_oFolder / "fresh", "x"));
   EXPECT_EQ(fs::status(m_oFolder / "fresh").permissions(), fs::perms(0644));
-  EXPECT_EQ(FilesInFolder(), 3U);  // and no temporary file
+  EXPECT_EQ(FilesInFolder(), 3);  // and no temporary file
   ::umask(nMaskBefore);
 }
 
@@ -78,17 +54,21 @@ TEST_F(Files, TheLongestNamesCanBeSavedAndWhatAKilledSaveLeftGoesAfterADay) {
   EXPECT_FALSE(ReplaceFile(sLong, "newer"));
   EXPECT_EQ(ReadTestFile(sLong), "newer");
   EXPECT_FALSE(FileExists(m_oFolder / aoLeft[0].first));
-  EXPECT_EQ(FilesInFolder(), 4U);
+  EXPECT_EQ(FilesInFolder(), 4);
 }
 
-TEST_F(Files, AFailedReplacementLeavesTheOldFileWhole) {
+TEST_F(Files, AFailedOrKilledReplacementLeavesTheOldFileWhole) {
+  const auto fnReplace = [this](void (*pAtTheEnd)(int)) {
+    const FullDisk oFull(4096, pAtTheEnd);
+    return ReplaceFile(m_sFile, std::string(10000, 'x'));
+  };
   WriteTestFile(m_sFile, "old");
-  {
-    const FullDisk oFull(4096);
-    EXPECT_EQ(ReplaceFile(m_sFile, std::string(10000, 'x')), std::errc::file_too_large);
-  }
+  EXPECT_EQ(fnReplace(SIG_IGN), std::errc::file_too_large);
+  EXPECT_EQ(FilesInFolder(), 1);
+  EXPECT_EXIT((void)fnReplace([](int) { std::raise(SIGKILL); }), ::testing::KilledBySignal(SIGKILL),
+              "");
+  EXPECT_EQ(FilesInFolder(), 2) << "what was written so far";
   EXPECT_EQ(ReadTestFile(m_sFile), "old");
-  EXPECT_EQ(FilesInFolder(), 1U);
 }
 
 TEST_F(Files, PlacesThatCannotBeReplacedSayWhy) {
@@ -105,8 +85,10 @@ TEST_F(Files, PlacesThatCannotBeReplacedSayWhy) {
     EXPECT_EQ(IsDevice(sPath), eError == std::errc::operation_not_supported) << sPath;
   }
   EXPECT_EQ(AppendToFile("/dev/full", "x", ""), std::errc::no_space_on_device);
+  std::string sContent;
+  EXPECT_EQ(ReadWholeFile("/dev/zero", 99, sContent), std::errc::file_too_large);
   EXPECT_EQ(ReadTestFile(m_sFile), "old");
-  EXPECT_EQ(FilesInFolder(), 3U);
+  EXPECT_EQ(FilesInFolder(), 3);
 }
 
 }  // namespace

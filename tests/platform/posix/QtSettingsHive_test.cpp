@@ -1,9 +1,8 @@
 #include "platform/qt/QtSettingsHive.h"
 
-#include <QCoreApplication>
 #include <QDeadlineTimer>
+#include <QTest>
 #include <filesystem>
-#include <functional>
 #include <iterator>
 
 #include <fcntl.h>
@@ -41,15 +40,6 @@ class QtSettingsHiveTest : public ::testing::Test {
   TemporaryFolder m_oFolder;
 };
 
-/// Runs the event loop until something has come true; false if it takes far too long.
-bool WaitUntil(const std::function<bool()>& oCondition) {
-  const QDeadlineTimer oLimit(20 * QtSettingsHive::kGatherMilliseconds);
-  while (!oCondition() && !oLimit.hasExpired()) {
-    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-  }
-  return oCondition();
-}
-
 TEST_F(QtSettingsHiveTest, EveryTextComesBackExactlyInTheNextProgram) {
   const std::pair<std::string, std::string> asTexts[] = {
       {"Empty", ""},
@@ -83,7 +73,8 @@ TEST_F(QtSettingsHiveTest, RunningProgramsSeeEachOthersValuesAndADragIsStoredOnc
   EXPECT_EQ(Content(), "") << "while nothing else can happen";
   EXPECT_TRUE(Open()->Write(kUser, kPath, "Theirs", "2"));
   EXPECT_EQ(oHive->Read(kUser, kPath, "Theirs"), "2") << "although a change is being gathered";
-  EXPECT_TRUE(WaitUntil([&] { return Content().find("Mine=100") != std::string::npos; }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Content().find("Mine=100") != std::string::npos; },
+                              20 * QtSettingsHive::kGatherMilliseconds));
   for (const char* sQuickly : {"3", "4", "5"}) {
     EXPECT_TRUE(Open()->Write(kUser, kPath, "Mine", sQuickly));
     EXPECT_EQ(oHive->Read(kUser, kPath, "Mine"), sQuickly);
@@ -91,44 +82,34 @@ TEST_F(QtSettingsHiveTest, RunningProgramsSeeEachOthersValuesAndADragIsStoredOnc
   EXPECT_EQ(oHive->Read(kUser, kPath, "Theirs"), "2");
 }
 
-TEST_F(QtSettingsHiveTest, AFullDiskCostsTheChangeAndNothingElse) {
+TEST_F(QtSettingsHiveTest, AChangeThatCantBeStoredIsLostAndTheStoreStaysWhole) {
   ASSERT_TRUE(Open()->Write(kUser, kPath, "Kept", "old"));
   const std::string sBefore = Content();
-  for (const std::size_t nRoom : {std::size_t{0}, sBefore.size() + 1}) {
-    const auto oHive = Open();
+  const auto oLocked = Open();
+  EXPECT_TRUE(oLocked->Write(kUser, kPath, "Kept", "new"));
+  for (const auto& [nAtTheWrite, nAtTheFlush] :
+       {std::pair<rlim_t, rlim_t>{0, 0}, {sBefore.size() + 1, sBefore.size() - 1}}) {
+    const auto oEarly = Open();
+    const auto oLate = Open();
+    EXPECT_TRUE(oLate->Write(kUser, kPath, "Kept", "new"));
     {
-      const FullDisk oFull(nRoom);
-      EXPECT_FALSE(oHive->Write(kUser, kPath, "Kept", "new")) << nRoom;
+      const FullDisk oFull(nAtTheWrite);
+      EXPECT_FALSE(oEarly->Write(kUser, kPath, "Kept", "new"));
     }
-    EXPECT_EQ(Content(), sBefore) << nRoom;
-    EXPECT_EQ(FilesInUserFolder(), 1) << "nothing but the settings, " << nRoom;
-    EXPECT_EQ(oHive->Read(kUser, kPath, "Kept"), "old") << nRoom;
+    const FullDisk oFull(nAtTheFlush);
+    oLate->Flush();
+    for (const QtSettingsHive* const pHive : {oEarly.get(), oLate.get()}) {
+      EXPECT_EQ(pHive->Read(kUser, kPath, "Kept"), "old");
+    }
   }
-}
-
-TEST_F(QtSettingsHiveTest, AStoreThatCantBeReplacedAnyMoreStaysWhole) {
-  ASSERT_TRUE(Open()->Write(kUser, kPath, "Kept", "old"));
-  const std::string sBefore = Content();
-  const std::unique_ptr<QtSettingsHive> aoHives[] = {Open(), Open(), Open()};
-  const auto fnGather = [&](int n) {
-    EXPECT_TRUE(aoHives[n]->Write(kUser, kPath, "Kept", "new"));
-    return aoHives[n].get();
-  };
-  for (const rlim_t nRoom : {rlim_t{0}, sBefore.size() - 1}) {
-    QtSettingsHive* const pHive = fnGather(nRoom == 0 ? 0 : 1);
-    const FullDisk oFull(nRoom);
-    pHive->Flush();
-    EXPECT_EQ(pHive->Read(kUser, kPath, "Kept"), "old") << nRoom;
-  }
-  QtSettingsHive* const pHive = fnGather(2);
   const int nHolder = ::open((m_oFolder / "user/velmor").c_str(), O_RDONLY);
   ASSERT_EQ(::flock(nHolder, LOCK_EX), 0);
   const QDeadlineTimer oLimit(2 * IniStore::kLockMilliseconds);
-  pHive->Flush();
+  oLocked->Flush();
   ::close(nHolder);
   EXPECT_FALSE(oLimit.hasExpired()) << "another program never lets go";
   EXPECT_EQ(Content(), sBefore);
-  EXPECT_EQ(FilesInUserFolder(), 1);
+  EXPECT_EQ(FilesInUserFolder(), 1) << "nothing but the settings";
 }
 
 TEST_F(QtSettingsHiveTest, WhatKilledProgramsLeaveHoldsUpNoOther) {

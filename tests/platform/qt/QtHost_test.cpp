@@ -24,11 +24,13 @@ namespace {
 
 using Button = QMessageBox::StandardButton;
 
-/// Does the next of its steps to each dialog that opens. A dialog that stays open is closed in the
-/// end, so that a test fails and doesn't hang.
+using Step = std::function<void(QDialog&)>;
+
+/// Does the next of its steps to each dialog that opens; the last of all closes what stays open, so
+/// that a test fails and doesn't hang.
 class User {
  public:
-  explicit User(std::deque<std::function<void(QDialog&)>> aoSteps) : m_aoSteps(std::move(aoSteps)) {
+  explicit User(std::deque<Step> aoSteps) : m_aoSteps(std::move(aoSteps)) {
     m_oTimer.callOnTimeout([this] { Look(); });
     m_oTimer.start();
   }
@@ -39,24 +41,20 @@ class User {
  private:
   void Look() {
     auto* const pDialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (pDialog == nullptr) {
-      return;
-    }
-    if (m_oLimit.hasExpired()) {
+    if (pDialog != nullptr && m_oLimit.hasExpired()) {
       ADD_FAILURE() << "a dialog stays open: " << pDialog->metaObject()->className();
       pDialog->reject();
-    } else if (pDialog != m_pSeen && !m_aoSteps.empty()) {
+    } else if (pDialog != nullptr && pDialog != m_pSeen && !m_aoSteps.empty()) {
       m_pSeen = pDialog;
       // Not from within the timer, which would then not look at a dialog that this one opens.
-      QMetaObject::invokeMethod(
-          pDialog, [oStep = m_aoSteps.front(), pDialog] { oStep(*pDialog); }, Qt::QueuedConnection);
+      QTimer::singleShot(0, pDialog, [oStep = m_aoSteps.front(), pDialog] { oStep(*pDialog); });
       m_aoSteps.pop_front();
     }
   }
 
   QTimer m_oTimer;
   QDeadlineTimer m_oLimit{std::chrono::seconds(10)};
-  std::deque<std::function<void(QDialog&)>> m_aoSteps;
+  std::deque<Step> m_aoSteps;
   QPointer<QDialog> m_pSeen;
 };
 
@@ -111,13 +109,8 @@ TEST_F(QtHostTest, TheButtonOfALongMessageStaysOnTheScreen) {
 }
 
 TEST_F(QtHostTest, AMessageShowsItsTextAsItIsAndEachWayOutGivesItsAnswer) {
-  const auto fnClose = [](QDialog& oDialog) { oDialog.close(); };
-  const struct {
-    int nButtons;
-    QMessageBox::Icon eIcon;
-    std::function<void(QDialog&)> oStep;
-    Answer eAnswer;
-  } aoRows[] = {
+  const Step fnClose = [](QDialog& oDialog) { oDialog.close(); };
+  const std::tuple<int, QMessageBox::Icon, Step, Answer> aoRows[] = {
       {kMessageQuestion, QMessageBox::Question, Click(Button::Yes), Answer::Yes},
       {kMessageQuestion, QMessageBox::Question, Click(Button::No), Answer::No},
       {kMessageQuestion, QMessageBox::Question, Press(Qt::Key_Return), Answer::Yes},
@@ -125,19 +118,17 @@ TEST_F(QtHostTest, AMessageShowsItsTextAsItIsAndEachWayOutGivesItsAnswer) {
       {kMessagePlain, QMessageBox::NoIcon, Press(Qt::Key_Return), Answer::Ok},
       {kMessageCritical, QMessageBox::Critical, Press(Qt::Key_Return), Answer::Ok},
       {kMessageWarning, QMessageBox::Warning, Press(Qt::Key_Escape), Answer::Ok},
-      {kMessageInformation, QMessageBox::Information, fnClose, Answer::Ok},
-  };
-  for (const auto& oRow : aoRows) {
-    const User oUser({[&oRow](QDialog& oDialog) {
+      {kMessageInformation, QMessageBox::Information, fnClose, Answer::Ok}};
+  for (const auto& [nButtons, eIcon, oStep, eAnswer] : aoRows) {
+    const User oUser({[&, eIcon = eIcon, oStep = oStep](QDialog& oDialog) {
       const auto& oBox = dynamic_cast<QMessageBox&>(oDialog);
-      EXPECT_EQ(oBox.icon(), oRow.eIcon);
+      EXPECT_EQ(oBox.icon(), eIcon);
       EXPECT_EQ(oBox.text(), "<b>5 & 6</b> &c");
       EXPECT_EQ(oBox.textFormat(), Qt::PlainText);
       EXPECT_EQ(oBox.windowTitle(), "Quillet US");
-      oRow.oStep(oDialog);
+      oStep(oDialog);
     }});
-    EXPECT_EQ(m_oHost.ShowMessage("<b>5 & 6</b> &c", oRow.nButtons, "Quillet US"), oRow.eAnswer)
-        << oRow.nButtons;
+    EXPECT_EQ(m_oHost.ShowMessage("<b>5 & 6</b> &c", nButtons, "Quillet US"), eAnswer) << nButtons;
   }
 }
 

@@ -7,24 +7,12 @@
 #undef ReplaceFile
 
 #include "platform/windows/wide.h"
-#include "support/Log.h"
-#include "support/TestHost.h"
+#include "support/FilesTest.h"
 
 namespace quillet {
 namespace {
 
 namespace fs = std::filesystem;
-
-class Files : public ::testing::Test {
- protected:
-  std::size_t FilesInFolder() const {
-    const auto oList = fs::directory_iterator(m_oFolder.sPath);
-    return static_cast<std::size_t>(std::distance(begin(oList), end(oList)));
-  }
-
-  TemporaryFolder m_oFolder;
-  std::string m_sFile = m_oFolder / "a.qlt";
-};
 
 /// A file that somebody else has open and lets others do no more with than `nShare`.
 class OpenElsewhere {
@@ -39,17 +27,6 @@ class OpenElsewhere {
  private:
   HANDLE m_hFile;
 };
-
-TEST_F(Files, ReadsUpToTheLimitAndLeavesTheTextAloneOtherwise) {
-  WriteTestFile(m_sFile, std::string("a\0b\r\n", 5));
-  std::string sContent = "before";
-  EXPECT_EQ(ReadWholeFile(m_sFile, 4, sContent), std::errc::file_too_large);
-  EXPECT_TRUE(ReadWholeFile(m_oFolder.sPath, 99, sContent));
-  EXPECT_EQ(ReadWholeFile(m_oFolder / "none", 99, sContent), std::errc::no_such_file_or_directory);
-  EXPECT_EQ(sContent, "before");
-  EXPECT_FALSE(ReadWholeFile(m_sFile, 5, sContent));
-  EXPECT_EQ(sContent, std::string("a\0b\r\n", 5));
-}
 
 TEST_F(Files, NamesOfEveryScriptAndBothSeparatorsLeadToTheSameFile) {
   EXPECT_EQ(NativePath("C:/a\\b"), "C:\\a\\b");
@@ -76,7 +53,7 @@ TEST_F(Files, AFailedReplacementLeavesTheOldFileWholeAndSaysWhy) {
   EXPECT_EQ(ReplaceFile(m_oFolder / "none\\a.qlt", "x"), std::errc::no_such_file_or_directory);
   EXPECT_EQ(ReplaceFile(m_oFolder.sPath, "x"), std::errc::permission_denied);
   EXPECT_EQ(ReadTestFile(m_sFile), "old");
-  EXPECT_EQ(FilesInFolder(), 1U) << "and no temporary file";
+  EXPECT_EQ(FilesInFolder(), 1) << "and no temporary file";
 }
 
 TEST_F(Files, AppendsWhileAnotherProgramReads) {
