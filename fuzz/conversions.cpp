@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "base/FormatNumber.h"
 #include "base/failure.h"
 #include "base/text.h"
 #include "platform/Host.h"

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/FormatNumber.h"
 #include "base/Single.h"
 #include "base/conversions.h"
 #include "prices/clsPriceRange.h"

@@ -1,5 +1,6 @@
 #include "prices/money.h"
 
+#include "base/FormatNumber.h"
 #include "base/conversions.h"
 #include "base/text.h"
 #include "prices/clsPrices.h"

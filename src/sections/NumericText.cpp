@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/FormatNumber.h"
 #include "base/conversions.h"
 #include "base/text.h"
 #include "platform/Host.h"

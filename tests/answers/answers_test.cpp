@@ -10,6 +10,7 @@
 #include "answers/Breakdown.h"
 #include "answers/Curve.h"
 #include "answers/PriceFor.h"
+#include "base/FormatNumber.h"
 #include "prices/money.h"
 #include "support/Auctions.h"
 #include "support/ByRegion.h"

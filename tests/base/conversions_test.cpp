@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "base/FormatNumber.h"
 #include "base/Single.h"
 #include "base/failure.h"
 #include "support/Prices.h"

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "base/FormatNumber.h"
 #include "engine/profitPercent.h"
 #include "support/Auctions.h"
 #include "support/Prices.h"

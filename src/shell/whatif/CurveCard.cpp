@@ -7,7 +7,7 @@
 #include <cmath>
 #include <utility>
 
-#include "base/conversions.h"
+#include "base/FormatNumber.h"
 #include "base/failure.h"
 #include "look/font.h"
 #include "look/marks.h"

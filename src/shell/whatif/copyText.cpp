@@ -1,6 +1,6 @@
 #include "shell/whatif/copyText.h"
 
-#include "base/conversions.h"
+#include "base/FormatNumber.h"
 #include "shell/whatif/figures.h"
 #include "shell/whatif/moneyParts.h"
 

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "base/conversions.h"
+#include "base/FormatNumber.h"
 #include "prices/money.h"
 
 namespace quillet {
