@@ -52,6 +52,7 @@ add_library(quillet_desktop STATIC
   shell/PageScroller.cpp
   shell/ScrollFrame.cpp
   shell/SectionSet.cpp
+  shell/SettingsPage.cpp
   shell/WindowZoom.cpp
   shell/WizardSteps.cpp
   shell/ctlCalculator.cpp

@@ -1,6 +1,7 @@
 // How views and windows make and place their controls.
 #pragma once
 
+#include <QWidget>
 #include <span>
 #include <utility>
 
@@ -14,6 +15,13 @@ Kind* Make(const char* sName, Arguments&&... oArguments) {
   auto* const pControl = new Kind(std::forward<Arguments>(oArguments)...);
   pControl->SetName(sName);
   return pControl;
+}
+
+/// Gives a control its words; it goes by its caption, without the mark of its access key.
+inline void Describe(Control& oControl, const char* sCaption, const char* sToolTip = "") {
+  oControl.SetCaption(sCaption);
+  oControl.Widget().setToolTip(sToolTip);
+  oControl.Widget().setAccessibleName(QString(sCaption).remove('&'));
 }
 
 /// A row of a table of places, in twips.

@@ -8,12 +8,10 @@
 
 namespace quillet {
 
-class ComboBox;
 class Frame;
 class ImageButton;
-class Label;
+class SettingsPage;
 class ShockwaveFlash;
-class ctlNumericText;
 
 /// One is made for each opening, and begins on the first page.
 class frmAbout : public QDialog {
@@ -34,7 +32,6 @@ class frmAbout : public QDialog {
   void ResetControlPositions();
 
  protected:
-  bool eventFilter(QObject* pWatched, QEvent* pEvent) override;
   void keyPressEvent(QKeyEvent* pEvent) override;
   void paintEvent(QPaintEvent* pEvent) override;
   void showEvent(QShowEvent* pEvent) override;
@@ -44,9 +41,7 @@ class frmAbout : public QDialog {
   void DescribeControls();
   void ConnectControls();
   void Form_Load();
-  void FillStartMode(const std::string& sStored);
   void imgAbout_Click();
-  void imgApply_Click();
   void aniFlash_FSCommand(const QString& sCommand);
 
   Control* m_pLine1;
@@ -54,16 +49,7 @@ class frmAbout : public QDialog {
   ImageButton* m_pImgSettings;
   Frame* m_pFraAmination;
   ShockwaveFlash* m_pAniFlash;
-  Frame* m_pFraSettings;
-  Label* m_pLblStartMode;
-  ComboBox* m_pCboStartMode;
-  Label* m_pLabel3;
-  ctlNumericText* m_pTxtSnapToGrid;
-  Label* m_pLabel2;
-  ImageButton* m_pImgResetPositions;
-  Label* m_pLblHint;
-  ImageButton* m_pImgApply;
-  ImageButton* m_pImgCancel;
+  SettingsPage* m_pFraSettings;
 };
 
 }  // namespace quillet
