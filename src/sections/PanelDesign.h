@@ -43,12 +43,12 @@ struct PanelDesign {
   const char* sSectionKey;    ///< names the panel in the settings
   const char* sReferenceBox;  ///< the Show box whose place sets the panel's width
   /// The panel whose list ApplyAllVisibility reads; null if the member has no such step.
-  const char* sVisibilityList;
+  const char* sVisibilityList = nullptr;
   /// True: the rows are registered once, at their design places, and a click on a Show box rereads
   /// the list. False: they are registered again at each show, and after each click at their places
   /// at that moment.
-  bool bAddingComplete;
-  bool bRowsByLabel;  ///< a Show box is beside its row's label, whatever else the tag names
+  bool bAddingComplete = false;
+  bool bRowsByLabel = false;  ///< a Show box is beside its row's label, whatever else the tag names
   int nWidth;
   int nHeight;
   /// In the order of the panel's collection, which the packing keeps within a row: a control that

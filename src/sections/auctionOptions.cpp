@@ -42,7 +42,6 @@ constexpr PanelDesign Design(const Sizes& oSizes, std::span<const ControlDesign>
           .sVisibilityList =
               oSizes.sVisibilityList != nullptr ? oSizes.sVisibilityList : oSizes.sSectionKey,
           .bAddingComplete = true,
-          .bRowsByLabel = false,
           .nWidth = oSizes.nWidth,
           .nHeight = oSizes.nHeight,
           .aoControls = aoControls};

@@ -41,8 +41,6 @@ constexpr PanelDesign kDesign = {.sTypeName = "ctlAuctionType",
                                  .sSectionKey = "AuctionType",
                                  .sReferenceBox = "chkShowStandard",
                                  .sVisibilityList = "AuctionType",
-                                 .bAddingComplete = false,
-                                 .bRowsByLabel = false,
                                  .nWidth = 3330,
                                  .nHeight = 7485,
                                  .aoControls = kControls};

@@ -42,8 +42,6 @@ constexpr PanelDesign kDesign = {.sTypeName = "ctlPayPal",
                                  .sSectionKey = "PayPal",
                                  .sReferenceBox = "chkShowUsePayPal",
                                  .sVisibilityList = "PayPal",
-                                 .bAddingComplete = false,
-                                 .bRowsByLabel = false,
                                  .nWidth = 3255,
                                  .nHeight = 3510,
                                  .aoControls = kControls};

@@ -28,7 +28,6 @@ constexpr PanelDesign kDesign = {.sTypeName = "ctlPaypalBusinessTypes",
                                  .sReferenceBox = "chkShowBusinessRateBand1",
                                  .sVisibilityList = "PayPalBusinessTypes",
                                  .bAddingComplete = true,
-                                 .bRowsByLabel = false,
                                  .nWidth = 2955,
                                  .nHeight = 1740,
                                  .aoControls = kControls};

@@ -72,7 +72,6 @@ constexpr PanelDesign kDesign = {.sTypeName = "ctlPostage",
                                  .sReferenceBox = "chkShowUsePostage",
                                  .sVisibilityList = "Postage",
                                  .bAddingComplete = true,
-                                 .bRowsByLabel = false,
                                  .nWidth = 4365,
                                  .nHeight = 4935,
                                  .aoControls = kControls};

@@ -27,7 +27,6 @@ constexpr PanelDesign kDesign = {.sTypeName = "ctlPostageParcelInsurance",
                                  .sReferenceBox = "chkShowBand1",
                                  .sVisibilityList = "PostageParcelInsurance",
                                  .bAddingComplete = true,
-                                 .bRowsByLabel = false,
                                  .nWidth = 2745,
                                  .nHeight = 1470,
                                  .aoControls = kControls};

@@ -27,7 +27,6 @@ constexpr PanelDesign kDesign = {.sTypeName = "ctlRealEstateOptions",
                                  .sReferenceBox = "chkShowRealEstateBinding",
                                  .sVisibilityList = "RealEstateOptions",
                                  .bAddingComplete = true,
-                                 .bRowsByLabel = false,
                                  .nWidth = 2760,
                                  .nHeight = 2010,
                                  .aoControls = kControls};

@@ -108,8 +108,6 @@ constexpr PanelDesign kDesign = {.sTypeName = "ctlSellingFeatures",
                                  .sSectionKey = "SellingFeatures",
                                  .sReferenceBox = "chkShowHomePageFeatured",
                                  .sVisibilityList = "SellingFeatures",
-                                 .bAddingComplete = false,
-                                 .bRowsByLabel = false,
                                  .nWidth = 3945,
                                  .nHeight = 6960,
                                  .aoControls = kControls};
