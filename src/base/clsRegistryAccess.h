@@ -24,10 +24,11 @@ class clsRegistryAccess {
   bool GetRegSetting(HiveRoot hKey, const std::string& sSection, const std::string& sSettingName,
                      std::string& sResult, const std::string& sDefault, bool bCreate,
                      bool bAbsoluteSection) const;
+  /// The program itself reads by Find, Get and GetOrCreate.
   bool GetRegSettingString(HiveRoot hKey, std::string& sResult, const std::string& sSettingName,
                            const std::string& sSection, const std::string& sDefault) const;
   /// The same for a value stored as hexadecimal text. False, and the default unconverted, if the
-  /// value was missing (even if created now) or isn't hexadecimal.
+  /// value was missing (even if created now) or isn't hexadecimal. The program itself stores none.
   bool GetRegSettingBin(HiveRoot hKey, const std::string& sSection, const std::string& sSettingName,
                         std::string& sResult, const std::string& sDefault, bool bCreate,
                         bool bAbsoluteSection) const;

@@ -10,7 +10,7 @@ namespace quillet {
 
 class clsTokeniser {
  public:
-  /// Sets the separator; "," at first.
+  /// Sets the separator; "," at first. The program itself gives it to Tokenise.
   void SetToken(std::string_view sToken) { m_sToken = sToken; }
 
   /// Replaces the content with the fields of `sData`, keeps the separator, and returns the number
@@ -19,6 +19,7 @@ class clsTokeniser {
   std::int32_t Tokenise(std::string_view sData, std::string_view sToken);
 
   [[nodiscard]] std::int32_t Count() const { return m_lCount; }
+  // The program itself only asks IsEmpty for the blank.
   [[nodiscard]] bool ParsedBlank() const { return m_bParsedBlank; }
   void SetParsedBlank(bool bParsedBlank) { m_bParsedBlank = bParsedBlank; }
 

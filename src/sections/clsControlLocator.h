@@ -26,7 +26,7 @@ class clsControlLocator {
   /// registered; nothing is once AddingComplete is set.
   void AddControl(const std::string& sName, std::int32_t lTop, std::int32_t lHeight, bool bInFrame);
 
-  /// From now on the registered controls stay.
+  /// From now on the registered controls stay. The program itself only sets it.
   void SetAddingComplete(bool bComplete) { m_bAddingComplete = bComplete; }
   [[nodiscard]] bool AddingComplete() const { return m_bAddingComplete; }
 
@@ -39,7 +39,7 @@ class clsControlLocator {
   /// Packs the rows that the region has and, with `bApplyList`, the stored list names.
   void BuildList(bool bApplyList);
 
-  /// True from BuildList until the next control is added.
+  /// True from BuildList until the next control is added. The program itself needs no answer.
   [[nodiscard]] bool BuiltControls() const { return m_bBuiltControls; }
 
   /// How many controls to show and to hide. The lists keep one empty place where there is none, so

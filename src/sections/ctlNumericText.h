@@ -27,7 +27,8 @@ class ctlNumericText : public QWidget, public Control {
 
   [[nodiscard]] const char* TypeName() const override { return "ctlNumericText"; }
 
-  // Writing one of these three also shows 0, or the bound nearest to it: they are set first.
+  // Writing one of these three also shows 0, or the bound nearest to it: they are set first. The
+  // program itself reads none of them back.
 
   [[nodiscard]] int DecimalPlaces() const { return m_oNumber.m_nDecimalPlaces; }
   void SetDecimalPlaces(std::int16_t nPlaces);
@@ -56,7 +57,7 @@ class ctlNumericText : public QWidget, public Control {
   void SetValue(Single fIgnored);
 
   /// A colour as in palette.h; in an input, "window text" is the colour of its text, and "window"
-  /// that of its background.
+  /// that of its background. The program itself leaves the background alone.
   void SetForeColor(std::uint32_t nColour) override;
   [[nodiscard]] std::uint32_t BackColor() const { return m_nBackColor; }
   void SetBackColor(std::uint32_t nColour);
