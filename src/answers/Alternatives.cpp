@@ -152,10 +152,15 @@ class Collector {
   void Add(AlternativeKind eKind, const std::string& sName, const Change& oChange) {
     IgnoreFailure([&] {
       const clsCalculate& oOther = m_oTrial.With(oChange);
-      if (eKind != AlternativeKind::Listing || oOther.m_oSellingFeatures.HasOnlyWhatIsOnOffer()) {
+      if (eKind != AlternativeKind::Listing || HasAllFeatures(oOther.m_oSellingFeatures)) {
         AddFrom(oOther, eKind, sName, oChange);
       }
     });
+  }
+
+  [[nodiscard]] bool HasAllFeatures(const clsSellingFeatures& oFeatures) const {
+    return oFeatures.HasFeature(m_oAuction.m_oSellingFeatures.Features()) &&
+           oFeatures.HasOnlyWhatIsOnOffer();
   }
 
   void AddFrom(const clsCalculate& oOther, AlternativeKind eKind, std::string sName,

@@ -46,6 +46,9 @@ class clsSellingFeatures {
   /// True when every bit is set, so also for 0.
   [[nodiscard]] bool HasFeature(std::int32_t lFeature) const;
 
+  /// The chosen features, as a mask of eFeature.
+  [[nodiscard]] std::int32_t Features() const { return m_lFeatures; }
+
   /// False if a chosen feature isn't on offer at the prices of the latest DoCalc.
   [[nodiscard]] bool HasOnlyWhatIsOnOffer() const;
 
@@ -101,7 +104,7 @@ class clsSellingFeatures {
   [[nodiscard]] Single GetHomePageFee() const;
   [[nodiscard]] Single GetPicturePackFee() const;
 
-  std::int32_t m_lFeatures = 0;  ///< a mask of eFeature
+  std::int32_t m_lFeatures = 0;
   Single m_fLastFee;
   const clsAuctionType* m_oAuctionType = nullptr;
   const clsOutlay* m_oLastOutlay = nullptr;

@@ -1,5 +1,8 @@
 #include "sections/AuctionOptionsPanel.h"
 
+#include <algorithm>
+
+#include "answers/tips.h"
 #include "sections/controlHelpers.h"
 
 namespace quillet {
@@ -22,6 +25,22 @@ void AuctionOptionsPanel::ApplyAuctionType(clsAuctionType& oAuctionType) {
   for (const OptionRow& oRow : m_oOptions.aoRows) {
     SetControlActive(m_oOptions.fnActive(oAuctionType), *Find(oRow.sName), false);
   }
+}
+
+std::string AuctionOptionsPanel::TipOf(const Control& oInput, const clsCalculate& oAuction) const {
+  const auto pRow =
+      std::find_if(m_oOptions.aoRows.begin(), m_oOptions.aoRows.end(),
+                   [&](const OptionRow& oRow) { return oRow.sName == oInput.Name(); });
+  if (pRow == m_oOptions.aoRows.end()) {
+    return {};
+  }
+  const std::string sName = WordsOf(oInput).toStdString();
+  if (!m_oOptions.fnActive(oAuction.m_oAuctionType)) {
+    return NotOnOfferTip(sName);
+  }
+  const bool bChosen = ValueOf(pRow->sName) != 0;
+  return ListingTip(oAuction, sName, bChosen,
+                    bChosen ? Change() : ListWith(m_oOptions.m_lField, pRow->nValue));
 }
 
 void AuctionOptionsPanel::UpdateModel() {

@@ -42,6 +42,8 @@ class AuctionOptionsPanel : public SectionPanel {
 
  protected:
   void UpdateModel() override;
+  [[nodiscard]] std::string TipOf(const Control& oInput,
+                                  const clsCalculate& oAuction) const override;
 
  private:
   const AuctionOptions& m_oOptions;

@@ -1,7 +1,10 @@
 #include "sections/SectionPanel.h"
 
+#include <QHelpEvent>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QShowEvent>
+#include <QToolTip>
 #include <algorithm>
 
 #include "base/FlagGuard.h"
@@ -145,6 +148,43 @@ void SectionPanel::SetRowCaption(Control& oNamed, const QString& sCaption) {
     oNamed.SetCaption(sCaption);
     NameTheInputs();
   }
+}
+
+bool SectionPanel::event(QEvent* pEvent) {
+  const auto* const pHelp = dynamic_cast<const QHelpEvent*>(pEvent);
+  return (pHelp != nullptr && pHelp->type() == QEvent::ToolTip &&
+          ShowTip(childAt(pHelp->pos()), pHelp->globalPos())) ||
+         QWidget::event(pEvent);
+}
+
+/// Who uses no pointer has the tooltips by the key of What's This.
+void SectionPanel::keyPressEvent(QKeyEvent* pEvent) {
+  QWidget* const pInput = focusWidget();
+  if (pInput == nullptr || !pEvent->matches(QKeySequence::WhatsThis) ||
+      !ShowTip(pInput, pInput->mapToGlobal(pInput->rect().bottomLeft()))) {
+    QWidget::keyPressEvent(pEvent);
+  }
+}
+
+/// False if there is nothing to tell, which may be since the auction can't be calculated.
+bool SectionPanel::ShowTip(QWidget* pInput, const QPoint& oAt) const {
+  constexpr int kLongest = 80;  // characters in one line
+  const clsCalculate* const pAuction = Auction();
+  const auto pFound = std::find_if(m_aoControls.begin(), m_aoControls.end(),
+                                   [&](const Control* p) { return &p->Widget() == pInput; });
+  if (pAuction == nullptr || pFound == m_aoControls.end()) {
+    return false;
+  }
+  QString sTip;
+  IgnoreFailure([&] { sTip = QString::fromStdString(TipOf(**pFound, *pAuction)); });
+  QToolTip::showText(
+      oAt, sTip.size() > kLongest ? "<span>" + sTip.toHtmlEscaped() + "</span>" : sTip, pInput);
+  return !sTip.isEmpty();
+}
+
+const clsCalculate* SectionPanel::Auction() const {
+  const auto* const pOuter = dynamic_cast<const SectionPanel*>(Container());
+  return m_oAuction != nullptr || pOuter == nullptr ? m_oAuction : pOuter->Auction();
 }
 
 void SectionPanel::showEvent(QShowEvent* pEvent) {

@@ -24,6 +24,7 @@
 namespace quillet {
 
 class SectionHeader;
+class clsCalculate;
 
 /// An option, and the code that it stands for in the model.
 struct OptionCode {
@@ -47,6 +48,10 @@ class SectionPanel : public QWidget, public Control {
   /// while it has it.
   void GotFocus();
   void LostFocus();
+
+  /// The auction that the panel's model is part of: tooltips say what an input would do to it. It
+  /// must outlive the panel.
+  void SetAuction(const clsCalculate& oAuction) { m_oAuction = &oAuction; }
 
   /// A control by name; null if there is none.
   [[nodiscard]] Control* Find(std::string_view sName) const;
@@ -101,6 +106,14 @@ class SectionPanel : public QWidget, public Control {
   /// Sets a row's caption, and with it the names of its input and its Show box.
   void SetRowCaption(Control& oNamed, const QString& sCaption);
 
+  /// The tooltip of an input; empty if it has none. Asked for when it is to be shown.
+  [[nodiscard]] virtual std::string TipOf(const Control& /*oInput*/,
+                                          const clsCalculate& /*oAuction*/) const {
+    return {};
+  }
+
+  bool event(QEvent* pEvent) override;
+  void keyPressEvent(QKeyEvent* pEvent) override;
   void showEvent(QShowEvent* pEvent) override;
   void paintEvent(QPaintEvent* pEvent) override;
   void Placed() override;
@@ -113,6 +126,9 @@ class SectionPanel : public QWidget, public Control {
   void MakeControl(const ControlDesign& oControl);
   void Listen(Control& oControl);
   void NameTheInputs();
+
+  [[nodiscard]] const clsCalculate* Auction() const;
+  bool ShowTip(QWidget* pInput, const QPoint& oAt) const;
 
   /// The tops and heights at which the rows are registered.
   enum class RowPlaces { kDesigned, kAsTheyStand };
@@ -133,7 +149,8 @@ class SectionPanel : public QWidget, public Control {
 
   const PanelDesign& m_oDesign;
   clsControlLocator m_oLocator;
-  std::vector<Control*> m_aoControls;  ///< in collection order
+  std::vector<Control*> m_aoControls;        ///< in collection order
+  const clsCalculate* m_oAuction = nullptr;  ///< null in a panel within another, which has it
   bool m_bShowConfig = false;
   bool m_bLoading = false;  ///< the Show boxes are being set: nothing is stored
 };

@@ -1,8 +1,10 @@
 #include "sections/ctlAuctionType.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
+#include "answers/tips.h"
 #include "sections/AuctionOptionsPanel.h"
 #include "sections/controlHelpers.h"
 #include "sections/ctlRealEstateOptions.h"
@@ -52,6 +54,17 @@ constexpr std::array kKinds = std::to_array<OptionCode>({
     {"optBusinessAuction", kAuctionBusiness},
 });
 
+/// The other way to list what a box stands for; empty if it stands for none.
+Change ClickOn(std::string_view sBox, bool bTicked) {
+  if (sBox == "chkBuyItNow") {
+    return bTicked ? ListAsAuction() : ListAtFixedPrice();
+  }
+  if (sBox == "chkShopInventory") {
+    return bTicked ? ListAsAuction() : ListInShop(kShopNone);
+  }
+  return {};
+}
+
 }  // namespace
 
 ctlAuctionType::ctlAuctionType(QWidget* pParent) : SectionPanel(kDesign, pParent) {}
@@ -88,6 +101,21 @@ void ctlAuctionType::InputClicked(Control& oInput) {
     SyncShopInventory(true);
   }
   UpdateModel();
+}
+
+std::string ctlAuctionType::TipOf(const Control& oInput, const clsCalculate& oAuction) const {
+  const auto* const pChoice = dynamic_cast<const Choice*>(&oInput);
+  const bool bChosen = pChoice != nullptr && pChoice->Value() != 0;
+  const auto* const pKind = std::find_if(kKinds.begin(), kKinds.end(), [&](const OptionCode& o) {
+    return o.sOption == oInput.Name();
+  });
+  Change oClick = ClickOn(oInput.Name(), bChosen);
+  if (pKind != kKinds.end() && !bChosen) {
+    oClick = ListAs(pKind->nCode);
+  }
+  return pKind != kKinds.end() || oClick
+             ? ListingTip(oAuction, WordsOf(oInput).toStdString(), bChosen, oClick)
+             : std::string();
 }
 
 /// The shop takes only standard auctions: whichever of the two was clicked last wins.

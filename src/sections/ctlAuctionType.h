@@ -23,6 +23,8 @@ class ctlAuctionType : public SectionPanel {
  protected:
   void UpdateModel() override;
   void InputClicked(Control& oInput) override;
+  [[nodiscard]] std::string TipOf(const Control& oInput,
+                                  const clsCalculate& oAuction) const override;
 
  private:
   void SyncShopInventory(bool bShopClicked);

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "answers/tips.h"
 #include "sections/AuctionOptionsPanel.h"
 #include "sections/controlHelpers.h"
 
@@ -54,6 +55,18 @@ void ctlRealEstateOptions::UpdateModel() {
   m_oAuctionType->m_bDirty = true;
   ApplyAuctionType(*m_oAuctionType);
   emit Changed();
+}
+
+std::string ctlRealEstateOptions::TipOf(const Control& oInput, const clsCalculate& oAuction) const {
+  const std::string sName = WordsOf(oInput).toStdString();
+  if (oInput.Name() != "chkRealEstateBinding") {
+    return {};
+  }
+  if (!IsRealEstate(oAuction.m_oAuctionType)) {
+    return NotOnOfferTip(sName);
+  }
+  const bool bChosen = ValueOf("chkRealEstateBinding") != 0;
+  return ListingTip(oAuction, sName, bChosen, BindTheBid(!bChosen));
 }
 
 /// The inner panels have no Show boxes, and would be rows that no list names.

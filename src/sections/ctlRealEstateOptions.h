@@ -18,6 +18,8 @@ class ctlRealEstateOptions : public SectionPanel {
 
  protected:
   void UpdateModel() override;
+  [[nodiscard]] std::string TipOf(const Control& oInput,
+                                  const clsCalculate& oAuction) const override;
   bool AddOwnNames(clsTokeniser& oList) const override;
   [[nodiscard]] bool StoresOwnNames() const override { return true; }
 

@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <array>
 
+#include "answers/tips.h"
 #include "base/FlagGuard.h"
 #include "base/conversions.h"
 #include "base/failure.h"
 #include "engine/featureNames.h"
+#include "engine/featureOffers.h"
 #include "prices/clsPrices.h"
 #include "sections/controlHelpers.h"
 
@@ -14,7 +16,6 @@ namespace quillet {
 namespace {
 
 using enum ControlKind;
-using F = clsSellingFeatures;
 
 /// A row with one box; with a Frame around it if it can be closed.
 struct FeatureRow {
@@ -112,53 +113,29 @@ constexpr PanelDesign kDesign = {.sTypeName = "ctlSellingFeatures",
                                  .nHeight = 6960,
                                  .aoControls = kControls};
 
-bool IsNotShop(const clsAuctionType& oType) {
-  return !oType.m_bShopInventory;
-}
-
-bool IsShop(const clsAuctionType& oType) {
-  return oType.m_bShopInventory;
-}
-
-bool IsAuction(const clsAuctionType& oType) {
-  return !oType.m_bBuyItNowOnly && !oType.m_bShopInventory;
-}
-
-bool IsWholeVehicle(const clsAuctionType& oType) {
-  return oType.IsVehicle(false);
-}
-
-bool IsVehicleOrParts(const clsAuctionType& oType) {
-  return oType.IsVehicle(true);
-}
-
-/// A box is open if its price isn't below 0 and the listing is of the right kind.
-struct Opening {
-  const char* sBox;
-  Single F::*fPrice;                        ///< null if the price doesn't matter
-  bool (*fnAllows)(const clsAuctionType&);  ///< null if any listing will do
+struct PictureBounds {
+  Single fMin;
+  Single fMax;
 };
 
-/// One after the other: of two lines for a box the latter decides whether it is open, and either
-/// unticks it. So the second category ends open but unticked in a shop's listing, and a listing
-/// item without a price is unticked yet open for a vehicle.
-constexpr std::array kOpenings = std::to_array<Opening>({
-    {"chkHomePageFeatured", &F::m_fHomePage, IsNotShop},
-    {"chkFeaturePlus", &F::m_fPlus, IsNotShop},
-    {"chkItemSubtitle", &F::m_fItemSubtitle, IsNotShop},
-    {"chkFeaturedGallery", &F::m_fFeaturedGallery, IsNotShop},
-    {"chkScheduledListing", &F::m_fScheduledListings, IsNotShop},
-    {"chkListIn2Categories", &F::m_fListIn2Categories, IsNotShop},
-    {"chkBuyItNow", &F::m_fBuyItNow, IsAuction},
-    {"chkFeaturedInSearch", &F::m_fFeaturedInSearch, IsShop},
-    {"chkListingDesigner", &F::m_fListingDesigner, nullptr},
-    {"chkGiftServices", &F::m_fGiftServices, nullptr},
-    {"chkListIn2Categories", &F::m_fListIn2Categories, nullptr},
-    {"chkListingItem", &F::m_fListingItem, nullptr},
-    {"chkListingItem", nullptr, IsWholeVehicle},
-    {"chkCarAd", &F::m_fCarAd, IsVehicleOrParts},
-    {"chkPreviewPicture", &F::m_fPreviewPicture, nullptr},
-});
+/// The picture pack limits the number of pictures by its first and last tier, under a key that
+/// ignores the kind of listing.
+PictureBounds BoundsOf(bool bPicturePack) {
+  constexpr int kMostPictures = 100;
+  if (!bPicturePack) {
+    return {0, kMostPictures};
+  }
+  clsPriceRange oTier;
+  Prices().GetRange("PicturePack", 1, oTier, kShopNone);
+  const Single fMin = oTier.m_fStart;
+  Prices().GetRange("PicturePack", oTier.m_nCount, oTier, kShopNone);
+  return {fMin, oTier.m_fEnd};
+}
+
+const FeatureRow& RowOf(std::int32_t lFeature) {
+  return *std::find_if(kRows.begin(), kRows.end(),
+                       [&](const FeatureRow& oRow) { return oRow.eBit == lFeature; });
+}
 
 }  // namespace
 
@@ -189,10 +166,8 @@ void ctlSellingFeatures::ShowFeatures(const clsSellingFeatures& oFeatures) {
 
 void ctlSellingFeatures::ShowWhatIsOpen(const clsSellingFeatures& oFeatures,
                                         const clsAuctionType& oAuctionType) {
-  for (const Opening& oOpening : kOpenings) {
-    const bool bPriced = oOpening.fPrice == nullptr || oFeatures.*oOpening.fPrice >= 0;
-    const bool bAllowed = oOpening.fnAllows == nullptr || oOpening.fnAllows(oAuctionType);
-    SetControlActive(bPriced && bAllowed, *Find(oOpening.sBox), true);
+  for (const FeatureOffer& oOffer : kFeatureOffers) {
+    SetControlActive(oOffer.Holds(oFeatures, oAuctionType), *Find(RowOf(oOffer.eBit).sBox), true);
   }
 }
 
@@ -202,12 +177,17 @@ void ctlSellingFeatures::UntickCarAd() {
 }
 
 bool ctlSellingFeatures::DropUnticked() {
-  const bool bAny = std::any_of(kRows.begin(), kRows.end(), [this](const FeatureRow& oRow) {
-    return m_oFeatures->HasFeature(oRow.eBit) && ValueOf(oRow.sBox) == 0 &&
-           (oRow.eBit != kFeatureCarAd || !Find(oRow.sFrame)->Enabled());
-  });
+  bool bAny = false;
+  for (const FeatureRow& oRow : kRows) {
+    if (m_oFeatures->HasFeature(oRow.eBit) && ValueOf(oRow.sBox) == 0 &&
+        (oRow.eBit != kFeatureCarAd || !Find(oRow.sFrame)->Enabled())) {
+      m_oFeatures->RemoveFeature(oRow.eBit);
+      bAny = true;
+    }
+  }
   if (bAny) {
-    UpdateModel();
+    m_oFeatures->m_bDirty = true;
+    ShowSectionTotal(The<Label>("lblTotal"), m_oFeatures->DoCalc(nullptr, nullptr));
   }
   return bAny;
 }
@@ -232,25 +212,40 @@ void ctlSellingFeatures::InputClicked(Control& oInput) {
   UpdateModel();
 }
 
-/// The picture pack limits the number of pictures by its first and last tier, under a key that
-/// ignores the kind of listing.
+/// A click writes all boxes into the model.
+std::string ctlSellingFeatures::TipOf(const Control& oInput, const clsCalculate& oAuction) const {
+  const auto* const pClicked = std::find_if(
+      kRows.begin(), kRows.end(), [&](const FeatureRow& o) { return o.sBox == oInput.Name(); });
+  if (pClicked == kRows.end()) {
+    return {};
+  }
+  std::int32_t lTicked = 0;
+  for (const FeatureRow& oRow : kRows) {
+    lTicked |= ValueOf(oRow.sBox) != 0 ? oRow.eBit : 0;
+  }
+  const bool bChosen = ValueOf(pClicked->sBox) != 0;
+  return FeatureTip(
+      oAuction, pClicked->eBit, bChosen,
+      ChooseFeatures(lTicked ^ pClicked->eBit,
+                     PicturesWith(pClicked->eBit == kFeaturePicturePack && !bChosen)));
+}
+
+std::int32_t ctlSellingFeatures::PicturesWith(bool bNewPicturePack) const {
+  const Single fCount = The<ctlNumericText>("txtExtraPictures").Value();
+  const PictureBounds oBounds = BoundsOf(bNewPicturePack);
+  return RoundToLong(bNewPicturePack && oBounds.fMin < oBounds.fMax
+                         ? std::clamp<double>(fCount, oBounds.fMin, oBounds.fMax)
+                         : double{fCount});
+}
+
 void ctlSellingFeatures::SetPictureBounds() {
   auto& oCount = The<ctlNumericText>("txtExtraPictures");
-  if (ValueOf("chkPicturePack") == 0) {
-    oCount.SetMin(0);
-    oCount.SetMax(100);
-    return;
-  }
-  clsPriceRange oTier;
-  Prices().GetRange("PicturePack", 1, oTier, kShopNone);
-  oCount.SetMin(oTier.m_fStart);
-  Prices().GetRange("PicturePack", oTier.m_nCount, oTier, kShopNone);
-  oCount.SetMax(oTier.m_fEnd);
-  if (oCount.Min() > oCount.Value()) {
-    oCount.SetValue(oCount.Min());
-  }
-  if (oCount.Max() < oCount.Value()) {
-    oCount.SetValue(oCount.Max());
+  const bool bPicturePack = ValueOf("chkPicturePack") != 0;
+  const PictureBounds oBounds = BoundsOf(bPicturePack);
+  oCount.SetMin(oBounds.fMin);
+  oCount.SetMax(oBounds.fMax);
+  if (bPicturePack && (oCount.Min() > oCount.Value() || oCount.Max() < oCount.Value())) {
+    oCount.SetValue(oCount.Value());
   }
 }
 

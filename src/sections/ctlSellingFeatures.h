@@ -21,19 +21,23 @@ class ctlSellingFeatures : public SectionPanel {
   /// Unticks the car ad, whose box ApplyFeatures leaves alone.
   void UntickCarAd();
 
-  /// Writes the boxes into the model if that has a feature whose box is unticked, and returns
-  /// whether it did. A car ad whose box is open doesn't count.
+  /// Takes the features whose boxes are unticked out of the model, but for a car ad whose box is
+  /// open; true if there were any.
   bool DropUnticked();
 
  protected:
   void InputClicked(Control& oInput) override;
   void AfterPlacing(const Control& oPlaced) override;
   void UpdateModel() override;
+  [[nodiscard]] std::string TipOf(const Control& oInput,
+                                  const clsCalculate& oAuction) const override;
 
  private:
   void ShowFeatures(const clsSellingFeatures& oFeatures);
   void ShowWhatIsOpen(const clsSellingFeatures& oFeatures, const clsAuctionType& oAuctionType);
   void SetPictureBounds();
+  /// How many pictures there would be after a click.
+  [[nodiscard]] std::int32_t PicturesWith(bool bNewPicturePack) const;
 
   clsSellingFeatures* m_oFeatures = nullptr;
 };

@@ -47,6 +47,9 @@ void SectionSet::Refresh(clsCalculate& oDocument, Push pPush) {
 
 void SectionSet::ShowAndPush(clsCalculate& oDocument, Push pPush) {
   const FlagGuard oRefreshing(m_bRefreshing);
+  for (SectionPanel* const pSection : Sections()) {
+    pSection->SetAuction(oDocument);
+  }
   IgnoreFailure([&] {
     ShowSums(oDocument);
     m_fnChanged(oDocument.IsDirty());

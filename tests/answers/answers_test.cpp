@@ -126,10 +126,10 @@ TEST(Alternatives, AreThoseOnOfferWithTheFiguresThatTheyGiveWhenTheyAreUsed) {
   const std::string sLess = ByRegion<std::string>(" % less: £", " % less: $");
   EXPECT_THAT(asNames,
               ::testing::UnorderedElementsAre(
-                  "As it is: fixed price", "Standard auction", "Shop inventory, 30 days",
-                  "Without PayPal", "Without Home Page Featured", "Without Bold",
-                  "Offer of 5" + sLess + "142.45", "Offer of 10" + sLess + "134.96",
-                  "Offer of 15" + sLess + "127.46", "Offer of 20" + sLess + "119.96", "Unsold"));
+                  "As it is: fixed price", "Standard auction", "Without PayPal",
+                  "Without Home Page Featured", "Without Bold", "Offer of 5" + sLess + "142.45",
+                  "Offer of 10" + sLess + "134.96", "Offer of 15" + sLess + "127.46",
+                  "Offer of 20" + sLess + "119.96", "Unsold"));
   EXPECT_EQ(TextOf(oAuction), kType + kRest);
 }
 
