@@ -78,7 +78,11 @@ class Mirror {
     m_oSet.RefreshSums(m_oEmpty, true);  // whatever the view has shown before
     m_oSet.RefreshSums(*oFresh, true);
     m_oAuction = std::move(oFresh);  // only now: the set still used the old one
-    std::string sDifferences;
+    const auto& oCarAd =
+        dynamic_cast<const Choice&>(ControlOf(oSeen.ctlSellingFeaturesSection, "chkCarAd"));
+    const bool bStale =
+        oCarAd.Value() != 0 && !oAuction.m_oSellingFeatures.HasFeature(kFeatureCarAd);
+    std::string sDifferences = bStale ? "chkCarAd " : "";
     const auto aoSeen = AllOf(oSeen);
     const auto aoWanted = AllOf(m_oSet);
     for (std::size_t i = 0; i < aoSeen.size(); ++i) {
