@@ -9,12 +9,19 @@
 namespace quillet {
 namespace {
 
-constexpr std::array<std::pair<PartKind, Ink>, 8> kInks = {{
+constexpr std::array<std::pair<PartKind, Ink>, 14> kInks = {{
     {PartKind::Outlay, Ink::Slate},
     {PartKind::Insertion, Ink::Peach},
     {PartKind::Features, Ink::Peach},
     {PartKind::Reserve, Ink::Sand},
     {PartKind::FinalValue, Ink::Orange},
+    // There aren't as many inks as parts; neighbours differ.
+    {PartKind::Category, Ink::Orange},
+    {PartKind::Order, Ink::Sand},
+    {PartKind::Regulatory, Ink::Peach},
+    {PartKind::Advertising, Ink::Rust},
+    {PartKind::Surcharges, Ink::Orange},
+    {PartKind::TaxOnFees, Ink::Sand},
     {PartKind::PayPal, Ink::Rust},
     {PartKind::Postage, Ink::Sky},
     {PartKind::Profit, Ink::Green},
