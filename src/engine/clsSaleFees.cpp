@@ -8,11 +8,11 @@
 namespace quillet {
 namespace {
 
-/// Sums and products of them are exact: a double has neither 0.136 nor a half of a cent in
-/// 13.6 % of 18.75, and what it has instead may lie on the other side of that half.
+/// Sums and products of these are exact. Doubles would make less than 2.675 of 10 % of 26.75, and
+/// round it down.
 __extension__ using Wide = __int128;
 
-constexpr std::int64_t kWhole = 1'000'000;     // a Rate of 100 %
+constexpr std::int64_t kWhole = 1'000'000;     // a Rate of 100 %, and a cent as FineAmount
 constexpr Wide kCent = Wide{kWhole} * kWhole;  // a cent of an amount times a rate
 constexpr double kLargestAmount = 1e14;
 
@@ -31,8 +31,8 @@ std::int64_t Rounded(Wide nDividend, Wide nDivisor) {
   return static_cast<std::int64_t>(nTwice % (2 * nDivisor) < 0 ? nQuotient - 1 : nQuotient);
 }
 
-/// An amount that stands for several equal ones: all that is sold for its items, or its orders.
-/// They needn't divide evenly, as tiers are multiplied instead.
+/// The sum of several equal amounts: of the items sold, or of the orders. It needn't divide evenly,
+/// as tiers are multiplied instead.
 struct Lot {
   Wide nAmount = 0;  ///< as FineAmount
   std::int64_t nCount = 1;
@@ -41,9 +41,13 @@ struct Lot {
   [[nodiscard]] std::int64_t ValueIn(const SaleTable& oTable) const {
     const auto oFound =
         std::find_if(oTable.aoTiers.begin(), oTable.aoTiers.end(), [this](const SaleTier& oTier) {
-          return nAmount >= Wide{oTier.nStart} * nCount && nAmount <= Wide{oTier.nEnd} * nCount;
+          return nAmount >= Wide{oTier.nStart} * nCount && nAmount <= EndOf(oTier);
         });
     return oFound != oTable.aoTiers.end() ? oFound->nValue : 0;
+  }
+
+  [[nodiscard]] Wide EndOf(const SaleTier& oTier) const {
+    return oTier.IsEndless() ? nAmount : Wide{oTier.nEnd} * nCount;
   }
 
   /// Each tier's rate on what lies in it.
@@ -51,8 +55,7 @@ struct Lot {
     Wide nSum = 0;
     for (const SaleTier& oTier : oTable.aoTiers) {
       const Wide nStart = Wide{oTier.nStart} * nCount;
-      const Wide nEnd = std::min(nAmount, Wide{oTier.nEnd} * nCount);
-      nSum += std::max<Wide>(nEnd - nStart, 0) * oTier.nValue;
+      nSum += std::max<Wide>(std::min(nAmount, EndOf(oTier)) - nStart, 0) * oTier.nValue;
     }
     return nSum;
   }

@@ -175,18 +175,17 @@ PriceKey clsSellingFeatures::GetPriceKey(const KeyText& oName) const {
 
 /// A price that the schedule lacks stays as it was, even if it is that of another kind of listing.
 void clsSellingFeatures::RefreshPrices() {
-  RefreshPrices(GetPriceKey(""));
+  RefreshPrices(GetPriceKey(""), Duration());
   if (HasFeesOfToday() && AuctionType().HasFixedPrice()) {
-    RefreshPrices(KeyText("FixedFeature"));  // those that differ
+    RefreshPrices(KeyText("FixedFeature"), kShopNone);  // those that differ
   }
 }
 
-void clsSellingFeatures::RefreshPrices(PriceKey oKey) {
-  const std::int32_t nShop = Duration();
+void clsSellingFeatures::RefreshPrices(PriceKey&& oPrefix, std::int32_t nShop) {
   const clsPrices& oPrices = Prices();
   for (const FeaturePrice& oPrice : kFeaturePrices) {
-    const KeyBranch oBranch(oKey);
-    oPrices.GetPrice(oKey.Append(oPrice.oName), this->*oPrice.fPrice, nShop);
+    const KeyBranch oBranch(oPrefix);
+    oPrices.GetPrice(oPrefix.Append(oPrice.oName), this->*oPrice.fPrice, nShop);
   }
 }
 

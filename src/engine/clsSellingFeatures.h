@@ -99,7 +99,7 @@ class clsSellingFeatures {
   [[nodiscard]] bool HasFeesOfToday() const { return AuctionType().m_oSaleFees != nullptr; }
   [[nodiscard]] std::int32_t Duration() const;
   void RefreshPrices();
-  void RefreshPrices(PriceKey oKey);
+  void RefreshPrices(PriceKey&& oPrefix, std::int32_t nShop);
   [[nodiscard]] Single GetBuyItNowFee() const;
   [[nodiscard]] Single GetHomePageFee() const;
   [[nodiscard]] Single GetPicturePackFee() const;

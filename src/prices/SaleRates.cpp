@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 #include "base/conversions.h"
 #include "base/failure.h"
@@ -96,11 +95,10 @@ class Reader {
       if (!fStart || !fEnd || !fTierValue) {
         break;
       }
-      oTable.aoTiers.push_back({FineAmountOf(*fStart),
-                                *fEnd == clsPriceRange::kNoUpperLimit
-                                    ? std::numeric_limits<FineAmount>::max()
-                                    : FineAmountOf(*fEnd),
-                                fnValue(*fTierValue)});
+      oTable.aoTiers.push_back(
+          {FineAmountOf(*fStart),
+           *fEnd == clsPriceRange::kNoUpperLimit ? SaleTier::kNoUpperLimit : FineAmountOf(*fEnd),
+           fnValue(*fTierValue)});
     }
     return oTable;
   }

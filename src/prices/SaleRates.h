@@ -29,8 +29,11 @@ using FineAmount = std::int64_t;
 
 struct SaleTier {
   FineAmount nStart = 0;
-  FineAmount nEnd = 0;      ///< of a tier without an upper limit: what no amount reaches
-  std::int64_t nValue = 0;  ///< a Rate, or of order fees a FineAmount
+  FineAmount nEnd = 0;      ///< or kNoUpperLimit
+  std::int64_t nValue = 0;  ///< a Rate, or for order fees a FineAmount
+
+  static constexpr FineAmount kNoUpperLimit = -1;
+  [[nodiscard]] bool IsEndless() const { return nEnd == kNoUpperLimit; }
 };
 
 struct SaleTable {
