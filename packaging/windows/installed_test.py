@@ -18,7 +18,8 @@ from update_servers import UpdateServers  # noqa: E402
 WINE = next(p for p in ("/usr/lib/wine/wine64", shutil.which("wine64")) if p and os.path.exists(p))
 SETUP = pathlib.Path(sys.argv.pop(1)).resolve()
 PORTABLE = SETUP.with_name(SETUP.name.replace("setup.exe", "portable.zip"))
-SAMPLES = pathlib.Path(__file__).resolve().parents[2] / "data/samples"
+DATA = TESTS.parent / "data"
+SAMPLES = DATA / "samples"
 SETTINGS = r"HKCU\Software\Velmor\Quillet US"
 CONFIG = SETTINGS + r"\Config"
 OPENING = r"HKCU\Software\Classes\Quillet.Auction\shell\open\command"
@@ -107,8 +108,9 @@ class Installed(unittest.TestCase):
     def test_1_the_installer_puts_one_program_without_libraries(self):
         self.install()
         files = {p.name for p in self.screen.folder.iterdir()}
-        self.assertEqual(files, {"quillet.exe", "quillet-calc.exe", "UpdateUS_v0101.dat", "Licences",
-                                 "uninstall.exe"})
+        schedules = {p.name for p in DATA.glob("UpdateUS_*.dat")}
+        self.assertEqual(files, {"quillet.exe", "quillet-calc.exe", "Licences", "uninstall.exe",
+                                 *schedules})
         self.assertTrue(list(self.screen.user.rglob("Start Menu/**/Quillet.lnk")))
         self.assertRegex(self.screen.registry(OPENING, "/ve"), r'Programs\\Quillet\\quillet\.exe" "%1"')
 

@@ -32,7 +32,7 @@ fill_stage() {
     check_program "build/windows/bin/$program.exe"
     cp "build/windows/bin/$program.exe" "$stage"
   done
-  cp -p data/UpdateUS_v0101.dat "$stage"
+  cp -p data/UpdateUS_*.dat "$stage"
   cp LICENSE "$stage/Licences/Quillet.txt"
   cp packaging/THIRD-PARTY.md "$stage/Licences/Others.txt"
   cp packaging/licenses/* "$stage/Licences"
@@ -42,12 +42,21 @@ fill_stage() {
   convert graphics/installer.png "BMP3:$stage/../installer.bmp"  # the kind that the installer takes
 }
 
+# What the uninstaller takes away of the schedules: those that came along, and none of the user's own.
+list_schedules() {
+  local schedule
+  for schedule in data/UpdateUS_*.dat; do
+    echo "Delete \"\$INSTDIR\\$(basename "$schedule")\""
+  done >"$stage/../schedules.nsh"
+}
+
 need_packages run windows
 need_qt
 QUILLET_WINDOWS_QT=$(qt_folder)
 export QUILLET_WINDOWS_QT
 build windows quillet quillet-calc
 fill_stage
+list_schedules
 
 version=$(project_version)
 name=dist/Quillet-$version

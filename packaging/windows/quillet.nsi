@@ -49,9 +49,9 @@ Section
   SetOutPath "$INSTDIR"
   File "${STAGE}/quillet.exe"
   File "${STAGE}/quillet-calc.exe"
-  ; The schedule that an update has fetched is newer than the one that came along.
+  ; A schedule that an update has fetched is newer than the one that came along.
   SetOverwrite ifnewer
-  File "${STAGE}/UpdateUS_v0101.dat"
+  File "${STAGE}/UpdateUS_*.dat"
   SetOverwrite on
   File /r "${STAGE}/Licences"
   WriteUninstaller "$INSTDIR\uninstall.exe"
@@ -100,7 +100,7 @@ FunctionEnd
 Section "Uninstall"
   Delete "$INSTDIR\quillet.exe"
   Delete "$INSTDIR\quillet-calc.exe"
-  Delete "$INSTDIR\UpdateUS_v0101.dat"
+  !include "${STAGE}/../schedules.nsh"
   Delete "$INSTDIR\QlDebug.log"
   RMDir /r "$INSTDIR\Licences"
   Delete "$INSTDIR\uninstall.exe"
