@@ -50,6 +50,8 @@ add_library(quillet_desktop STATIC
   shell/KeptAuction.cpp
   shell/MissingPriceLine.cpp
   shell/PageScroller.cpp
+  shell/ScheduleButton.cpp
+  shell/ScheduleLine.cpp
   shell/ScrollFrame.cpp
   shell/SectionSet.cpp
   shell/SettingsPage.cpp

@@ -139,6 +139,12 @@ Single clsSellingFeatures::DoCalc(const clsAuctionType* oAuctionType, const clsO
   return fSum;
 }
 
+void clsSellingFeatures::ForgetPrices() {
+  for (const FeaturePrice& oPrice : kFeaturePrices) {
+    this->*oPrice.fPrice = 0;
+  }
+}
+
 const clsAuctionType& clsSellingFeatures::AuctionType() const {
   if (m_oAuctionType == nullptr) {
     throw Failure(FailureNumber::ObjectNotSet, "The kind of listing isn't known yet.");

@@ -58,6 +58,9 @@ class clsSellingFeatures {
   /// had. Throws a Failure if no auction type was ever given or a tier table is missing.
   [[nodiscard]] Single DoCalc(const clsAuctionType* oAuctionType, const clsOutlay* oOutlay);
 
+  /// Sets all prices to 0, so that the next DoCalc keeps none of another schedule's.
+  void ForgetPrices();
+
   /// The result of the latest DoCalc.
   [[nodiscard]] Single LastFee() const { return m_fLastFee; }
 

@@ -53,6 +53,11 @@ QIcon ProgramIcon() {
 void InstallTheme() {
   QApplication::setStyle(new ThemeStyle);
   QApplication::setPalette(ThemePalette());
+  QPalette oOfMenus = ThemePalette();
+  for (const auto eRole : {QPalette::Window, QPalette::Base, QPalette::Button}) {
+    oOfMenus.setColor(eRole, InkColour(Ink::Hover));  // they stand out from the window
+  }
+  QApplication::setPalette(oOfMenus, "QMenu");
   QApplication::setFont(ThemeFont(kTextPoints));
   QApplication::setWindowIcon(ProgramIcon());
 }

@@ -5,6 +5,7 @@
 #include <QPixmap>
 #include <QStyleOptionButton>
 #include <QStyleOptionComboBox>
+#include <QStyleOptionMenuItem>
 #include <QStyleOptionSlider>
 #include <QWidget>
 #include <algorithm>
@@ -30,6 +31,7 @@ constexpr double kTwipsOfMark = 165.0;
 constexpr double kTwipsOfMarkAndGap = 255.0;  // up to the text
 constexpr double kTwipsOfTextMargin = 90.0;
 constexpr double kTwipsOfArrow = 112.5;
+constexpr double kTwipsOfTick = 112.5;
 constexpr double kTwipsOfArrowRight = 165.0;  // from its centre to the edge
 constexpr double kIconStroke = 1.8;
 
@@ -132,6 +134,18 @@ void DrawMarkedButton(QPainter& oPainter, const QStyleOptionButton& oButton, boo
             oButton.palette.color(QPalette::WindowText), Qt::TextShowMnemonic);
 }
 
+/// Of items of which one is chosen, that one has a tick.
+void DrawTickOfItem(QPainter& oPainter, const QStyleOptionMenuItem& oItem) {
+  const bool bSelected = (oItem.state & QStyle::State_Selected) != 0;
+  const double fSize = Pixels(kTwipsOfTick);
+  oPainter.save();
+  oPainter.setRenderHint(QPainter::Antialiasing);
+  DrawTick(oPainter,
+           {oItem.rect.left() + fSize, oItem.rect.center().y() + 0.5 - fSize / 2, fSize, fSize},
+           InkColour(bSelected ? Ink::OnAccent : Ink::Accent));
+  oPainter.restore();
+}
+
 /// Drawn like the numeric boxes.
 void DrawInput(QPainter& oPainter, const QStyleOption& oInput) {
   const bool bFocus = (oInput.state & QStyle::State_HasFocus) != 0;
@@ -184,6 +198,14 @@ void ThemeStyle::drawControl(ControlElement eElement, const QStyleOption* pOptio
   } else if (eElement == CE_CheckBox || eElement == CE_RadioButton) {
     DrawMarkedButton(*pPainter, *qstyleoption_cast<const QStyleOptionButton*>(pOption),
                      eElement == CE_RadioButton);
+  } else if (const auto* const pItem = qstyleoption_cast<const QStyleOptionMenuItem*>(pOption);
+             pItem != nullptr && pItem->checkType == QStyleOptionMenuItem::Exclusive) {
+    QStyleOptionMenuItem oItem = *pItem;
+    oItem.checkType = QStyleOptionMenuItem::NotCheckable;
+    QProxyStyle::drawControl(eElement, &oItem, pPainter, pWidget);
+    if (pItem->checked) {
+      DrawTickOfItem(*pPainter, *pItem);
+    }
   } else {
     QProxyStyle::drawControl(eElement, pOption, pPainter, pWidget);
   }

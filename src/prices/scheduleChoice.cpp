@@ -66,8 +66,8 @@ bool StandsBefore(const OfferedSchedule& oLeft, const OfferedSchedule& oRight) {
   if (const auto eOrder = oLeft.oDate <=> oRight.oDate; eOrder != 0) {
     return eOrder > 0;
   }
-  return std::tuple(oLeft.sFile != sDefault, oLeft.sFile) <
-         std::tuple(oRight.sFile != sDefault, oRight.sFile);
+  return std::tuple(oLeft.sFile != sDefault, oLeft.sName, oLeft.sFile) <
+         std::tuple(oRight.sFile != sDefault, oRight.sName, oRight.sFile);
 }
 
 }  // namespace

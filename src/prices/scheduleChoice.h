@@ -17,9 +17,9 @@ struct OfferedSchedule {
 };
 
 /// Every file of the region's name in the program's folder and in that of the user's copies, each
-/// name once and the copy where it counts: the newest first, and of one month the default first.
-/// One that is damaged is among them. A schedule without a name is called by its file's, and so is
-/// one whose name is taken.
+/// name once and the copy where it counts: the newest first, and of one month the default first,
+/// then by name. One that is damaged is among them. A schedule without a name is called by its
+/// file's, and so is one whose name is taken.
 [[nodiscard]] std::vector<OfferedSchedule> SchedulesOnOffer();
 
 /// Loads the schedule of that bare file name into the program's table and stores the choice. A

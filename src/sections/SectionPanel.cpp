@@ -13,6 +13,7 @@
 #include "look/marks.h"
 #include "look/palette.h"
 #include "look/scale.h"
+#include "prices/clsPrices.h"
 #include "sections/VisibleList.h"
 #include "sections/controlHelpers.h"
 #include "sections/inputNames.h"
@@ -185,6 +186,16 @@ bool SectionPanel::ShowTip(QWidget* pInput, const QPoint& oAt) const {
 const clsCalculate* SectionPanel::Auction() const {
   const auto* const pOuter = dynamic_cast<const SectionPanel*>(Container());
   return m_oAuction != nullptr || pOuter == nullptr ? m_oAuction : pOuter->Auction();
+}
+
+void SectionPanel::SetRowCaptionBySchedule(Control& oNamed, const KeyText& oKey) {
+  std::string_view sText;
+  if (!Prices().GetData(oKey, sText)) {
+    sText = std::find_if(m_oDesign.aoControls.begin(), m_oDesign.aoControls.end(),
+                         [&](const ControlDesign& o) { return oNamed.Name() == o.sName; })
+                ->sCaption;
+  }
+  SetRowCaption(oNamed, QString::fromStdString(std::string(sText)));
 }
 
 void SectionPanel::showEvent(QShowEvent* pEvent) {

@@ -17,6 +17,7 @@
 
 #include "controls/Control.h"
 #include "controls/Controls.h"
+#include "prices/PriceKey.h"
 #include "sections/PanelDesign.h"
 #include "sections/clsControlLocator.h"
 #include "sections/ctlNumericText.h"
@@ -105,6 +106,8 @@ class SectionPanel : public QWidget, public Control {
 
   /// Sets a row's caption, and with it the names of its input and its Show box.
   void SetRowCaption(Control& oNamed, const QString& sCaption);
+  /// Sets it to the fee schedule's text under a key, or else to the design's.
+  void SetRowCaptionBySchedule(Control& oNamed, const KeyText& oKey);
 
   /// The tooltip of an input; empty if it has none. Asked for when it is to be shown.
   [[nodiscard]] virtual std::string TipOf(const Control& /*oInput*/,

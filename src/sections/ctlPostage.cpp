@@ -6,7 +6,6 @@
 #include "base/conversions.h"
 #include "base/failure.h"
 #include "base/regionControls.h"
-#include "prices/clsPrices.h"
 #include "prices/money.h"
 #include "sections/controlHelpers.h"
 #include "sections/ctlPostageParcelInsurance.h"
@@ -96,9 +95,7 @@ void ctlPostage::ApplyFeatures(clsPostage& oPostage, const clsOutlay* oOutlay) {
   ShowChoices(oPostage);
   ShowPrices(oPostage);
   ShowWhatIsOpen(oPostage, *oOutlay);
-  if (std::string_view sTitle; Prices().GetData("UsePostTitle", sTitle)) {
-    SetRowCaption(*Find("chkUsePostage"), QString::fromStdString(std::string(sTitle)));
-  }
+  SetRowCaptionBySchedule(*Find("chkUsePostage"), "UsePostTitle");
   // The cost alone; the profit isn't in it.
   ShowSectionTotal(The<Label>("lblTotal"), oPostage.DoCalc(oOutlay));
 }

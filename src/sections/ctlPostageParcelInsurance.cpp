@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "prices/clsPrices.h"
 #include "sections/controlHelpers.h"
 
 namespace quillet {
@@ -48,9 +47,7 @@ void ctlPostageParcelInsurance::ApplyAuctionType(clsPostage& oPostage) {
     Control& oOption = *Find(oBand.sOption);
     SetControlActive(oPostage.CanHaveInsurance(oBand.nCode), oOption, false);
     PriceKey oKey("InsuranceBandName");  // its numbers are one above the bands'
-    if (std::string_view sName; Prices().GetData(oKey.Append(oBand.nCode + 1), sName)) {
-      SetRowCaption(oOption, QString::fromStdString(std::string(sName)));
-    }
+    SetRowCaptionBySchedule(oOption, oKey.Append(oBand.nCode + 1));
   }
 }
 

@@ -249,6 +249,16 @@ void ctlSellingFeatures::SetPictureBounds() {
   }
 }
 
+void ctlSellingFeatures::FollowSchedule() {
+  if (ValueOf("chkPicturePack") != 0) {
+    IgnoreFailure([this] {
+      const PictureBounds oBounds = BoundsOf(true);
+      The<ctlNumericText>("txtExtraPictures").SetMin(oBounds.fMin);
+      The<ctlNumericText>("txtExtraPictures").SetMax(oBounds.fMax);
+    });
+  }
+}
+
 /// Here the Show boxes follow their rows in normal mode too.
 void ctlSellingFeatures::AfterPlacing(const Control& oPlaced) {
   const auto pBox = std::find_if(Controls().begin(), Controls().end(), [&](const Control* p) {

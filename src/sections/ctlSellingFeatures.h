@@ -21,6 +21,9 @@ class ctlSellingFeatures : public SectionPanel {
   /// Unticks the car ad, whose box ApplyFeatures leaves alone.
   void UntickCarAd();
 
+  /// Takes the bounds of the picture pack from another fee schedule, which is in use now.
+  void FollowSchedule();
+
   /// Takes the features whose boxes are unticked out of the model, but for a car ad whose box is
   /// open; true if there were any.
   bool DropUnticked();

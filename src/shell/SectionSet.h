@@ -37,6 +37,9 @@ class SectionSet {
   /// they react, and features that it can't have any more are removed from it.
   void FollowChange(clsCalculate& oDocument);
 
+  /// Another fee schedule is in use: nothing that was taken over from the old one stays.
+  void FollowSchedule() { ctlSellingFeaturesSection.FollowSchedule(); }
+
   [[nodiscard]] bool IsRefreshing() const { return m_bRefreshing; }
 
   /// Outlay, selling features, auction type, PayPal, postage.

@@ -14,7 +14,8 @@
 #include "look/marks.h"
 #include "look/palette.h"
 #include "look/scale.h"
-#include "shell/MissingPriceLine.h"
+#include "shell/ScheduleButton.h"
+#include "shell/ScheduleLine.h"
 #include "shell/tabOrder.h"
 #include "shell/whatif/WhatIfButton.h"
 
@@ -29,10 +30,10 @@ constexpr int kLineTop = 1200;
 constexpr int kLineLeft = 120;
 
 /// In the summary's last row, whose second block is empty, up to the end of its card.
-constexpr int kMissingPriceLeft = 3360;
-constexpr int kMissingPriceTop = 855;
-constexpr int kMissingPriceHeight = 225;
-constexpr int kMissingPriceGap = 225;  // to the view's right edge
+constexpr int kScheduleLineLeft = 3360;
+constexpr int kScheduleLineTop = 855;
+constexpr int kScheduleLineHeight = 225;
+constexpr int kScheduleLineGap = 225;  // to the view's right edge
 
 constexpr int kAbsent = -1;  // an entry of this value counts as none
 
@@ -61,7 +62,7 @@ ctlCalculator::ctlCalculator(QWidget* pParent)
       Control(static_cast<QWidget&>(*this)),
       m_oSet(
           *this, [this](bool bDocDirty) { emit Changed(bDocDirty); }, [this] { emit Shown(); }),
-      m_pMissingPrice(Make<MissingPriceLine>("MissingPrice", this)),
+      m_pScheduleLine(Make<ScheduleLine>("ScheduleLine", ScheduleLine::Button::AtRight, this)),
       m_pWhatIf(MakeWhatIfButton(this)) {
   PlaceAll(std::to_array<ControlPlace>({
       {&m_oSet.ctlSellingCostsSection, 120, 120, 10755, 960},
@@ -85,6 +86,8 @@ ctlCalculator::ctlCalculator(QWidget* pParent)
     });
   }
   connect(m_pWhatIf, &QAbstractButton::clicked, this, &ctlCalculator::WhatIfClicked);
+  connect(&m_pScheduleLine->Schedule(), &ScheduleButton::Chosen, this,
+          &ctlCalculator::ScheduleChosen);
   connect(qApp, &QApplication::focusChanged, this, &ctlCalculator::FollowFocus);
 }
 
@@ -119,6 +122,15 @@ void ctlCalculator::RefreshSums(bool bUpdateControlDisplays, clsCalculate* pDocu
   }
   m_oDocument = pDocument != nullptr ? pDocument : m_oDocument;
   m_oSet.RefreshSums(Document(), bUpdateControlDisplays);
+}
+
+/// A hidden view takes everything else anew when it is shown.
+void ctlCalculator::FollowSchedule() {
+  m_oSet.FollowSchedule();
+  if (isVisible()) {
+    m_pScheduleLine->Refresh();
+    RefreshSums(true);
+  }
 }
 
 clsCalculate& ctlCalculator::Document() const {
@@ -170,8 +182,8 @@ void ctlCalculator::paintEvent(QPaintEvent* /*pEvent*/) {
 
 /// Each right behind its section, so that the one in front shows its whole edge.
 void ctlCalculator::Placed() {
-  m_pMissingPrice->Place(kMissingPriceLeft, kMissingPriceTop,
-                         Width() - kMissingPriceGap - kMissingPriceLeft, kMissingPriceHeight);
+  m_pScheduleLine->Place(kScheduleLineLeft, kScheduleLineTop,
+                         Width() - kScheduleLineGap - kScheduleLineLeft, kScheduleLineHeight);
   PlaceWhatIf();
   PlaceCards();
 }
@@ -205,7 +217,7 @@ void ctlCalculator::UserControl_Show() {
   }
   LoadSectionPositions();
   FollowPlaces();
-  m_pMissingPrice->Refresh();
+  m_pScheduleLine->Refresh();
   RefreshSums(true);
 }
 
@@ -226,8 +238,8 @@ void ctlCalculator::OrderTabs() {
   for (const std::size_t nSection : ReadingOrder(aoPlaces)) {
     aoInOrder.push_back(aoSections.at(nSection));
   }
-  ChainInputs(*this, aoInOrder);
-  setTabOrder(aoInOrder.back()->InputsInReadingOrder().last(), m_pWhatIf);
+  setTabOrder(ChainInputs(*this, aoInOrder), m_pWhatIf);
+  setTabOrder(m_pWhatIf, &m_pScheduleLine->Schedule());
 }
 
 /// The focus is a section's when any control inside it has it.

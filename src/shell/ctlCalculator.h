@@ -14,7 +14,7 @@ namespace quillet {
 
 class Card;
 class ImageButton;
-class MissingPriceLine;
+class ScheduleLine;
 
 class ctlCalculator : public QWidget, public Control {
   Q_OBJECT
@@ -37,6 +37,10 @@ class ctlCalculator : public QWidget, public Control {
   /// the working auction.
   void RefreshSums(bool bUpdateControlDisplays, clsCalculate* pDocument = nullptr);
 
+  /// Another fee schedule is in use: shows what it makes of the auction on view, which stays as it
+  /// is.
+  void FollowSchedule();
+
   /// The size, in twips, that holds the summary and all sections but the auction type's, which
   /// doesn't count for the window's smallest size.
   void CalcMinSize(int& nWidth, int& nHeight) const;
@@ -55,6 +59,8 @@ class ctlCalculator : public QWidget, public Control {
   void Shown();
   /// The button of the what-if window was clicked.
   void WhatIfClicked();
+  /// The user has chosen another fee schedule, which is loaded.
+  void ScheduleChosen();
 
  protected:
   void showEvent(QShowEvent* pEvent) override;
@@ -76,7 +82,7 @@ class ctlCalculator : public QWidget, public Control {
   void GrowToHold(int& nWidth, int& nHeight, const Control& oControl) const;
 
   SectionSet m_oSet;
-  MissingPriceLine* m_pMissingPrice;
+  ScheduleLine* m_pScheduleLine;
   ImageButton* m_pWhatIf;
   std::array<Card*, 5> m_apCards{};  ///< in the order of the sections
   bool m_bConfigMode = false;

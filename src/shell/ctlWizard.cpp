@@ -17,8 +17,9 @@
 #include "look/palette.h"
 #include "look/scale.h"
 #include "sections/controlHelpers.h"
-#include "shell/MissingPriceLine.h"
 #include "shell/PageScroller.h"
+#include "shell/ScheduleButton.h"
+#include "shell/ScheduleLine.h"
 #include "shell/WizardSteps.h"
 #include "shell/tabOrder.h"
 #include "shell/whatif/WhatIfButton.h"
@@ -32,8 +33,8 @@ constexpr int kDesignWidth = 10335;
 constexpr int kDesignHeight = 9015;
 constexpr int kBelowSummary = 500;
 constexpr int kLineAboveSummary = 120;
-constexpr int kMissingPriceGap = 120;  // below the summary
-constexpr int kMissingPriceHeight = 255;
+constexpr int kScheduleLineGap = 120;  // below the summary
+constexpr int kScheduleLineHeight = 255;
 constexpr int kButtonTop = 120;
 constexpr int kButtonWidth = 1965;
 constexpr int kButtonHeight = 495;
@@ -60,7 +61,7 @@ ctlWizard::ctlWizard(QWidget* pParent)
       m_aPages(MakePages()),
       m_pInfo(Make<Label>("lblInfo", this)),
       m_pSteps(Make<WizardSteps>("Steps", this)),
-      m_pMissingPrice(Make<MissingPriceLine>("MissingPrice", this)),
+      m_pScheduleLine(Make<ScheduleLine>("ScheduleLine", ScheduleLine::Button::AtLeft, this)),
       m_pButtons(Make<Frame>("fraButtons", this)),
       m_pBack(Make<ImageButton>("imgBack", m_pButtons)),
       m_pNext(Make<ImageButton>("imgNext", m_pButtons)),
@@ -151,10 +152,12 @@ void ctlWizard::MakeButtons() {
     pBefore = pButton;
   }
   setTabOrder(pBefore, m_pWhatIf);
+  setTabOrder(m_pWhatIf, &m_pScheduleLine->Schedule());
   connect(m_pBack, &QAbstractButton::clicked, this, &ctlWizard::imgBack_Click);
   connect(m_pNext, &QAbstractButton::clicked, this, &ctlWizard::imgNext_Click);
   connect(m_pCancel, &QAbstractButton::clicked, this, &ctlWizard::FinishWizard);
   connect(m_pWhatIf, &QAbstractButton::clicked, this, &ctlWizard::WhatIfClicked);
+  connect(&m_pScheduleLine->Schedule(), &ScheduleButton::Chosen, this, &ctlWizard::ScheduleChosen);
 }
 
 /// Alt+Right does nothing on the last page: only Finish and Enter end the wizard.
@@ -180,6 +183,15 @@ void ctlWizard::RefreshSums(bool bUpdateControlDisplays) {
   m_oSet.RefreshSums(WorkingAuction(), bUpdateControlDisplays);
 }
 
+/// A hidden view takes everything else anew when it is shown.
+void ctlWizard::FollowSchedule() {
+  m_oSet.FollowSchedule();
+  if (isVisible()) {
+    m_pScheduleLine->Refresh();
+    RefreshSums(true);
+  }
+}
+
 void ctlWizard::showEvent(QShowEvent* pEvent) {
   QWidget::showEvent(pEvent);
   if (!pEvent->spontaneous()) {
@@ -194,7 +206,7 @@ void ctlWizard::UserControl_Show() {
     }
   }
   m_oSet.ctlSellingCostsSection.SetMode(1);
-  m_pMissingPrice->Refresh();
+  m_pScheduleLine->Refresh();
   ShowPage(0);
   RefreshSums(true);
   UserControl_Resize();
@@ -265,8 +277,8 @@ void ctlWizard::UserControl_Resize() {
   m_pButtons->SetLeft(std::max(Width() - m_pButtons->Width(), oSummary.Left() + oSummary.Width()));
   m_pButtons->SetTop(Height() - m_pButtons->Height() - kBelowSummary);
   oSummary.SetTop(Height() - oSummary.Height() - kBelowSummary);
-  m_pMissingPrice->Place(oSummary.Left(), Height() - kBelowSummary + kMissingPriceGap,
-                         Width() - 2 * oSummary.Left(), kMissingPriceHeight);
+  m_pScheduleLine->Place(oSummary.Left(), Height() - kBelowSummary + kScheduleLineGap,
+                         Width() - 2 * oSummary.Left(), kScheduleLineHeight);
   m_pWhatIf->Place(oSummary.Left() + oSummary.Width() + kWhatIfGap, oSummary.Top(), kWhatIfWidth,
                    kWhatIfHeight);
   m_lLineTop = oSummary.Top() - kLineAboveSummary;

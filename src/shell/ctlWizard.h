@@ -14,7 +14,7 @@
 namespace quillet {
 
 class ImageButton;
-class MissingPriceLine;
+class ScheduleLine;
 class PageScroller;
 class WizardSteps;
 
@@ -39,6 +39,9 @@ class ctlWizard : public QWidget, public Control {
   /// Calculates the working auction and shows it.
   void RefreshSums(bool bUpdateControlDisplays);
 
+  /// As the calculator's.
+  void FollowSchedule();
+
   /// The current page; none before the view is first shown. Each showing starts at the first page.
   [[nodiscard]] const std::optional<WizardPage>& Current() const { return m_tCurrent; }
 
@@ -50,6 +53,8 @@ class ctlWizard : public QWidget, public Control {
   void Shown();
   /// The button of the what-if window was clicked.
   void WhatIfClicked();
+  /// As the calculator's.
+  void ScheduleChosen();
   /// Finished or cancelled, which is the same: what was entered stays.
   void WizardComplete();
 
@@ -84,7 +89,7 @@ class ctlWizard : public QWidget, public Control {
   std::optional<WizardPage> m_tCurrent;
   Label* m_pInfo;
   WizardSteps* m_pSteps;
-  MissingPriceLine* m_pMissingPrice;
+  ScheduleLine* m_pScheduleLine;
   Frame* m_pButtons;
   ImageButton* m_pBack;
   ImageButton* m_pNext;

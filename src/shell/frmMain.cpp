@@ -71,6 +71,8 @@ frmMain::frmMain()
   connect(m_pCalculator, &ctlCalculator::WhatIfClicked, this, &frmMain::ShowWhatIf);
   connect(m_pWizard, &ctlWizard::Shown, this, &frmMain::FollowWithWhatIf);
   connect(m_pWizard, &ctlWizard::WhatIfClicked, this, &frmMain::ShowWhatIf);
+  connect(m_pCalculator, &ctlCalculator::ScheduleChosen, this, &frmMain::FollowSchedule);
+  connect(m_pWizard, &ctlWizard::ScheduleChosen, this, &frmMain::FollowSchedule);
   connect(m_pWizard, &ctlWizard::WizardComplete, this,
           [this] { IgnoreFailure([this] { ClickButton(kButtonCalculator); }); });
 }
@@ -219,6 +221,16 @@ void frmMain::ShowWizard() {
   m_pLhs->MarkCurrent(kButtonWizard);
   Form_Resize();
   m_pRhs->ShowBeginning();
+}
+
+/// Nothing of the old schedule stays, be it in a view that is hidden.
+void frmMain::FollowSchedule() {
+  for (clsCalculate* const pAuction : {&WorkingAuction(), &DefaultAuction()}) {
+    pAuction->m_oSellingFeatures.ForgetPrices();
+  }
+  m_pCalculator->FollowSchedule();
+  m_pWizard->FollowSchedule();
+  Form_Resize();
 }
 
 /// Returns when the window about the product is closed.

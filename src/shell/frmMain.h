@@ -76,6 +76,7 @@ class frmMain : public QWidget, private DocumentView, private AuctionView {
   void ShowWhatIf();
   void FollowWithWhatIf();
   void StorePlaces() const;
+  void FollowSchedule();
   void PushDocument(bool bConfigMode, clsCalculate& oDocument, const std::string& sTitle);
   void LeaveBox();
   void FitFirstStart();

@@ -36,7 +36,7 @@ std::vector<std::size_t> ReadingOrder(const std::vector<SectionPlace>& aoPlaces)
   return anOrder;
 }
 
-void ChainInputs(QWidget& oView, const std::vector<SectionPanel*>& aoSections) {
+QWidget* ChainInputs(QWidget& oView, const std::vector<SectionPanel*>& aoSections) {
   QWidget* pBefore = &oView;
   for (const SectionPanel* const pSection : aoSections) {
     for (QWidget* const pInput : pSection->InputsInReadingOrder()) {
@@ -44,6 +44,7 @@ void ChainInputs(QWidget& oView, const std::vector<SectionPanel*>& aoSections) {
       pBefore = pInput;
     }
   }
+  return pBefore;
 }
 
 }  // namespace quillet

@@ -21,6 +21,6 @@ struct SectionPlace {
 [[nodiscard]] std::vector<std::size_t> ReadingOrder(const std::vector<SectionPlace>& aoPlaces);
 
 /// Lets Tab go from the view through all inputs of the sections, one section after the other.
-void ChainInputs(QWidget& oView, const std::vector<SectionPanel*>& aoSections);
+QWidget* ChainInputs(QWidget& oView, const std::vector<SectionPanel*>& aoSections);
 
 }  // namespace quillet
