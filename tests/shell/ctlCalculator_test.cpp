@@ -16,6 +16,7 @@
 #include "look/scale.h"
 #include "sections/VisibleList.h"
 #include "sections/controlHelpers.h"
+#include "shell/ScheduleButton.h"
 #include "shell/ctlWizard.h"
 #include "shell/tabOrder.h"
 #include "support/Auctions.h"
@@ -192,12 +193,17 @@ std::string MissingPriceIn(View& oView) {
     SetZoom(fZoom);
     oView.Rescale();
     RescaleAll(oView);
+    const auto fnPlace = [&](const QWidget& o) {
+      return QRect(o.mapTo(&oView, QPoint()), o.size());
+    };
+    const QRect oPlace =
+        fnPlace(oLine).united(fnPlace(*oView.template findChild<ScheduleButton*>()));
     for (const Label* const pFigure :
          oView.Set().ctlSellingCostsSection.template findChildren<Label*>()) {
-      const QRect oPlace(pFigure->mapTo(&oView, QPoint()), pFigure->size());
-      EXPECT_FALSE(oLine.geometry().intersects(oPlace)) << pFigure->Name() << " at " << fZoom;
+      EXPECT_FALSE(oPlace.intersects(fnPlace(*pFigure))) << pFigure->Name() << " at " << fZoom;
     }
-    EXPECT_TRUE(oView.rect().contains(oLine.geometry()));
+    EXPECT_FALSE(oPlace.intersects(fnPlace(*oView.template findChild<QWidget*>("imgWhatIf"))));
+    EXPECT_TRUE(oView.rect().contains(oPlace));
   }
   return oLine.Visible() ? oLine.Caption().toStdString() : "";
 }

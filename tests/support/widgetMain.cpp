@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "base/basCommon.h"
 #include "base/clsRegistryAccess.h"
 #include "look/Theme.h"
 #include "look/scale.h"
@@ -30,6 +31,7 @@ class FreshStart : public ::testing::EmptyTestEventListener {
     quillet::SetZoom(1.0);
     m_oHive.Clear();
     quillet::SetRegistryHive(m_oHive);
+    quillet::ChooseUpdateFile("");
     quillet::UseShippedSchedule();
     quillet::Registry().Set(quillet::settings::kZoom, "100");
     quillet::ClearAuctions();
