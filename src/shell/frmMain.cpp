@@ -80,8 +80,10 @@ frmMain::frmMain()
 frmMain::~frmMain() = default;
 
 void frmMain::MakeShortcuts() {
-  const auto fnAdd = [this](const char* sKeys, const auto& fnAction) {
+  const auto fnAdd = [this](const char* sKeys, const auto& fnAction,
+                            Qt::ShortcutContext eContext = Qt::WindowShortcut) {
     auto* const pShortcut = new QShortcut(QKeySequence(sKeys), this);
+    pShortcut->setContext(eContext);
     connect(pShortcut, &QShortcut::activated, this, [fnAction] { IgnoreFailure(fnAction); });
   };
   fnAdd("Ctrl+Q", [this] {
@@ -89,10 +91,13 @@ void frmMain::MakeShortcuts() {
     close();
   });
   for (const char* const sKeys : {"Ctrl++", "Ctrl+="}) {
-    fnAdd(sKeys, [this] { m_oZoom.Step(true); });
+    fnAdd(
+        sKeys, [this] { m_oZoom.Step(true); }, Qt::ApplicationShortcut);
   }
-  fnAdd("Ctrl+-", [this] { m_oZoom.Step(false); });
-  fnAdd("Ctrl+0", [this] { m_oZoom.SetPercent(100); });
+  fnAdd(
+      "Ctrl+-", [this] { m_oZoom.Step(false); }, Qt::ApplicationShortcut);
+  fnAdd(
+      "Ctrl+0", [this] { m_oZoom.SetPercent(100); }, Qt::ApplicationShortcut);
   fnAdd(kWhatIfKey, [this] { ShowWhatIf(); });
 }
 
@@ -252,8 +257,19 @@ void frmMain::ShowWhatIf() {
   ctlNumericText::CommitFocused();
   if (m_frmWhatIf == nullptr) {
     m_frmWhatIf = std::make_unique<frmWhatIf>(static_cast<AuctionView&>(*this), this);
+    connect(m_frmWhatIf.get(), &frmWhatIf::Entered, this, &frmMain::EnterTyping);
   }
   m_frmWhatIf->Open();
+}
+
+/// A box of this window keeps its focus, and what was typed, while another window is active.
+void frmMain::EnterTyping() {
+  if (focusWidget() == nullptr) {
+    return;
+  }
+  if (auto* const pBox = qobject_cast<ctlNumericText*>(focusWidget()->parent())) {
+    pBox->CommitTyping();
+  }
 }
 
 void frmMain::FollowWithWhatIf() {

@@ -74,6 +74,7 @@ class frmMain : public QWidget, private DocumentView, private AuctionView {
   void ShowConfiguration();
   void ShowAboutBox();
   void ShowWhatIf();
+  void EnterTyping();
   void FollowWithWhatIf();
   void StorePlaces() const;
   void FollowSchedule();

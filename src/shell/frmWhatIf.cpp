@@ -40,6 +40,7 @@ constexpr int kDesignHeight = 12930;
 constexpr int kMargin = 210;
 constexpr int kFocusMargin = 360;  // that the frame leaves around what has the focus
 constexpr int kBetween = 165;
+constexpr int kTwoColumns = 15000;  // from here on the table stands beside the other cards
 constexpr int kButtonRow = 420;
 constexpr int kUndoWidth = 960;
 constexpr int kCopyWidth = 1650;
@@ -98,12 +99,18 @@ void frmWhatIf::MakeButtons() {
 }
 
 void frmWhatIf::MakeCards() {
-  auto* const pLayout = new QVBoxLayout(&m_pCards->Content());
+  m_pColumns = new QBoxLayout(QBoxLayout::TopToBottom, &m_pCards->Content());
+  m_pFirst = new QVBoxLayout;
   m_pCards->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);  // it is drawn only where it scrolls
-  for (QWidget* const pCard :
-       std::initializer_list<QWidget*>{m_pFigures, m_pMoney, m_pGoal, m_pCurve, m_pTable}) {
-    pLayout->addWidget(pCard);
+  for (TitledCard* const pCard :
+       std::initializer_list<TitledCard*>{m_pFigures, m_pMoney, m_pGoal, m_pCurve}) {
+    m_pFirst->addWidget(pCard);
   }
+  m_pColumns->addLayout(m_pFirst, 1);
+  auto* const pSecond = new QVBoxLayout;
+  pSecond->addWidget(m_pTable);
+  pSecond->addStretch();
+  m_pColumns->addLayout(pSecond, 1);
   connect(m_pGoal, &GoalCard::GoalChanged, this, &frmWhatIf::Show);
   connect(m_pGoal, &GoalCard::UseClicked, this, [this](Cents nPrice) { Use(SellFor(nPrice)); });
   connect(m_pTable, &TableCard::UseClicked, this, [this](const Change& oChange) {
@@ -245,6 +252,7 @@ void frmWhatIf::LayOut() {
   oCards.setContentsMargins(nMargin, nMargin,
                             nMargin - style()->pixelMetric(QStyle::PM_ScrollBarExtent), 0);
   oCards.setSpacing(Pixels(kBetween));
+  m_pFirst->setSpacing(Pixels(kBetween));
   m_pFault->setContentsMargins(nMargin, nMargin, nMargin, 0);
   m_pButtons->setFixedHeight(Pixels(kButtonRow));
   PlaceButtons();
@@ -267,7 +275,16 @@ void frmWhatIf::PlaceButtons() {
 
 void frmWhatIf::resizeEvent(QResizeEvent* pEvent) {
   QWidget::resizeEvent(pEvent);
+  m_pColumns->setDirection(Twips(width()) >= kTwoColumns ? QBoxLayout::LeftToRight
+                                                         : QBoxLayout::TopToBottom);
   PlaceButtons();
+}
+
+void frmWhatIf::changeEvent(QEvent* pEvent) {
+  QWidget::changeEvent(pEvent);
+  if (pEvent->type() == QEvent::ActivationChange && isActiveWindow()) {
+    emit Entered();
+  }
 }
 
 void frmWhatIf::closeEvent(QCloseEvent* pEvent) {

@@ -8,6 +8,8 @@
 #include "shell/whatif/Answers.h"
 #include "shell/whatif/Uses.h"
 
+class QBoxLayout;
+
 namespace quillet {
 
 class CurveCard;
@@ -48,7 +50,12 @@ class frmWhatIf : public QWidget {
   /// Takes all measures anew, after a change of zoom.
   void Rescale();
 
+ signals:
+  /// The window has become the active one.
+  void Entered();
+
  protected:
+  void changeEvent(QEvent* pEvent) override;
   void closeEvent(QCloseEvent* pEvent) override;
   void keyPressEvent(QKeyEvent* pEvent) override;
   void resizeEvent(QResizeEvent* pEvent) override;
@@ -80,6 +87,8 @@ class frmWhatIf : public QWidget {
   GoalCard* m_pGoal;
   CurveCard* m_pCurve;
   TableCard* m_pTable;
+  QBoxLayout* m_pColumns = nullptr;
+  QBoxLayout* m_pFirst = nullptr;  ///< all cards but the table
   QWidget* m_pButtons;
   ImageButton* m_pUndo;
   ImageButton* m_pCopy;

@@ -2,9 +2,11 @@
 #include "shell/frmWhatIf.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QClipboard>
 #include <QLabel>
 #include <QTableView>
+#include <set>
 
 #include <gtest/gtest.h>
 
@@ -87,9 +89,7 @@ TEST_F(WhatIf, ARowThatIsUsedIsOnScreenAndTakenBackToTheDigit) {
       const std::string sProfit = Cell(nRow, 2);
       const bool bAsItIs = sName.starts_with("As it is");
       UseRow(nRow);
-      if (sName.rfind("With", 0) == 0) {
-        EXPECT_EQ(FormatMoney(WorkingAuction().m_fProfit), sProfit);
-      }
+      EXPECT_EQ(FormatMoney(WorkingAuction().m_fProfit), sProfit);
       EXPECT_EQ(m_oMirror.Differences(Set(), WorkingAuction()), "");
       EXPECT_EQ(WorkingAuction().IsDirty(), !bAsItIs);
       Undo();
@@ -144,6 +144,38 @@ TEST_F(WhatIf, FollowsTheAuctionOfEveryViewWhileItIsOpen) {
   m_oMain.Wizard().RefreshSums(true);
   m_oMain.ClickButton(kButtonCalculator);
   EXPECT_TRUE(fnPays("3")) << "a closed window is left alone";
+}
+
+TEST_F(WhatIf, WhatIsTypedInTheMainWindowCountsOnceThisOneIsActive) {
+  m_oMain.activateWindow();
+  QApplication::processEvents();
+  auto& oQuantity = dynamic_cast<ctlNumericText&>(ControlOf(Set().ctlOutlaySection, "txtQuantity"));
+  oQuantity.TextBox()->setFocus(Qt::TabFocusReason);
+  QTest::keyClicks(oQuantity.TextBox(), "3");
+  m_pWindow->activateWindow();
+  QApplication::processEvents();
+  EXPECT_EQ(WorkingAuction().m_oOutlay.m_lQuantity, 3);
+}
+
+TEST_F(WhatIf, TabReachesWhateverTakesTheFocusAndHasAName) {
+  Load(SampleTexts().front());
+  UseRow(1);  // so that there is something to undo
+  m_pWindow->activateWindow();
+  QApplication::processEvents();
+  std::set<const QWidget*> apReached;
+  for (int i = 0; i < 20; ++i) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    apReached.insert(QApplication::focusWidget());
+  }
+  for (QWidget* const pPart : m_pWindow->findChildren<QWidget*>()) {
+    if ((pPart->focusPolicy() & Qt::TabFocus) != 0 && pPart->focusProxy() == nullptr &&
+        pPart->isVisible() && pPart->isEnabled()) {
+      const std::string sPart =
+          pPart->metaObject()->className() + pPart->objectName().toStdString();
+      EXPECT_TRUE(apReached.contains(pPart)) << sPart;
+      EXPECT_NE(QAccessible::queryAccessibleInterface(pPart)->text(QAccessible::Name), "") << sPart;
+    }
+  }
 }
 
 TEST_F(WhatIf, TheGoalGivesThePriceThatIsUsed) {

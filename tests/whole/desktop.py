@@ -101,6 +101,20 @@ class Screen:
     def type(self, text):
         self.output("xdotool", "type", "--delay", "15", text)
 
+    def clipboard(self):
+        """What was copied, as another program gets it; an empty text for nothing."""
+        from Xlib import X, display
+        connection = display.Display(self.environment["DISPLAY"])
+        asker = connection.screen().root.create_window(0, 0, 1, 1, 0, X.CopyFromParent)
+        answer = connection.intern_atom("ANSWER")
+        asker.convert_selection(connection.intern_atom("CLIPBOARD"),
+                                connection.intern_atom("UTF8_STRING"), answer, X.CurrentTime)
+        while connection.next_event().type != X.SelectionNotify:
+            pass
+        text = asker.get_full_property(answer, X.AnyPropertyType)
+        connection.close()
+        return text.value.decode() if text else ""
+
     def drag(self, start, end):
         steps = [((start[0] * (8 - i) + end[0] * i) // 8, (start[1] * (8 - i) + end[1] * i) // 8)
                  for i in range(9)]

@@ -90,6 +90,41 @@ class WholeProgram(unittest.TestCase):
         self.assertIn("Forms\\Main\\Left", screen.settings())
 
     @on_a_screen
+    def test_what_if_finds_a_price_uses_it_and_takes_it_back(self):
+        screen = self.screen
+        file = screen.home / "Documents/camera.qlt"
+        shutil.copy(SAMPLES / "used-camera.qlt", file)
+        screen.start("quillet", file)
+        screen.keys("ctrl+3")
+        screen.window("What if - Quillet US")
+        screen.type("20")
+        screen.keys("Return", "alt+u")  # the goal, then "Use it"
+        wait_for("the star", lambda: screen.windows(r"Quillet US - camera\*"))
+        screen.keys("alt+t")
+        copied = wait_for("the copied text", screen.clipboard)
+        self.assertRegex(copied, r"\nProfit\t20\.0\d\t")
+        self.assertRegex(copied, r"\nAs it is: standard auction\t\d+\.\d\d\t20\.0\d\t0\.00\n")
+        screen.keys("ctrl+z")
+        wait_for("the star's end", lambda: screen.windows("Quillet US - camera"))
+        moved = screen.window("What if - Quillet US")
+        screen.output("xdotool", "windowmove", "--sync", moved, "111", "77")
+        screen.keys("Escape")
+        wait_for("the window's end", lambda: not screen.windows("What if.*"))
+        place = re.compile(r"WhatIf\\(?:Left|Top)=(\d+)")
+        stored = wait_for("the stored place", lambda: place.findall(screen.settings()))
+        screen.window("Quillet US - camera")
+        screen.keys("ctrl+3")
+        screen.window("What if - Quillet US")
+        screen.keys("Escape")
+        wait_for("the window's end", lambda: not screen.windows("What if.*"))
+        screen.window("Quillet US - camera")
+        screen.keys("ctrl+q")
+        self.assertEqual(screen.gone(), 0)
+        self.assertEqual(place.findall(screen.settings()), stored)
+        self.assertEqual(file.read_text(encoding="utf-8"),
+                         (SAMPLES / "used-camera.qlt").read_text(encoding="utf-8"))
+
+    @on_a_screen
     def test_a_schedule_that_is_missing_or_useless_is_said_and_ends_the_program(self):
         screen = self.screen
         folder = screen.home / "program"

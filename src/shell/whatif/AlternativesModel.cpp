@@ -52,6 +52,8 @@ QVariant AlternativesModel::data(const QModelIndex& oIndex, int nRole) const {
   switch (nRole) {
     case Qt::DisplayRole:
       return Text(At(oIndex.row()), oIndex.column());
+    case Qt::ToolTipRole:
+      return Text(At(oIndex.row()), kName) + "\nA double click, or Enter, uses it";
     case Qt::ForegroundRole:
       return Colour(oIndex.row(), oIndex.column());
     case Qt::TextAlignmentRole:

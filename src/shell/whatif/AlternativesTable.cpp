@@ -4,10 +4,12 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyledItemDelegate>
+#include <algorithm>
 
 #include "look/font.h"
 #include "look/marks.h"
 #include "look/scale.h"
+#include "shell/whatif/TitledCard.h"
 
 namespace quillet {
 namespace {
@@ -15,7 +17,9 @@ namespace {
 // Twips.
 constexpr int kRow = 332;
 constexpr int kHeadings = 300;
-constexpr int kFigure = 1500;
+constexpr int kName = 2700;  // at least, as far as the figures leave it
+constexpr int kLeastFigure = 900;
+constexpr int kMostFigure = 1500;
 constexpr int kInset = 90;  // of the mark of the current row
 
 class Headings : public QHeaderView {
@@ -23,6 +27,7 @@ class Headings : public QHeaderView {
   explicit Headings(QWidget* pParent) : QHeaderView(Qt::Horizontal, pParent) {
     setSectionsClickable(false);
     setHighlightSections(false);
+    setSectionResizeMode(QHeaderView::Fixed);
   }
 
  protected:
@@ -53,9 +58,15 @@ class RowDelegate : public QStyledItemDelegate {
           QRect(oOption.rect.left(), oOption.rect.top(), Pixels(kInset / 3), oOption.rect.height()),
           InkColour(Ink::Accent));
     }
-    pPainter->setFont(ThemeFont(kTextPoints));
-    pPainter->setPen(oIndex.data(Qt::ForegroundRole).value<QColor>());
     const QRect oWords = oOption.rect.adjusted(Pixels(kInset), 0, -Pixels(kInset), 0);
+    const auto oColour = oIndex.data(Qt::ForegroundRole).value<QColor>();
+    if (oIndex.column() > 0) {
+      DrawFitted(*pPainter, oWords, oIndex.data().toString(), ThemeFont(kTextPoints), oColour,
+                 Qt::AlignRight);
+      return;
+    }
+    pPainter->setFont(ThemeFont(kTextPoints));
+    pPainter->setPen(oColour);
     pPainter->drawText(oWords, oIndex.data(Qt::TextAlignmentRole).toInt() | int{Qt::TextSingleLine},
                        pPainter->fontMetrics().elidedText(oIndex.data().toString(), Qt::ElideRight,
                                                           oWords.width()));
@@ -98,10 +109,22 @@ void AlternativesTable::Rescale() {
   QHeaderView& oHeadings = *horizontalHeader();
   oHeadings.setFixedHeight(Pixels(kHeadings));
   oHeadings.setMinimumSectionSize(1);
-  for (int i = 0; i < oHeadings.count(); ++i) {
-    oHeadings.setSectionResizeMode(i, i == 0 ? QHeaderView::Stretch : QHeaderView::Fixed);
-    oHeadings.resizeSection(i, Pixels(kFigure));
+  PlaceColumns();
+}
+
+void AlternativesTable::PlaceColumns() {
+  QHeaderView& oHeadings = *horizontalHeader();
+  const int nFigures = oHeadings.count() - 1;
+  const int nFigure = std::clamp((Twips(width()) - kName) / nFigures, kLeastFigure, kMostFigure);
+  for (int i = 1; i <= nFigures; ++i) {
+    oHeadings.resizeSection(i, Pixels(nFigure));
   }
+  oHeadings.resizeSection(0, width() - nFigures * Pixels(nFigure));
+}
+
+void AlternativesTable::resizeEvent(QResizeEvent* pEvent) {
+  QTableView::resizeEvent(pEvent);
+  PlaceColumns();
 }
 
 /// A key held down uses one row, not one after the other.

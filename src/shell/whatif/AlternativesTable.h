@@ -17,6 +17,10 @@ class AlternativesTable : public QTableView {
 
  protected:
   void keyPressEvent(QKeyEvent* pEvent) override;
+  void resizeEvent(QResizeEvent* pEvent) override;
+
+ private:
+  void PlaceColumns();
 };
 
 }  // namespace quillet

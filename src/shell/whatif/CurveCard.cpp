@@ -115,7 +115,8 @@ void CurveCard::PaintContent(QPainter& oPainter) {
   if (hasFocus()) {
     constexpr double kRadius = 5.0;
     const double fOutside = Pixels(kDot);
-    DrawRing(oPainter, QRectF(Content()).adjusted(-fOutside, 0, fOutside, fOutside), kRadius);
+    DrawRing(oPainter, QRectF(Content()).adjusted(-fOutside, -fOutside, fOutside, fOutside),
+             kRadius);
   }
 }
 

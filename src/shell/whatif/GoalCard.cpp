@@ -30,9 +30,9 @@ constexpr int kLine = 420;
 constexpr int kLineGap = 120;
 constexpr int kGap = 120;
 constexpr int kToMake = 780;
-constexpr int kBox = 1440;
+constexpr int kBox = 1380;
 constexpr int kBoxHeight = 390;
-constexpr int kKind = 1125;
+constexpr int kKind = 1080;
 constexpr int kKinds = 3 * kKind;
 constexpr int kUse = 1080;
 constexpr int kPrice = 1300;  // at least
@@ -90,6 +90,7 @@ void GoalCard::ChangeKind() {
 }
 
 void GoalCard::ChangeAmount() {
+  m_pBox->SetValue({});  // in the box's format
   m_oGoal.fAmount = m_pBox->Value();
   emit GoalChanged();
 }
@@ -140,11 +141,11 @@ void GoalCard::PaintContent(QPainter& oPainter) {
   }
 }
 
-/// In a box with nothing of its own to undo the window's key is the window's.
+/// Leaves the key for undoing to the window unless something was typed that isn't entered yet.
 bool GoalCard::eventFilter(QObject* pWatched, QEvent* pEvent) {
   if (pEvent->type() == QEvent::ShortcutOverride && pWatched == m_pBox->TextBox() &&
       static_cast<QKeyEvent*>(pEvent)->matches(QKeySequence::Undo) &&
-      !m_pBox->TextBox()->isUndoAvailable()) {
+      !m_pBox->TextBox()->isModified()) {
     pEvent->ignore();
     return true;
   }

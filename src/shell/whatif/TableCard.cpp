@@ -14,7 +14,6 @@ TableCard::TableCard(QWidget* pParent)
       m_pTable(new AlternativesTable(m_pModel, this)) {
   m_pTable->setObjectName("tblAlternatives");
   m_pTable->setAccessibleName("What if: ways to list side by side");
-  m_pTable->setToolTip("A double click, or Enter, uses a row");
   connect(m_pTable, &QAbstractItemView::activated, this, [this](const QModelIndex& oIndex) {
     const Alternative& oRow = m_pModel->At(oIndex.row());
     if (oRow.eKind != AlternativeKind::AsItIs) {

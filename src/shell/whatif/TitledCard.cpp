@@ -16,7 +16,7 @@ constexpr int kAbove = 180;
 constexpr int kBelow = 195;
 constexpr int kTitle = 375;  // and the gap below it
 constexpr int kTitleLine = 225;
-constexpr int kNarrowest = 5100;
+constexpr int kNarrowest = 5970;
 
 }  // namespace
 
