@@ -42,6 +42,7 @@ add_library(quillet_desktop STATIC
   sections/ctlPostage.cpp
   sections/ctlPostageParcelInsurance.cpp
   sections/ctlRealEstateOptions.cpp
+  sections/ctlSaleFees.cpp
   sections/ctlSellingCosts.cpp
   sections/ctlSellingFeatures.cpp
   sections/inputNames.cpp

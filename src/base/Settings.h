@@ -50,13 +50,14 @@ inline constexpr Setting kProxyName{HiveRoot::Machine, R"(Software\Velmor\Gavel 
 /// Size of the interface in percent.
 inline constexpr Setting kZoom{HiveRoot::User, "Config", "Zoom", ""};
 /// Instructions of the wizard's pages, by the number of the frame that a page is in. Read only.
-inline constexpr std::array<Setting, 5> kPageInfo = {{
+inline constexpr std::array<Setting, 6> kPageInfo = {{
     {HiveRoot::User, "Wizard", "Page0",
      "Please enter your costs and the price you wish to sell for."},
     {HiveRoot::User, "Wizard", "Page1", "Please enter your type of auction"},
     {HiveRoot::User, "Wizard", "Page2", "Please enter extra features you want to use"},
     {HiveRoot::User, "Wizard", "Page3", "Do you want to accept payment through PayPal?"},
     {HiveRoot::User, "Wizard", "Page4", "Do you want to send it through Royal Mail?"},
+    {HiveRoot::User, "Wizard", "Page5", "Please choose the category and what eBay charges for"},
 }};
 /// The scrolling message of the about page.
 inline constexpr Setting kAbout{

@@ -13,6 +13,9 @@ class ComboBox : public QComboBox, public Control {
   [[nodiscard]] const char* TypeName() const override { return "ComboBox"; }
 
  protected:
+  /// A choice too long for the box ends in dots.
+  void initStyleOption(QStyleOptionComboBox* pOption) const override;
+
   /// Steps through the list while it has the focus; otherwise the wheel scrolls the page.
   void wheelEvent(QWheelEvent* pEvent) override;
 };

@@ -23,7 +23,10 @@ void AuctionOptionsPanel::ApplyAuctionType(clsAuctionType& oAuctionType) {
     oInput.SetValue(bChosen && bStays ? 1 : 0);
   }
   for (const OptionRow& oRow : m_oOptions.aoRows) {
-    SetControlActive(m_oOptions.fnActive(oAuctionType), *Find(oRow.sName), false);
+    const bool bOnOffer = m_oOptions.IsOnOffer(oRow.nValue);
+    Control& oInput = *Find(oRow.sName);
+    SetControlActive(bOnOffer && m_oOptions.fnActive(oAuctionType), oInput, false);
+    oInput.SetEnabled(bOnOffer);
   }
 }
 
@@ -35,7 +38,7 @@ std::string AuctionOptionsPanel::TipOf(const Control& oInput, const clsCalculate
     return {};
   }
   const std::string sName = WordsOf(oInput).toStdString();
-  if (!m_oOptions.fnActive(oAuction.m_oAuctionType)) {
+  if (!m_oOptions.fnActive(oAuction.m_oAuctionType) || !m_oOptions.IsOnOffer(pRow->nValue)) {
     return NotOnOfferTip(sName);
   }
   const bool bChosen = ValueOf(pRow->sName) != 0;

@@ -27,6 +27,12 @@ struct AuctionOptions {
   std::int32_t clsAuctionType::*m_lField;
   bool (*fnActive)(const clsAuctionType& oAuctionType);  ///< false: the inputs are greyed
   std::span<const OptionRow> aoRows;
+  /// False: that input is closed as well; null if all are on offer.
+  bool (*fnOnOffer)(std::int32_t nValue) = nullptr;
+
+  [[nodiscard]] bool IsOnOffer(std::int32_t nValue) const {
+    return fnOnOffer == nullptr || fnOnOffer(nValue);
+  }
 };
 
 class AuctionOptionsPanel : public SectionPanel {

@@ -1,5 +1,6 @@
 #include "sections/PanelDesign.h"
 
+#include "controls/ComboBox.h"
 #include "controls/Controls.h"
 #include "controls/SectionHeader.h"
 #include "platform/Host.h"
@@ -14,6 +15,7 @@ std::int16_t DecimalPlacesOf(ControlKind eKind) {
     case ControlKind::kMoney:
       return 2;
     case ControlKind::kWeight:
+    case ControlKind::kPercent:
       return 3;
     default:
       return 0;
@@ -25,6 +27,9 @@ Control* MakeNumericBox(ControlKind eKind, QWidget* pParent) {
   pBox->SetDecimalSeperator(TheHost().DecimalSeparator());
   pBox->SetShowMoney(eKind == ControlKind::kMoney);
   pBox->SetDecimalPlaces(DecimalPlacesOf(eKind));
+  if (eKind == ControlKind::kPercent) {
+    pBox->SetMax(100);
+  }
   return pBox;
 }
 
@@ -41,7 +46,10 @@ Control* MakeOfKind(const ControlDesign& oDesign, QWidget* pParent) {
     case ControlKind::kNumber:
     case ControlKind::kMoney:
     case ControlKind::kWeight:
+    case ControlKind::kPercent:
       return MakeNumericBox(oDesign.eKind, pParent);
+    case ControlKind::kList:
+      return new ComboBox(pParent);
     case ControlKind::kFrame:
       return new Frame(pParent);
     case ControlKind::kHeader:

@@ -14,9 +14,11 @@ enum class ControlKind {
   kLabel,
   kCheckBox,
   kOption,
-  kNumber,  ///< numeric box for whole numbers
-  kMoney,   ///< numeric box with currency symbol and two decimals
-  kWeight,  ///< numeric box with three decimals
+  kNumber,   ///< numeric box for whole numbers
+  kMoney,    ///< numeric box with currency symbol and two decimals
+  kWeight,   ///< numeric box with three decimals
+  kPercent,  ///< the same, from 0 to 100
+  kList,     ///< box that opens a list to choose from
   kFrame,
   kHeader,  ///< the bar by which the panel is dragged
   kSubControl,

@@ -9,6 +9,7 @@
 
 #include "base/FlagGuard.h"
 #include "base/failure.h"
+#include "controls/ComboBox.h"
 #include "controls/SectionHeader.h"
 #include "look/marks.h"
 #include "look/palette.h"
@@ -71,6 +72,8 @@ void SectionPanel::Listen(Control& oControl) {
     connect(pButton, &QAbstractButton::toggled, this, fnClicked);
   } else if (auto* const pBox = dynamic_cast<ctlNumericText*>(&oControl)) {
     connect(pBox, &ctlNumericText::Changed, this, fnClicked);
+  } else if (auto* const pList = dynamic_cast<ComboBox*>(&oControl)) {
+    connect(pList, &QComboBox::currentIndexChanged, this, fnClicked);
   } else if (auto* const pPanel = dynamic_cast<SectionPanel*>(&oControl)) {
     connect(pPanel, &SectionPanel::Changed, this, fnClicked);
   } else if (auto* const pHeader = dynamic_cast<SectionHeader*>(&oControl)) {
@@ -118,7 +121,8 @@ QList<QWidget*> SectionPanel::InputsInReadingOrder() const {
       std::copy(aoInside.begin(), aoInside.end(), std::back_inserter(aoInputs));
     } else if (auto* const pBox = dynamic_cast<ctlNumericText*>(pControl)) {
       aoInputs += pBox->TextBox();
-    } else if (dynamic_cast<Choice*>(pControl) != nullptr && pControl->Container() == this) {
+    } else if (dynamic_cast<ComboBox*>(pControl) != nullptr ||
+               (dynamic_cast<Choice*>(pControl) != nullptr && pControl->Container() == this)) {
       aoInputs += &pControl->Widget();
     }
   }
@@ -283,10 +287,11 @@ void SectionPanel::BuildLocator(RowPlaces ePlaces) {
   }
 }
 
-void SectionPanel::UpdateControlHeights() {
+void SectionPanel::UpdateLocator() {
   for (const Control* const pControl : m_aoControls) {
     if (!IsHeaderImage(*pControl) && !IsShowCheck(*pControl)) {
       m_oLocator.UpdateHeight(pControl->Name(), pControl->Height());
+      m_oLocator.UpdateUse(pControl->Name(), IsInUse(*pControl));
     }
   }
 }
@@ -328,7 +333,7 @@ void SectionPanel::ApplyAllVisibility() {
 
 /// The panel's height is the bottom of the last control placed, not of the lowest.
 void SectionPanel::PlaceControls() {
-  UpdateControlHeights();
+  UpdateLocator();
   m_oLocator.UpdateVisibility();
   m_oLocator.BuildList(!m_bShowConfig);
   int nHeight = 0;

@@ -58,6 +58,10 @@ class SectionPanel : public QWidget, public Control {
   [[nodiscard]] Control* Find(std::string_view sName) const;
   [[nodiscard]] const std::vector<Control*>& Controls() const { return m_aoControls; }
 
+  /// False for a control that the fee schedule gives no meaning: it has no row, whatever the user
+  /// wants to see.
+  [[nodiscard]] virtual bool IsInUse(const Control& /*oControl*/) const { return true; }
+
   /// How wide the panel is in config mode, in twips.
   [[nodiscard]] int ConfigWidth() const;
 
@@ -138,7 +142,7 @@ class SectionPanel : public QWidget, public Control {
 
   void EnsureVisibleList();
   void BuildLocator(RowPlaces ePlaces);
-  void UpdateControlHeights();
+  void UpdateLocator();
   void LoadShowChecks();
   void UpdateSectionLayout();
   void ApplyAllVisibility();

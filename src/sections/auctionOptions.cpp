@@ -115,7 +115,7 @@ bool IsRealEstate(const clsAuctionType& oAuctionType) {
 constexpr AuctionOptions ctlMotorOptions = {
     Design({"ctlMotorOptions", "Vehicle", "MotorTypes", 2760, 1680, "AuctionType"},
            kVehicleControls),
-    &clsAuctionType::m_eMotorType, IsMotor, kVehicles};
+    &clsAuctionType::m_eMotorType, IsMotor, kVehicles, clsAuctionType::IsVehicleOnOffer};
 
 constexpr AuctionOptions ctlShopDurations = {
     Design({"ctlShopDurations", "Shop Duration", "ShopDuration", 2760, 1575, "AuctionType"},

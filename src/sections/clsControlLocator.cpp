@@ -29,16 +29,26 @@ void clsControlLocator::AddControl(const std::string& sName, std::int32_t lTop,
   if (!m_aoControls.back().sName.empty()) {
     m_aoControls.emplace_back();
   }
-  m_aoControls.back() = {sName, lTop, lHeight, lHeight, NameInVisibleList(sName, m_oList)};
+  m_aoControls.back() = {sName, lTop, lHeight, lHeight, NameInVisibleList(sName, m_oList), true};
   m_bSorted = false;
   m_bBuiltControls = false;
 }
 
-void clsControlLocator::UpdateHeight(const std::string& sName, std::int32_t lHeight) {
+clsControlLocator::Registered* clsControlLocator::Find(const std::string& sName) {
   const auto oFound = std::find_if(m_aoControls.begin(), m_aoControls.end(),
                                    [&](const auto& oControl) { return oControl.sName == sName; });
-  if (oFound != m_aoControls.end()) {
-    oFound->lCurrentHeight = lHeight;
+  return oFound != m_aoControls.end() ? &*oFound : nullptr;
+}
+
+void clsControlLocator::UpdateHeight(const std::string& sName, std::int32_t lHeight) {
+  if (Registered* const pControl = Find(sName)) {
+    pControl->lCurrentHeight = lHeight;
+  }
+}
+
+void clsControlLocator::UpdateUse(const std::string& sName, bool bInUse) {
+  if (Registered* const pControl = Find(sName)) {
+    pControl->bInUse = bInUse;
   }
 }
 
@@ -66,7 +76,8 @@ void clsControlLocator::BuildList(bool bApplyList) {
   std::int32_t lTop = m_aoControls.front().lTop;
   for (std::size_t i = 0; i < m_aoControls.size(); ++i) {
     const Registered& oControl = m_aoControls[i];
-    const bool bInclude = (!bApplyList || oControl.bInList) && RegionAllowsControl(oControl.sName);
+    const bool bInclude =
+        (!bApplyList || oControl.bInList) && oControl.bInUse && RegionAllowsControl(oControl.sName);
     if (!bInclude) {
       // The top stays even if the row ends here, so a dropped row takes no space. It also stays if
       // the row had controls to show before this one: the next row then overlaps them, which

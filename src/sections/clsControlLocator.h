@@ -30,13 +30,18 @@ class clsControlLocator {
   void SetAddingComplete(bool bComplete) { m_bAddingComplete = bComplete; }
   [[nodiscard]] bool AddingComplete() const { return m_bAddingComplete; }
 
-  /// Sets a control's new height; takes effect at the next BuildList.
+  // Both take effect at the next BuildList.
+
+  /// Sets a control's new height.
   void UpdateHeight(const std::string& sName, std::int32_t lHeight);
+  /// A control that isn't in use is never shown; at first all are.
+  void UpdateUse(const std::string& sName, bool bInUse);
 
   /// Rereads the stored list; takes effect at the next BuildList.
   void UpdateVisibility();
 
-  /// Packs the rows that the region has and, with `bApplyList`, the stored list names.
+  /// Packs the rows that the region has, that are in use and, with `bApplyList`, that the stored
+  /// list names.
   void BuildList(bool bApplyList);
 
   /// True from BuildList until the next control is added. The program itself needs no answer.
@@ -58,12 +63,14 @@ class clsControlLocator {
     std::int32_t lHeight = 0;  ///< when added; gives the design's gap
     std::int32_t lCurrentHeight = 0;
     bool bInList = false;
+    bool bInUse = true;
   };
   struct Included {
     std::string sName;
     std::int32_t lTop = 0;
   };
 
+  [[nodiscard]] Registered* Find(const std::string& sName);
   [[nodiscard]] bool IsIndex(std::int32_t lIndex, std::size_t nPlaces) const;
   void SortByTop();
 

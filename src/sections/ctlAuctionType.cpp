@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "answers/tips.h"
+#include "base/regionControls.h"
 #include "sections/AuctionOptionsPanel.h"
 #include "sections/controlHelpers.h"
 #include "sections/ctlRealEstateOptions.h"
@@ -80,7 +81,17 @@ void ctlAuctionType::ApplyAuctionType(clsAuctionType& oAuctionType) {
   The<ctlRealEstateOptions>("ctlRealEstateOption").ApplyAuctionType(oAuctionType);
   SetValueOf("chkShopInventory", oAuctionType.m_bShopInventory ? 1 : 0);
   The<AuctionOptionsPanel>("ctlShopDuration").ApplyAuctionType(oAuctionType);
+  ShowWhatIsOnOffer();
   ShowTotal(oAuctionType);
+}
+
+/// A listing may be of a kind that isn't on offer: that is chosen and grey.
+void ctlAuctionType::ShowWhatIsOnOffer() {
+  for (const OptionCode& oKind : kKinds) {
+    Control& oOption = *Find(oKind.sOption);
+    SetControlActive(clsAuctionType::IsOnOffer(oKind.nCode), oOption, false);
+    oOption.SetEnabled(clsAuctionType::IsOnOffer(oKind.nCode));
+  }
 }
 
 void ctlAuctionType::ShowTotal(clsAuctionType& oAuctionType) {
@@ -100,6 +111,9 @@ void ctlAuctionType::InputClicked(Control& oInput) {
     }
     SyncShopInventory(true);
   }
+  if (sName == "optMotorAuction" && ValueOf("optMotorAuction") != 0) {
+    TakeVehicleOnOffer();
+  }
   UpdateModel();
 }
 
@@ -109,6 +123,9 @@ std::string ctlAuctionType::TipOf(const Control& oInput, const clsCalculate& oAu
   const auto* const pKind = std::find_if(kKinds.begin(), kKinds.end(), [&](const OptionCode& o) {
     return o.sOption == oInput.Name();
   });
+  if (pKind != kKinds.end() && !clsAuctionType::IsOnOffer(pKind->nCode)) {
+    return NotOnOfferTip(WordsOf(oInput).toStdString());
+  }
   Change oClick = ClickOn(oInput.Name(), bChosen);
   if (pKind != kKinds.end() && !bChosen) {
     oClick = ListAs(pKind->nCode);
@@ -116,6 +133,14 @@ std::string ctlAuctionType::TipOf(const Control& oInput, const clsCalculate& oAu
   return pKind != kKinds.end() || oClick
              ? ListingTip(oAuction, WordsOf(oInput).toStdString(), bChosen, oClick)
              : std::string();
+}
+
+/// Parts always are on offer, where there is a choice of vehicles.
+void ctlAuctionType::TakeVehicleOnOffer() {
+  if (m_oAuctionType != nullptr && RegionAllowsControl("optParts") &&
+      !clsAuctionType::IsVehicleOnOffer(m_oAuctionType->m_eMotorType)) {
+    m_oAuctionType->m_eMotorType = kMotorParts;
+  }
 }
 
 /// The shop takes only standard auctions: whichever of the two was clicked last wins.

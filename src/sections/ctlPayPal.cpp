@@ -4,6 +4,7 @@
 
 #include "base/FlagGuard.h"
 #include "base/failure.h"
+#include "prices/clsPrices.h"
 #include "sections/controlHelpers.h"
 #include "sections/ctlPaypalBusinessTypes.h"
 
@@ -46,6 +47,10 @@ constexpr PanelDesign kDesign = {.sTypeName = "ctlPayPal",
                                  .nHeight = 3510,
                                  .aoControls = kControls};
 
+constexpr const char* kNotOnEbay =
+    "A sale on eBay pays no PayPal fee: eBay takes the payment itself, within its own fees. "
+    "PayPal is for a sale elsewhere.";
+
 constexpr std::array kAccounts =
     std::to_array<OptionCode>({{"optPersonalAccount", kAccountPersonal},
                                {"optPremierAccount", kAccountPremier},
@@ -78,6 +83,10 @@ void ctlPayPal::ApplyFeatures(clsPayPal& oPayPal, const clsOutlay* oOutlay) {
   SetChosen(kAccounts, oPayPal.m_eAccountType);
   SetControlActive(oOutlay->m_lQuantity >= 2, *Find("chkPayInduvidually"), true);
   ShowSectionTotal(The<Label>("lblTotal"), oPayPal.DoCalcAuto());
+}
+
+std::string ctlPayPal::TipOf(const Control& oInput, const clsCalculate& /*oAuction*/) const {
+  return oInput.Name() == "chkUsePayPal" && AreFeesOfToday() ? kNotOnEbay : "";
 }
 
 void ctlPayPal::UpdateModel() {

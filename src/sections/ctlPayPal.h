@@ -18,6 +18,8 @@ class ctlPayPal : public SectionPanel {
 
  protected:
   bool AddOwnNames(clsTokeniser& oList) const override;
+  [[nodiscard]] std::string TipOf(const Control& oInput,
+                                  const clsCalculate& oAuction) const override;
   void UpdateModel() override;
 
  private:

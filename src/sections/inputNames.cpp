@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "controls/ComboBox.h"
 #include "sections/controlHelpers.h"
 #include "sections/ctlNumericText.h"
 
@@ -47,6 +48,8 @@ void NameInputs(ControlSpan aoControls, std::span<const ControlDesign> aoDesigns
       oControl.Widget().setAccessibleName(sRow.isEmpty() ? "Show" : "Show " + sRow);
     } else if (auto* const pBox = dynamic_cast<ctlNumericText*>(&oControl)) {
       pBox->SetAccessibleName(CaptionBeside(aoControls, aoDesigns, i));
+    } else if (auto* const pList = dynamic_cast<ComboBox*>(&oControl)) {
+      pList->setAccessibleName(CaptionBeside(aoControls, aoDesigns, i));
     }
   }
 }

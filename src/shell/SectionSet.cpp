@@ -1,10 +1,13 @@
 #include "shell/SectionSet.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "base/FlagGuard.h"
 #include "base/failure.h"
 #include "controls/layout.h"
+#include "prices/clsPrices.h"
 #include "shell/KeptAuction.h"
 
 namespace quillet {
@@ -13,12 +16,16 @@ SectionSet::SectionSet(QWidget& oView, std::function<void(bool)> fnChanged,
                        std::function<void()> fnShown)
     : ctlSellingCostsSection(*Make<ctlSellingCosts>("ctlSellingCostsSection", &oView)),
       ctlOutlaySection(*Make<ctlOutlay>("ctlOutlaySection", &oView)),
+      ctlSaleFeesSection(*Make<ctlSaleFees>("ctlSaleFeesSection", &oView)),
       ctlSellingFeaturesSection(*Make<ctlSellingFeatures>("ctlSellingFeaturesSection", &oView)),
       ctlAuctionTypeSection(*Make<ctlAuctionType>("ctlAuctionTypeSection", &oView)),
       ctlPayPalSection(*Make<ctlPayPal>("ctlPayPalSection", &oView)),
       ctlPostageSection(*Make<ctlPostage>("ctlPostageSection", &oView)),
       m_fnChanged(std::move(fnChanged)),
-      m_fnShown(std::move(fnShown)) {}
+      m_fnShown(std::move(fnShown)),
+      m_bFeesOfToday(AreFeesOfToday()) {
+  ctlSaleFeesSection.SetVisible(m_bFeesOfToday);
+}
 
 void SectionSet::RefreshSums(clsCalculate& oDocument, bool bUpdateControlDisplays) {
   if (bUpdateControlDisplays && !oDocument.m_oAuctionType.m_bShopInventory) {
@@ -101,9 +108,27 @@ void SectionSet::PushChange(clsCalculate& oDocument) {
   }
 }
 
-std::array<SectionPanel*, 5> SectionSet::Sections() const {
-  return {&ctlOutlaySection, &ctlSellingFeaturesSection, &ctlAuctionTypeSection, &ctlPayPalSection,
-          &ctlPostageSection};
+void SectionSet::FollowSchedule() {
+  ctlSellingFeaturesSection.FollowSchedule();
+  m_bFeesOfToday = Prices().Sale() != nullptr;
+  ctlSaleFeesSection.SetVisible(m_bFeesOfToday);
+}
+
+std::vector<SectionPanel*> SectionSet::Sections() const {
+  const std::array aoAll = AllSections();
+  std::vector<SectionPanel*> aoOnView;
+  std::copy_if(aoAll.begin(), aoAll.end(), std::back_inserter(aoOnView),
+               [this](const SectionPanel* p) { return IsOnView(*p); });
+  return aoOnView;
+}
+
+bool SectionSet::IsOnView(const SectionPanel& oSection) const {
+  return m_bFeesOfToday || &oSection != &ctlSaleFeesSection;
+}
+
+std::array<SectionPanel*, 6> SectionSet::AllSections() const {
+  return {&ctlOutlaySection,      &ctlSaleFeesSection, &ctlSellingFeaturesSection,
+          &ctlAuctionTypeSection, &ctlPayPalSection,   &ctlPostageSection};
 }
 
 void SectionSet::PushModels(clsCalculate& oDocument) {
@@ -112,6 +137,9 @@ void SectionSet::PushModels(clsCalculate& oDocument) {
   ctlOutlaySection.ApplyOutlay(oDocument.m_oOutlay, pType);
   ctlSellingFeaturesSection.ApplyFeatures(oDocument.m_oSellingFeatures, pType, pOutlay);
   ctlAuctionTypeSection.ApplyAuctionType(oDocument.m_oAuctionType);
+  if (m_bFeesOfToday) {
+    ctlSaleFeesSection.ApplyFees(oDocument.m_oSaleFees);
+  }
   ctlPayPalSection.ApplyFeatures(oDocument.m_oPayPal, pOutlay);
   ctlPostageSection.ApplyFeatures(oDocument.m_oPostage, pOutlay);
 }

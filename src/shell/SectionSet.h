@@ -1,14 +1,16 @@
-// The five sections and the summary of one view, and the routine by which a change reaches them.
+// The sections and the summary of one view, and the routine by which a change reaches them.
 #pragma once
 
 #include <array>
 #include <functional>
+#include <vector>
 
 #include "engine/clsCalculate.h"
 #include "sections/ctlAuctionType.h"
 #include "sections/ctlOutlay.h"
 #include "sections/ctlPayPal.h"
 #include "sections/ctlPostage.h"
+#include "sections/ctlSaleFees.h"
 #include "sections/ctlSellingCosts.h"
 #include "sections/ctlSellingFeatures.h"
 
@@ -37,16 +39,22 @@ class SectionSet {
   /// they react, and features that it can't have any more are removed from it.
   void FollowChange(clsCalculate& oDocument);
 
-  /// Another fee schedule is in use: nothing that was taken over from the old one stays.
-  void FollowSchedule() { ctlSellingFeaturesSection.FollowSchedule(); }
-
   [[nodiscard]] bool IsRefreshing() const { return m_bRefreshing; }
 
-  /// Outlay, selling features, auction type, PayPal, postage.
-  [[nodiscard]] std::array<SectionPanel*, 5> Sections() const;
+  /// Another fee schedule may be in use: nothing that was taken over from the old one stays, and
+  /// the sections on view are those of the new one.
+  void FollowSchedule();
+
+  /// The sections on view: the sale fees only with a schedule of today's fees.
+  [[nodiscard]] std::vector<SectionPanel*> Sections() const;
+  [[nodiscard]] bool IsOnView(const SectionPanel& oSection) const;
+
+  /// Outlay, sale fees, selling features, auction type, PayPal, postage.
+  [[nodiscard]] std::array<SectionPanel*, 6> AllSections() const;
 
   ctlSellingCosts& ctlSellingCostsSection;
   ctlOutlay& ctlOutlaySection;
+  ctlSaleFees& ctlSaleFeesSection;
   ctlSellingFeatures& ctlSellingFeaturesSection;
   ctlAuctionType& ctlAuctionTypeSection;
   ctlPayPal& ctlPayPalSection;
@@ -66,6 +74,7 @@ class SectionSet {
   std::function<void(bool)> m_fnChanged;
   std::function<void()> m_fnShown;
   bool m_bRefreshing = false;
+  bool m_bFeesOfToday;                ///< of the latest schedule that was followed
   clsCalculate* m_oOnView = nullptr;  ///< what the sections were given last
 };
 

@@ -10,6 +10,7 @@
 #include "base/clsRegistryAccess.h"
 #include "base/conversions.h"
 #include "base/failure.h"
+#include "base/region.h"
 #include "controls/layout.h"
 #include "look/marks.h"
 #include "look/palette.h"
@@ -64,6 +65,7 @@ ctlCalculator::ctlCalculator(QWidget* pParent)
           *this, [this](bool bDocDirty) { emit Changed(bDocDirty); }, [this] { emit Shown(); }),
       m_pScheduleLine(Make<ScheduleLine>("ScheduleLine", ScheduleLine::Button::AtRight, this)),
       m_pWhatIf(MakeWhatIfButton(this)) {
+  const bool bUnitedStates = RegionCode() == 1;
   PlaceAll(std::to_array<ControlPlace>({
       {&m_oSet.ctlSellingCostsSection, 120, 120, 10755, 960},
       {&m_oSet.ctlOutlaySection, 240, 1560, 5550, 1935},
@@ -71,6 +73,9 @@ ctlCalculator::ctlCalculator(QWidget* pParent)
       {&m_oSet.ctlAuctionTypeSection, 9000, 1560, 3030, 7455},
       {&m_oSet.ctlSellingFeaturesSection, 120, 3600, 3750, 6975},
       {&m_oSet.ctlPostageSection, 4440, 5640, 4350, 5055},
+      // Where the region's other rows leave room: under the postage, or under the auction type.
+      {&m_oSet.ctlSaleFeesSection, bUnitedStates ? 4440 : 9000, bUnitedStates ? 7800 : 4800, 4350,
+       2695},
   }));
   for (Card*& pCard : m_apCards) {
     pCard = new Card(this);
@@ -79,7 +84,7 @@ ctlCalculator::ctlCalculator(QWidget* pParent)
   Place(0, 0, kDesignWidth, kDesignHeight);
   setFocusPolicy(Qt::ClickFocus);  // a click beside the sections leaves the box that was typed into
   m_oSet.ctlSellingCostsSection.SetMode(0);
-  for (SectionPanel* const pSection : m_oSet.Sections()) {
+  for (SectionPanel* const pSection : m_oSet.AllSections()) {
     connect(pSection, &SectionPanel::Changed, this, [this] { m_oSet.FollowChange(Document()); });
     connect(pSection, &SectionPanel::Moved, this, [this, pSection](float fX, float fY) {
       IgnoreFailure([&] { MoveSection(*pSection, fX, fY); });
@@ -106,7 +111,7 @@ void ctlCalculator::ResetControlPositions() {
     const auto pEntry = m_colDesignPositions.find(sKey);
     return pEntry == m_colDesignPositions.end() ? kAbsent : pEntry->second;
   };
-  for (SectionPanel* const pSection : PlacedInOrder()) {
+  for (SectionPanel* const pSection : m_oSet.Sections()) {
     const int nLeft = fnDesign(pSection->SectionKey() + std::string("_Left"));
     const int nTop = fnDesign(pSection->SectionKey() + std::string("_Top"));
     pSection->SetLeft(nLeft == kAbsent ? pSection->Left() : nLeft);
@@ -128,8 +133,7 @@ void ctlCalculator::RefreshSums(bool bUpdateControlDisplays, clsCalculate* pDocu
 void ctlCalculator::FollowSchedule() {
   m_oSet.FollowSchedule();
   if (isVisible()) {
-    m_pScheduleLine->Refresh();
-    RefreshSums(true);
+    UserControl_Show();
   }
 }
 
@@ -140,10 +144,11 @@ clsCalculate& ctlCalculator::Document() const {
 void ctlCalculator::CalcMinSize(int& nWidth, int& nHeight) const {
   nWidth = 0;
   nHeight = 0;
-  for (const Control* const pControl : std::initializer_list<const Control*>{
-           &m_oSet.ctlOutlaySection, &m_oSet.ctlSellingFeaturesSection,
-           &m_oSet.ctlSellingCostsSection, &m_oSet.ctlPayPalSection, &m_oSet.ctlPostageSection}) {
-    GrowToHold(nWidth, nHeight, *pControl);
+  GrowToHold(nWidth, nHeight, m_oSet.ctlSellingCostsSection);
+  for (const SectionPanel* const pSection : m_oSet.Sections()) {
+    if (pSection != &m_oSet.ctlAuctionTypeSection) {
+      GrowToHold(nWidth, nHeight, *pSection);
+    }
   }
 }
 
@@ -204,14 +209,15 @@ void ctlCalculator::PlaceWhatIf() {
 
 void ctlCalculator::PlaceCards() {
   for (std::size_t i = 0; i < m_apCards.size(); ++i) {
-    SectionPanel& oSection = *m_oSet.Sections().at(i);
+    SectionPanel& oSection = *m_oSet.AllSections().at(i);
     m_apCards.at(i)->setGeometry(CardOf(oSection));
-    m_apCards.at(i)->setVisible(oSection.Height() > 0);
+    m_apCards.at(i)->setVisible(m_oSet.IsOnView(oSection) && oSection.Height() > 0);
     m_apCards.at(i)->stackUnder(&oSection);
   }
 }
 
 void ctlCalculator::UserControl_Show() {
+  m_oSet.FollowSchedule();
   for (SectionPanel* const pSection : m_oSet.Sections()) {
     pSection->SetShowConfig(m_bConfigMode);
   }
@@ -228,7 +234,7 @@ void ctlCalculator::FollowPlaces() {
 }
 
 void ctlCalculator::OrderTabs() {
-  const std::array aoSections = m_oSet.Sections();
+  const std::vector aoSections = m_oSet.Sections();
   std::vector<SectionPlace> aoPlaces;
   aoPlaces.reserve(aoSections.size());
   for (const SectionPanel* const pSection : aoSections) {
@@ -273,15 +279,8 @@ void ctlCalculator::SnapSection(SectionPanel& oSection, Single fLeft, Single fTo
   oSection.SetTop(nTop);
 }
 
-std::array<SectionPanel*, 5> ctlCalculator::PlacedInOrder() const {
-  return {&m_oSet.ctlAuctionTypeSection, &m_oSet.ctlSellingFeaturesSection,
-          &m_oSet.ctlOutlaySection, &m_oSet.ctlPayPalSection, &m_oSet.ctlPostageSection};
-}
-
 void ctlCalculator::SaveSectionPositions() const {
-  for (const SectionPanel* const pSection : std::initializer_list<const SectionPanel*>{
-           &m_oSet.ctlSellingFeaturesSection, &m_oSet.ctlAuctionTypeSection,
-           &m_oSet.ctlOutlaySection, &m_oSet.ctlPayPalSection, &m_oSet.ctlPostageSection}) {
+  for (const SectionPanel* const pSection : m_oSet.Sections()) {
     const std::string sSection = SectionOf(*pSection);
     Registry().Set(sSection, settings::kTop, std::to_string(pSection->Top()));
     Registry().Set(sSection, settings::kLeft, std::to_string(pSection->Left()));
@@ -294,7 +293,7 @@ void ctlCalculator::LoadSectionPositions() {
   const auto fnStored = [](const SectionPanel& oSection, const char* sName, int nPlace) {
     return ToLong(Registry().Find(SectionOf(oSection), sName).value_or("")).value_or(nPlace);
   };
-  for (SectionPanel* const pSection : PlacedInOrder()) {
+  for (SectionPanel* const pSection : m_oSet.Sections()) {
     m_colDesignPositions.try_emplace(pSection->SectionKey() + std::string("_Left"),
                                      pSection->Left());
     m_colDesignPositions.try_emplace(pSection->SectionKey() + std::string("_Top"), pSection->Top());

@@ -76,7 +76,6 @@ class ctlCalculator : public QWidget, public Control {
   void FollowFocus(const QWidget* pOld, const QWidget* pNow);
   void MoveSection(SectionPanel& oSection, float fX, float fY);
   void SnapSection(SectionPanel& oSection, Single fLeft, Single fTop);
-  [[nodiscard]] std::array<SectionPanel*, 5> PlacedInOrder() const;
   void SaveSectionPositions() const;
   void LoadSectionPositions();
   void GrowToHold(int& nWidth, int& nHeight, const Control& oControl) const;
@@ -84,7 +83,7 @@ class ctlCalculator : public QWidget, public Control {
   SectionSet m_oSet;
   ScheduleLine* m_pScheduleLine;
   ImageButton* m_pWhatIf;
-  std::array<Card*, 5> m_apCards{};  ///< in the order of the sections
+  std::array<Card*, 6> m_apCards{};  ///< in the order of all sections
   bool m_bConfigMode = false;
   clsCalculate* m_oDocument = nullptr;
   std::map<std::string, int> m_colDesignPositions;  ///< by SectionKey + "_Left" or "_Top", twips

@@ -7,7 +7,7 @@
 #include <QShowEvent>
 #include <algorithm>
 #include <array>
-#include <iterator>
+#include <utility>
 
 #include "base/basMain.h"
 #include "base/clsRegistryAccess.h"
@@ -58,7 +58,7 @@ ctlWizard::ctlWizard(QWidget* pParent)
       m_oSet(
           *this, [this](bool bDocDirty) { emit Changed(bDocDirty); }, [this] { emit Shown(); }),
       m_pViewPort(Make<PageScroller>("fraViewPort", this)),
-      m_aPages(MakePages()),
+      m_aAllPages(MakePages()),
       m_pInfo(Make<Label>("lblInfo", this)),
       m_pSteps(Make<WizardSteps>("Steps", this)),
       m_pScheduleLine(Make<ScheduleLine>("ScheduleLine", ScheduleLine::Button::AtLeft, this)),
@@ -73,11 +73,7 @@ ctlWizard::ctlWizard(QWidget* pParent)
   m_pInfo->setWordWrap(true);
   m_pInfo->Place(0, 360, 7695, 1095);
   m_pSteps->Place(0, 165, 7695, 330);
-  QStringList asNames;
-  for (const WizardPage& tPage : m_aPages) {
-    asNames += tPage.sName;
-  }
-  m_pSteps->SetSteps(asNames);
+  TakePages();
   m_pViewPort->Place(-2160, 3120, 4215, 1935);
   m_oSet.ctlSellingCostsSection.Place(120, 6720, 4620, 2235);
   m_oSet.ctlSellingCostsSection.SetMode(1);
@@ -102,31 +98,50 @@ std::vector<WizardPage> ctlWizard::MakePages() {
   const std::array aoDesigns = std::to_array<PageDesign>({
       {"Auction Type", 1, 3495, 7335, m_oSet.ctlAuctionTypeSection, 120, 3255, 7095},
       {"Outlay", 0, 5175, 2415, m_oSet.ctlOutlaySection, 120, 4815, 2295},
+      {"Sale Fees", 5, 4935, 2815, m_oSet.ctlSaleFeesSection, 240, 4575, 2695},
       {"Features", 2, 4095, 7215, m_oSet.ctlSellingFeaturesSection, 240, 3735, 6975},
       {"PayPal", 3, 3255, 4575, m_oSet.ctlPayPalSection, 120, 3015, 4335},
       {"Postage", 4, 4935, 6375, m_oSet.ctlPostageSection, 240, 4575, 6255},
   });
   std::vector<WizardPage> aPages;
   for (const PageDesign& oDesign : aoDesigns) {
-    const auto lIndex = static_cast<std::int32_t>(aPages.size());
     auto* const pFrame = Make<Frame>("fraPages", m_pViewPort);
     pFrame->Place(0, 0, oDesign.nFrameWidth, oDesign.nFrameHeight);
     oDesign.oSection.setParent(pFrame);
-    oDesign.oSection.SetVisible(true);
+    pFrame->SetVisible(false);
     oDesign.oSection.Place(oDesign.nLeft, kSectionTop, oDesign.nWidth, oDesign.nHeight);
     aPages.push_back({.sName = oDesign.sName,
-                      .lIndex = lIndex,
                       .pFrame = pFrame,
                       .oSection = &oDesign.oSection,
-                      .sInfo = PageInfoText(oDesign.nText),
-                      .bFirst = lIndex == 0,
-                      .bLast = lIndex + 1 == std::ssize(aoDesigns)});
+                      .sInfo = PageInfoText(oDesign.nText)});
   }
   return aPages;
 }
 
+/// A page that comes on view is shown once, since its section then learns the places of its rows.
+void ctlWizard::TakePages() {
+  const std::vector<WizardPage> aBefore = std::exchange(m_aPages, {});
+  QStringList asNames;
+  for (const WizardPage& tPage : m_aAllPages) {
+    const auto fnIsIt = [&](const WizardPage& t) { return t.pFrame == tPage.pFrame; };
+    const bool bOnView = m_oSet.IsOnView(*tPage.oSection);
+    if (bOnView != std::any_of(aBefore.begin(), aBefore.end(), fnIsIt)) {
+      tPage.pFrame->SetVisible(bOnView);
+      tPage.oSection->SetVisible(bOnView);
+    }
+    if (bOnView) {
+      m_aPages.push_back(tPage);
+      m_aPages.back().lIndex = static_cast<std::int32_t>(asNames.size());
+      asNames += tPage.sName;
+    }
+  }
+  m_aPages.front().bFirst = true;
+  m_aPages.back().bLast = true;
+  m_pSteps->SetSteps(asNames);
+}
+
 void ctlWizard::ListenToSections() {
-  const std::array aoSections = m_oSet.Sections();
+  const std::array aoSections = m_oSet.AllSections();
   for (SectionPanel* const pSection : aoSections) {
     connect(pSection, &SectionPanel::Changed, this,
             [this] { m_oSet.FollowChange(WorkingAuction()); });
@@ -186,10 +201,17 @@ void ctlWizard::RefreshSums(bool bUpdateControlDisplays) {
 /// A hidden view takes everything else anew when it is shown.
 void ctlWizard::FollowSchedule() {
   m_oSet.FollowSchedule();
-  if (isVisible()) {
-    m_pScheduleLine->Refresh();
-    RefreshSums(true);
+  if (!isVisible()) {
+    return;
   }
+  m_pScheduleLine->Refresh();
+  TakePages();
+  const auto pSame = std::find_if(m_aPages.begin(), m_aPages.end(), [this](const WizardPage& t) {
+    return t.pFrame == m_tCurrent->pFrame;
+  });
+  const std::int32_t lPage = pSame != m_aPages.end() ? pSame->lIndex : m_tCurrent->lIndex - 1;
+  ShowPage(static_cast<std::int16_t>(lPage));
+  RefreshSums(true);
 }
 
 void ctlWizard::showEvent(QShowEvent* pEvent) {
@@ -207,6 +229,8 @@ void ctlWizard::UserControl_Show() {
   }
   m_oSet.ctlSellingCostsSection.SetMode(1);
   m_pScheduleLine->Refresh();
+  m_oSet.FollowSchedule();
+  TakePages();
   ShowPage(0);
   RefreshSums(true);
   UserControl_Resize();

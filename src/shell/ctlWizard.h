@@ -21,12 +21,12 @@ class WizardSteps;
 /// One page of the wizard.
 struct WizardPage {
   const char* sName;
-  std::int32_t lIndex;  ///< its place in the order of pages
   Frame* pFrame;
-  SectionPanel* oSection;  ///< in the frame
-  std::string sInfo;       ///< the instruction above it
-  bool bFirst;             ///< no page to go back to
-  bool bLast;              ///< Next finishes
+  SectionPanel* oSection;   ///< in the frame
+  std::string sInfo;        ///< the instruction above it
+  std::int32_t lIndex = 0;  ///< its place among the pages on view
+  bool bFirst = false;      ///< no page to go back to
+  bool bLast = false;       ///< Next finishes
 };
 
 class ctlWizard : public QWidget, public Control {
@@ -39,7 +39,7 @@ class ctlWizard : public QWidget, public Control {
   /// Calculates the working auction and shows it.
   void RefreshSums(bool bUpdateControlDisplays);
 
-  /// As the calculator's.
+  /// As the calculator's. A page that isn't on view any more gives way to the one before it.
   void FollowSchedule();
 
   /// The current page; none before the view is first shown. Each showing starts at the first page.
@@ -68,6 +68,7 @@ class ctlWizard : public QWidget, public Control {
 
  private:
   [[nodiscard]] std::vector<WizardPage> MakePages();
+  void TakePages();
   void ListenToSections();
   void MakeButtons();
   void MakeKeys();
@@ -85,7 +86,8 @@ class ctlWizard : public QWidget, public Control {
 
   SectionSet m_oSet;
   PageScroller* m_pViewPort;
-  std::vector<WizardPage> m_aPages;
+  std::vector<WizardPage> m_aAllPages;
+  std::vector<WizardPage> m_aPages;  ///< those on view with the fee schedule in use
   std::optional<WizardPage> m_tCurrent;
   Label* m_pInfo;
   WizardSteps* m_pSteps;

@@ -235,6 +235,7 @@ void frmMain::FollowSchedule() {
   }
   m_pCalculator->FollowSchedule();
   m_pWizard->FollowSchedule();
+  m_pCalculator->CalcMinSize(m_lCalcMinWidth, m_lCalcMinHeight);
   Form_Resize();
 }
 

@@ -18,6 +18,7 @@
 #include "sections/controlHelpers.h"
 #include "support/Auctions.h"
 #include "support/PanelScript.h"
+#include "support/Prices.h"
 #include "support/TestHost.h"
 #include "support/WalkGuard.h"
 
@@ -231,7 +232,9 @@ class Walk {
   const TemporaryFolder& m_oFolder;
   std::mt19937 m_oDice;
   std::vector<SectionPanel*> m_aoPanels;
-  std::vector<Sample> m_aoSamples = Samples();
+  /// Those with features that are on offer.
+  std::vector<Sample> m_aoSamples =
+      Samples(AreFeesOfToday() ? "data/samples/today" : "data/samples");
   std::deque<std::string> m_asTrace;
   WalkStep m_oStep;
   int m_nStep = 0;
@@ -244,7 +247,11 @@ unsigned NumberIn(const char* sVariable, unsigned nElse) {
 
 class CalculatorWalk : public ::testing::TestWithParam<unsigned> {
  protected:
+  /// Every other walk is under the fees of today.
   CalculatorWalk() {
+    if (GetParam() % 2 == 0) {
+      UseScheduleOfToday();
+    }
     Registry().Set(settings::kStartMode, "1");
     SetLastFolder(m_oFolder.sPath);
   }

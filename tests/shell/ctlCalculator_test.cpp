@@ -125,6 +125,7 @@ TEST_F(Calculator, AViewThatIsShownAgainLooksAsAfterARestartWhicheverRowIsHidden
 }
 
 TEST_F(Calculator, EachShowBoxStandsForItsRowAlone) {
+  UseScheduleOfToday();  // all sections
   ShowView(true, WorkingAuction());
   std::set<std::string> asRows;
   for (SectionPanel* const pPanel : AllPanels(m_pView->Set())) {
@@ -148,7 +149,7 @@ TEST_F(Calculator, EachShowBoxStandsForItsRowAlone) {
       }
     }
   }
-  EXPECT_EQ(asRows.size(), ByRegion(69U, 74U));
+  EXPECT_EQ(asRows.size(), ByRegion(79U, 83U));
 }
 
 /// Figures stand beside their captions, one below the other in each block, and nothing on another.

@@ -12,6 +12,7 @@
 #include "shell/WizardSteps.h"
 #include "support/Auctions.h"
 #include "support/PanelScript.h"
+#include "support/Prices.h"
 
 namespace quillet {
 namespace {
@@ -80,6 +81,25 @@ TEST_F(Wizard, ClicksLeadThroughTheFivePagesInTheirOrder) {
   EXPECT_EQ(oComplete.count(), 1);
   EXPECT_EQ(Page(), 4) << "the window turns the view off";
   EXPECT_FALSE(WorkingAuction().IsDirty()) << "nothing was entered";
+}
+
+TEST_F(Wizard, TodaysFeesHaveAPageForAsLongAsTheyAreInUse) {
+  const auto fnStep = [this] { return The<WizardSteps>("Steps").Caption().toStdString(); };
+  UseScheduleOfToday();
+  Start();
+  Click("imgNext");
+  Click("imgNext");
+  EXPECT_EQ(fnStep(), "Step 3 of 6 · Sale Fees");
+  EXPECT_NE(The<Label>("lblInfo").Caption().indexOf("category"), -1);
+  UseShippedSchedule();
+  m_pView->FollowSchedule();
+  EXPECT_EQ(fnStep(), "Step 2 of 5 · Outlay");
+  UseScheduleOfToday();
+  m_pView->FollowSchedule();
+  EXPECT_EQ(fnStep(), "Step 2 of 6 · Outlay");
+  Click("imgNext");
+  EXPECT_EQ(fnStep(), "Step 3 of 6 · Sale Fees");
+  EXPECT_GT(Section().Height(), 2000) << "its rows are in place";
 }
 
 TEST_F(Wizard, KeysLeadThroughThePages) {

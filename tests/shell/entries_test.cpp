@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "base/clsRegistryAccess.h"
+#include "controls/ComboBox.h"
 #include "shell/frmMain.h"
 #include "support/ByRegion.h"
 #include "support/Prices.h"
@@ -13,8 +14,8 @@
 namespace quillet {
 namespace {
 
-/// Clicks "name" and types "name=text", the fields of the section as they are saved then, and its
-/// total, which is null where the region lacks a row.
+/// Clicks "name" and types "name=text", or chooses line text of a list; the fields of the section
+/// as they are saved then, and its total, which is null where the region lacks a row.
 struct Entry {
   const char* sScript;
   const char* sFields;
@@ -51,7 +52,9 @@ class Entries : public ::testing::Test {
       const bool bHere = oSection.findChild<QWidget*>(QString::fromStdString(sName)) != nullptr;
       const QWidget& oPlace =
           bHere ? static_cast<const QWidget&>(oSection) : m_oWindow.Calculator();
-      if (nEquals == std::string::npos) {
+      if (auto* const pList = oPlace.findChild<ComboBox*>(QString::fromStdString(sName))) {
+        pList->setCurrentIndex(std::stoi(sStep.substr(nEquals + 1)) - 1);
+      } else if (nEquals == std::string::npos) {
         ClickOn(oPlace, sName);
       } else {
         TypeInto(oPlace, sName, sStep.substr(nEquals + 1));
@@ -222,6 +225,100 @@ TEST_F(Entries, PostageGoesOnToTheServiceThatTakesTheParcel) {
            "True|0|0|0|0|False|False|False|0|False", nullptr, "£1.00"},
           {"txtQuantity=2 chkUsePostage chkRecordedDelivery optParcelService chkSendInduvidually",
            "True|0|2|0|0|False|False|False|0|True", nullptr, "£7.70"}});
+}
+
+struct FeesOfToday {
+  FeesOfToday() { UseScheduleOfToday(); }
+};
+
+class EntriesOfToday : private FeesOfToday, public Entries {
+ protected:
+  /// The captions of the rows on view.
+  [[nodiscard]] std::string Rows() const {
+    std::string sRows;
+    for (const QWidget* const pInput : m_oSet.ctlSaleFeesSection.InputsInReadingOrder()) {
+      const auto* const pBox = qobject_cast<const QCheckBox*>(pInput);
+      sRows += !pInput->isVisible() ? ""
+               : pBox != nullptr    ? pBox->text().toStdString() + "|"
+                                    : pInput->accessibleName().toStdString() + "|";
+    }
+    return sRows;
+  }
+};
+
+TEST_F(EntriesOfToday, TheSaleFeeIsTheSumOfWhatIsChosen) {
+  const char* const sCamera =
+      "txtEstimatedEndPrice=149 chkUsePostage optManual txtManual=8.5 txtBuyerTax=7";
+  const char* const sClothes =
+      "txtEstimatedEndPrice=45 chkUsePostage optManual txtManual=3.99 lstCategory=2";
+  Expect(
+      m_oSet.ctlSaleFeesSection, "[FEES]",
+      {{sCamera, "1|7|0|0|False|True", "$23.32", nullptr},
+       {"txtEstimatedEndPrice=150 lstCategory=10", "10|0|0|0|False|True", "$12.00", nullptr},
+       {"txtEstimatedEndPrice=100 txtBuyerTax=8.875", "1|8.875|0|0|False|True", "$15.21", nullptr},
+       {"txtEstimatedEndPrice=100 txtAdvertising=2.5 chkExtra01 chkExtra03", "1|0|2.5|5|False|True",
+        "$23.15", "£20.64"},
+       {"txtAdvertising=4 txtAdvertising=abc chkExtra02 chkExtra02", "1|0|4|0|False|True"},
+       {"txtAdvertising=100.5", "1|0|100|0|False|True"},  // back to what was good last
+       {"txtAdvertising=-1 chkFreeListing", "1|0|0|0|True|True"},
+       {sClothes, "2|0|0|0|False|True", nullptr, "£7.68"},
+       {"txtEstimatedEndPrice=45 lstCategory=2 chkTaxIsCost", "2|0|0|0|False|False", nullptr,
+        "£5.91"}});
+}
+
+TEST_F(EntriesOfToday, TheSectionFollowsTheSchedule) {
+  const auto fnFollow = [this] { m_oWindow.Calculator().FollowSchedule(); };
+  EXPECT_EQ(Rows(),
+            ByRegion("Category|Advertising (%)|Buyer in Europe|Buyer in US or CA|Buyer elsewhere|"
+                     "Below standard|Free Listing|VAT Is a Cost|",
+                     "Category|Buyer's Tax (%)|Advertising (%)|Buyer abroad|Below standard|"
+                     "Many returns|Free Listing|"));
+  Play(m_oSet.ctlSaleFeesSection, "lstCategory=9 chkExtra03 txtAdvertising=3");
+  UseSchedule("FeeModel,2\nCategoryCount,1\nCategory1Tiers,Plain\nCategory1Name,This & that\n" +
+              Tiers("Plain", {{"0", "-1", "10"}}) +
+              "OrderFeeRanges,0\nOpeningRanges,0\nFinalBase,3\nExtraPercentCount,1\n"
+              "ExtraPercent1Name,All & sundry\nExtraPercent1Value,1\nFeeTax,5\nFeeTaxName,GST\n");
+  fnFollow();
+  EXPECT_EQ(Rows(),
+            "Category|Buyer's Tax (%)|Advertising (%)|All && sundry|Free Listing|"
+            "GST Is a Cost|");
+  Play(m_oSet.ctlSaleFeesSection, "chkExtra01");
+  const std::string sFees = "[FEES]9|0|3|5|False|True[FEES]";  // what isn't on view is kept
+  EXPECT_NE(TextOf(WorkingAuction()).find(sFees), std::string::npos) << TextOf(WorkingAuction());
+  UseShippedSchedule();
+  fnFollow();
+  EXPECT_EQ(Rows(), "");
+  EXPECT_NE(TextOf(WorkingAuction()).find(sFees), std::string::npos);
+}
+
+// A loaded listing of such a kind stays one; of vehicles parts always are on offer.
+TEST_F(EntriesOfToday, WhatIsNotOnOfferIsClosedAndAListingKeepsIt) {
+  const SectionPanel& oKinds = m_oSet.ctlAuctionTypeSection;
+  std::string sAuction = TextOf(WorkingAuction()).replace(0, 9, "[TYPE]001");
+  WorkingAuction().Serialize(sAuction, false);
+  m_oWindow.Calculator().RefreshSums(true);
+  EXPECT_EQ(TextOf(WorkingAuction()), sAuction);
+  EXPECT_EQ(NamesWhere(oKinds,
+                       [](const Control& o) {
+                         return IsInput(o) && o.Widget().isVisible() && !o.Enabled();
+                       }),
+            ByRegion("optMotorAuction optRealEstateAuction",
+                     "optPassenger optMotorcycle optPowersports optPocketBikes optOtherVehicle"));
+  EXPECT_EQ(m_oMirror.Differences(m_oSet, WorkingAuction()), "");
+  Play(oKinds, "optStandardAution optMotorAuction");
+  EXPECT_EQ(TextOf(WorkingAuction()).substr(0, 28),
+            ByRegion("[TYPE]000|False|False|3|0|0|", "[TYPE]001|False|False|3|5|0|"));
+}
+
+// Nothing of the section may reach the settings of who has never seen it.
+TEST_F(Entries, UnderTheFeesOf2007NothingIsKnownOfTodays) {
+  m_oWindow.ClickButton(kButtonConfig);
+  m_oWindow.ClickButton(kButtonWizard);
+  m_oWindow.ClickButton(kButtonCalculator);
+  m_oWindow.Calculator().ResetControlPositions();
+  EXPECT_FALSE(Registry().Find("Controls\\SaleFees", settings::kVisible));
+  EXPECT_FALSE(Registry().Find("Controls\\SaleFees", settings::kTop));
+  EXPECT_TRUE(Registry().Find("Controls\\Outlay", settings::kTop));
 }
 
 TEST_F(Entries, AScheduleWithoutTheTiersLeavesTheSectionUsable) {

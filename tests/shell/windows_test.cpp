@@ -9,6 +9,7 @@
 #include "shell/frmMain.h"
 #include "support/Captions.h"
 #include "support/PanelScript.h"
+#include "support/Prices.h"
 
 namespace quillet {
 namespace {
@@ -29,6 +30,7 @@ std::string UnnamedIn(const QWidget& oWindow) {
 }
 
 TEST(Windows, NoCaptionIsClippedAtAnyZoomAndEveryInputHasAName) {
+  UseScheduleOfToday();  // all sections
   std::string sAuction =
       "[TYPE]000|False|False|3|0|0|0|False[TYPE][OUTLAY]1000000|0|0|100|1|False[OUTLAY]"
       "[FEATURES]1048575|0[FEATURES][PAYPAL]True|0|1|False[PAYPAL]"
@@ -43,7 +45,7 @@ TEST(Windows, NoCaptionIsClippedAtAnyZoomAndEveryInputHasAName) {
       ShowSectionTotal(dynamic_cast<Label&>(
                            ControlOf(oWindow.Calculator().Set().ctlAuctionTypeSection, "lblTotal")),
                        9999.99F);
-      for (int nPage = 0; nPage < (nView == kButtonWizard ? 5 : 1); ++nPage) {
+      for (int nPage = 0; nPage < (nView == kButtonWizard ? 6 : 1); ++nPage) {
         if (nPage > 0) {
           QTest::mouseClick(oWindow.Wizard().findChild<QWidget*>("imgNext"), Qt::LeftButton);
         }

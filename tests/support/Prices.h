@@ -37,6 +37,11 @@ inline void UseShippedSchedule() {
   UseShippedSchedule(RegionCode() == 1 ? "UpdateUS_v0101.dat" : "UpdateUK_v0101.dat");
 }
 
+/// Today's of this region.
+inline void UseScheduleOfToday() {
+  UseShippedSchedule(RegionCode() == 1 ? "UpdateUS_2026-10.dat" : "UpdateUK_2026-10.dat");
+}
+
 /// The lines of a tier table; an end of -1 means no upper limit.
 inline std::string Tiers(const std::string& sName,
                          const std::vector<std::array<const char*, 3>>& aoTiers) {

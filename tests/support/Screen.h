@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "controls/ComboBox.h"
 #include "shell/SectionSet.h"
 #include "support/Auctions.h"
 #include "support/PanelScript.h"
@@ -32,6 +33,9 @@ inline bool ShowsTheSame(const Control& oSeen, const Control& oWanted) {
     const double fWanted = dynamic_cast<const ctlNumericText&>(oWanted).Value();
     return pBox->TextBox()->hasFocus() ||
            std::abs(pBox->Value() - fWanted) < 0.006 + std::abs(fWanted) * 1e-6;
+  }
+  if (const auto* const pList = dynamic_cast<const ComboBox*>(&oSeen)) {
+    return pList->currentIndex() == dynamic_cast<const ComboBox&>(oWanted).currentIndex();
   }
   const auto* const pChoice = dynamic_cast<const Choice*>(&oSeen);
   const bool bFed =
