@@ -113,11 +113,11 @@ Single clsSellingFeatures::DoCalc(const clsAuctionType* oAuctionType, const clsO
 
   Single fSum;
   if (HasFeature(kFeaturePlus)) {
-    fSum = m_fPlus;
+    fSum = Charged(m_fPlus);
   }
   for (const FlatFeature& oFeature : kFlatFeatures) {
     if (HasFeature(oFeature.lFeature)) {
-      fSum = fSum + (oFeature.fPrice != nullptr ? this->*oFeature.fPrice : GetBuyItNowFee());
+      fSum = fSum + Charged(oFeature.fPrice != nullptr ? this->*oFeature.fPrice : GetBuyItNowFee());
     }
   }
   if (HasFeature(kFeaturePicturePack)) {
@@ -125,18 +125,25 @@ Single clsSellingFeatures::DoCalc(const clsAuctionType* oAuctionType, const clsO
   } else {
     fSum = fSum + m_fExtraImage * m_lExtraImageCount;  // no feature bit guards the charge
   }
-  if (HasFeature(kFeatureListIn2Categories)) {
+  if (HasFeature(kFeatureListIn2Categories) &&
+      Charged(m_fListIn2Categories) == m_fListIn2Categories) {
     fSum = fSum * m_fListIn2Categories;
   }
   // After the factor, so that these two are never doubled.
   if (HasFeature(kFeatureHomePage)) {
-    fSum = fSum + GetHomePageFee();
+    fSum = fSum + Charged(GetHomePageFee());
   }
   if (HasFeature(kFeatureScheduledListing)) {
-    fSum = fSum + m_fScheduledListings;
+    fSum = fSum + Charged(m_fScheduledListings);
   }
   m_fLastFee = fSum;
   return fSum;
+}
+
+/// A feature that isn't on offer costs nothing by today's schedules. By those of 2007 its price
+/// below 0 counts like any other.
+Single clsSellingFeatures::Charged(Single fPrice) const {
+  return HasFeesOfToday() ? Single(std::max<double>(0, fPrice)) : fPrice;
 }
 
 void clsSellingFeatures::ForgetPrices() {

@@ -101,6 +101,7 @@ class clsSellingFeatures {
   [[nodiscard]] PriceKey GetPriceKey(const KeyText& oName) const;
   [[nodiscard]] bool HasFeesOfToday() const { return AuctionType().m_oSaleFees != nullptr; }
   [[nodiscard]] std::int32_t Duration() const;
+  [[nodiscard]] Single Charged(Single fPrice) const;
   void RefreshPrices();
   void RefreshPrices(PriceKey&& oPrefix, std::int32_t nShop);
   [[nodiscard]] Single GetBuyItNowFee() const;

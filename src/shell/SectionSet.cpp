@@ -110,7 +110,7 @@ void SectionSet::PushChange(clsCalculate& oDocument) {
 
 void SectionSet::FollowSchedule() {
   ctlSellingFeaturesSection.FollowSchedule();
-  m_bFeesOfToday = Prices().Sale() != nullptr;
+  m_bFeesOfToday = AreFeesOfToday();
   ctlSaleFeesSection.SetVisible(m_bFeesOfToday);
 }
 

@@ -75,6 +75,9 @@ TEST_F(SaleFees, OfTheShippedSchedulesComeOutToTheCent) {
                 {"watch", 9, 8000, 0, 0, 0.35, 587.90},
                 {"heavy", 11, 20000, 0, 0, 20, 475.40}});
     oAuction.m_oAuctionType.m_bBuyItNowOnly = true;
+    for (const auto lNotOnOffer : {kFeaturePlus, kFeatureHomePage, kFeatureListIn2Categories}) {
+      oAuction.m_oSellingFeatures.AddFeature(lNotOnOffer);
+    }
     oAuction.m_oSellingFeatures.AddFeature(kFeatureBold);
     ExpectRows({{"card", 3, 9500, 0, 6, 0.35, 1054.55}});
     EXPECT_EQ(oAuction.m_fSellCost, Single(1058.90));
