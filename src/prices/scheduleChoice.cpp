@@ -1,6 +1,7 @@
 #include "prices/scheduleChoice.h"
 
 #include <algorithm>
+#include <compare>
 #include <memory>
 #include <set>
 #include <tuple>
@@ -63,8 +64,8 @@ OfferedSchedule ReadOffered(const std::string& sFile) {
 
 bool StandsBefore(const OfferedSchedule& oLeft, const OfferedSchedule& oRight) {
   const std::string sDefault = DefaultUpdateFileName();
-  if (const auto eOrder = oLeft.oDate <=> oRight.oDate; eOrder != 0) {
-    return eOrder > 0;
+  if (const auto eOrder = oLeft.oDate <=> oRight.oDate; std::is_neq(eOrder)) {
+    return std::is_gt(eOrder);
   }
   return std::tuple(oLeft.sFile != sDefault, oLeft.sName, oLeft.sFile) <
          std::tuple(oRight.sFile != sDefault, oRight.sName, oRight.sFile);

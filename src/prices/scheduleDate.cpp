@@ -24,8 +24,8 @@ bool IsOfWord(char c) {
 
 /// Takes the next word or number off `sText`. False when none is left.
 bool TakeWord(std::string_view& sText, std::string_view& sWord) {
-  const auto pFirst = std::find_if(sText.begin(), sText.end(), IsOfWord);
-  const auto pEnd = std::find_if_not(pFirst, sText.end(), IsOfWord);
+  const auto* const pFirst = std::find_if(sText.begin(), sText.end(), IsOfWord);
+  const auto* const pEnd = std::find_if_not(pFirst, sText.end(), IsOfWord);
   sWord = {pFirst, pEnd};
   sText = {pEnd, sText.end()};
   return !sWord.empty();
@@ -39,9 +39,9 @@ int NumberOf(std::string_view sWord, std::size_t nDigits) {
 
 /// From 1; 0 if the word is no month.
 int MonthNamed(std::string_view sWord) {
-  const auto pMonth = std::find_if(kMonths.begin(), kMonths.end(), [&](std::string_view sMonth) {
-    return EqualIgnoringCase(sMonth, sWord);
-  });
+  const auto* const pMonth =
+      std::find_if(kMonths.begin(), kMonths.end(),
+                   [&](std::string_view sMonth) { return EqualIgnoringCase(sMonth, sWord); });
   return pMonth == kMonths.end() ? 0 : static_cast<int>(pMonth - kMonths.begin()) + 1;
 }
 

@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """The whole desktop program on a screen with a window manager, under real keys and mouse events."""
 
 import functools
