@@ -20,7 +20,8 @@ constexpr int kHeadings = 300;
 constexpr int kName = 2700;  // at least, as far as the figures leave it
 constexpr int kLeastFigure = 900;
 constexpr int kMostFigure = 1500;
-constexpr int kInset = 90;  // of the mark of the current row
+constexpr int kInset = 90;  // of the words
+constexpr int kMark = 30;   // the width of the current row's mark
 
 class Headings : public QHeaderView {
  public:
@@ -55,7 +56,7 @@ class RowDelegate : public QStyledItemDelegate {
     }
     if (bCurrent && oOption.widget->hasFocus() && oIndex.column() == 0) {
       pPainter->fillRect(
-          QRect(oOption.rect.left(), oOption.rect.top(), Pixels(kInset / 3), oOption.rect.height()),
+          QRect(oOption.rect.left(), oOption.rect.top(), Pixels(kMark), oOption.rect.height()),
           InkColour(Ink::Accent));
     }
     const QRect oWords = oOption.rect.adjusted(Pixels(kInset), 0, -Pixels(kInset), 0);

@@ -75,7 +75,8 @@ void MoneyCard::PaintContent(QPainter& oPainter) {
   const double fColumn = (oContent.width() - (nColumns - 1) * fGap) / nColumns;
   const auto nRows = static_cast<std::size_t>(Rows(nColumns));
   for (std::size_t i = 0; i < m_aoParts.size(); ++i) {
-    const double fLeft = oContent.left() + static_cast<double>(i / nRows) * (fColumn + fGap);
+    const std::size_t nColumn = i / nRows;
+    const double fLeft = oContent.left() + static_cast<double>(nColumn) * (fColumn + fGap);
     const double fTop =
         oContent.top() + Pixels(kBar + kBelowBar + static_cast<int>(i % nRows) * kRow);
     PaintEntry(oPainter, {fLeft, fTop, fColumn, 1.0 * Pixels(kRow)}, m_aoParts[i]);
