@@ -56,6 +56,7 @@ add_library(quillet_desktop STATIC
   shell/ScrollFrame.cpp
   shell/SectionSet.cpp
   shell/SettingsPage.cpp
+  shell/WhatIfOpener.cpp
   shell/WindowZoom.cpp
   shell/WizardSteps.cpp
   shell/ctlCalculator.cpp

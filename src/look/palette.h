@@ -7,35 +7,35 @@
 namespace quillet {
 
 /// The only palette. Light on dark; every text contrasts at least 4.5 to 1 with its background.
-enum class Ink {
-  Ground,     ///< behind everything
-  Panel,      ///< a card
-  Hairline,   ///< rules, and the edge of a card
-  Field,      ///< inside an input
-  FieldEdge,  ///< around an input or a box
-  Text,
-  GreyText,   ///< disabled
-  FaintText,  ///< names of sections
-  Accent,     ///< focus and selection
-  OnAccent,   ///< a mark drawn on the accent
-  HeaderBar,
-  OnHeaderBar,
-  Hover,       ///< behind a button under the pointer
-  Column,      ///< behind the buttons of the main window
-  ColumnText,  ///< captions and icons of those buttons
-  Warning,
-  Error,
+enum class Ink : QRgb {
+  Ground = 0xFF14171A,     ///< behind everything
+  Panel = 0xFF1B1F24,      ///< a card
+  Hairline = 0xFF2C333B,   ///< rules, and the edge of a card
+  Field = 0xFF111417,      ///< inside an input
+  FieldEdge = 0xFF4A535D,  ///< around an input or a box
+  Text = 0xFFE8EAED,
+  GreyText = 0xFF8A929C,   ///< disabled
+  FaintText = 0xFF9AA3AD,  ///< names of sections
+  Accent = 0xFF5AA2FF,     ///< focus and selection
+  OnAccent = 0xFF0B1A2E,   ///< a mark drawn on the accent
+  HeaderBar = 0xFF2F6FB5,
+  OnHeaderBar = 0xFFFFFFFF,
+  Hover = 0xFF22282F,       ///< behind a button under the pointer
+  Column = 0xFF101214,      ///< behind the buttons of the main window
+  ColumnText = 0xFFB4BBC3,  ///< captions and icons of those buttons
+  Warning = 0xFFFFB84D,
+  Error = 0xFFFF6B6B,
   // Parts of a whole, side by side.
-  Slate,
-  Peach,
-  Sand,
-  Orange,
-  Rust,
-  Sky,
-  Green,
-  Violet,
-  Teal,
-  Pink,
+  Slate = 0xFF5C6977,
+  Peach = 0xFFFFB06B,
+  Sand = 0xFFE8C54A,
+  Orange = 0xFFFF8C1A,
+  Rust = 0xFFDB6228,
+  Sky = 0xFF6EA8DC,
+  Green = 0xFF7FD67F,
+  Violet = 0xFFB08CE0,
+  Teal = 0xFF4FB8B0,
+  Pink = 0xFFE07FA8,
 };
 
 [[nodiscard]] QColor InkColour(Ink eInk);

@@ -49,7 +49,8 @@ frmMain::frmMain()
       m_pLhs(Make<ButtonColumn>("fraLHS", kWindowHeight, this)),
       m_pRhs(Make<ScrollFrame>("fraRHS", this)),
       m_pCalculator(Make<ctlCalculator>("ctlCalculator1", &m_pRhs->Content())),
-      m_pWizard(Make<ctlWizard>("ctlWizard1", &m_pRhs->Content())) {
+      m_pWizard(Make<ctlWizard>("ctlWizard1", &m_pRhs->Content())),
+      m_oWhatIf(m_pCalculator, m_pWizard, this) {
   setObjectName("frmMain");
   SetGround(*this, Ink::Hairline);  // a rule where it shows between the two frames
   SetGround(*m_pLhs, Ink::Column);
@@ -67,10 +68,6 @@ frmMain::frmMain()
     SetWindowTitle(m_pCalculator->ConfigMode() ? kDefaultAuctionTitle : m_oDocuments.FileName(),
                    bDocDirty);
   });
-  connect(m_pCalculator, &ctlCalculator::Shown, this, &frmMain::FollowWithWhatIf);
-  connect(m_pCalculator, &ctlCalculator::WhatIfClicked, this, &frmMain::ShowWhatIf);
-  connect(m_pWizard, &ctlWizard::Shown, this, &frmMain::FollowWithWhatIf);
-  connect(m_pWizard, &ctlWizard::WhatIfClicked, this, &frmMain::ShowWhatIf);
   connect(m_pCalculator, &ctlCalculator::ScheduleChosen, this, &frmMain::FollowSchedule);
   connect(m_pWizard, &ctlWizard::ScheduleChosen, this, &frmMain::FollowSchedule);
   connect(m_pWizard, &ctlWizard::WizardComplete, this,
@@ -98,7 +95,7 @@ void frmMain::MakeShortcuts() {
       "Ctrl+-", [this] { m_oZoom.Step(false); }, Qt::ApplicationShortcut);
   fnAdd(
       "Ctrl+0", [this] { m_oZoom.SetPercent(100); }, Qt::ApplicationShortcut);
-  fnAdd(kWhatIfKey, [this] { ShowWhatIf(); });
+  fnAdd(kWhatIfKey, [this] { m_oWhatIf.Open(); });
 }
 
 void frmMain::Show() {
@@ -254,40 +251,6 @@ void frmMain::ShowAboutBox() {
   m_frmAboutBox.reset();
 }
 
-void frmMain::ShowWhatIf() {
-  ctlNumericText::CommitFocused();
-  if (m_frmWhatIf == nullptr) {
-    m_frmWhatIf = std::make_unique<frmWhatIf>(static_cast<AuctionView&>(*this), this);
-    connect(m_frmWhatIf.get(), &frmWhatIf::Entered, this, &frmMain::EnterTyping);
-  }
-  m_frmWhatIf->Open();
-}
-
-/// A box of this window keeps its focus, and what was typed, while another window is active.
-void frmMain::EnterTyping() {
-  if (focusWidget() == nullptr) {
-    return;
-  }
-  if (auto* const pBox = qobject_cast<ctlNumericText*>(focusWidget()->parent())) {
-    pBox->CommitTyping();
-  }
-}
-
-void frmMain::FollowWithWhatIf() {
-  if (m_frmWhatIf != nullptr) {
-    m_frmWhatIf->Follow();
-  }
-}
-
-clsCalculate& frmMain::AuctionOnView() {
-  return m_pWizard->Visible() ? WorkingAuction() : m_pCalculator->Document();
-}
-
-void frmMain::ShowChanged(bool bReact) {
-  SectionSet& oSet = m_pWizard->Visible() ? m_pWizard->Set() : m_pCalculator->Set();
-  oSet.ShowChanged(AuctionOnView(), bReact);
-}
-
 void frmMain::SetWindowTitle(const std::string& sName, bool bDirty) {
   std::string sTitle = sName;
   if (sTitle.ends_with(kAuctionExtension)) {
@@ -301,9 +264,7 @@ void frmMain::SetWindowTitle(const std::string& sName, bool bDirty) {
 void frmMain::Rescale() {
   QApplication::setFont(ThemeFont(kTextPoints));
   RescaleAll(*this);
-  if (m_frmWhatIf != nullptr) {
-    m_frmWhatIf->Rescale();
-  }
+  m_oWhatIf.Rescale();
 }
 
 /// The window can't be smaller than its view needs, unless the screen is smaller still. Where the
@@ -361,9 +322,7 @@ void frmMain::LeaveBox() {
 
 void frmMain::StorePlaces() const {
   SaveFormPosition(*this);
-  if (m_frmWhatIf != nullptr && m_frmWhatIf->isVisible()) {
-    SaveFormPosition(*m_frmWhatIf);
-  }
+  m_oWhatIf.StorePlace();
 }
 
 bool frmMain::EndSession(bool bMayAsk) {
@@ -390,9 +349,7 @@ void frmMain::closeEvent(QCloseEvent* pEvent) {
     pEvent->ignore();
     return;
   }
-  if (m_frmWhatIf != nullptr) {
-    m_frmWhatIf->close();
-  }
+  m_oWhatIf.Close();
   WriteLog("End app");
   pEvent->accept();
 }

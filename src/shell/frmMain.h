@@ -8,17 +8,17 @@
 #include "controls/Controls.h"
 #include "documents/lifecycle.h"
 #include "shell/ButtonColumn.h"
+#include "shell/WhatIfOpener.h"
 #include "shell/WindowZoom.h"
 #include "shell/ctlCalculator.h"
 #include "shell/ctlWizard.h"
-#include "shell/frmWhatIf.h"
 
 namespace quillet {
 
 class ScrollFrame;
 class frmAbout;
 
-class frmMain : public QWidget, private DocumentView, private AuctionView {
+class frmMain : public QWidget, private DocumentView {
   Q_OBJECT
 
  public:
@@ -63,19 +63,12 @@ class frmMain : public QWidget, private DocumentView, private AuctionView {
   void RefreshCalculator() override;
   void ShowWizard() override;
 
-  // AuctionView
-  [[nodiscard]] clsCalculate& AuctionOnView() override;
-  void ShowChanged(bool bReact) override;
-
   void MakeShortcuts();
   void Form_Load();
   void Form_Activate();
   void Form_Resize();
   void ShowConfiguration();
   void ShowAboutBox();
-  void ShowWhatIf();
-  void EnterTyping();
-  void FollowWithWhatIf();
   void StorePlaces() const;
   void FollowSchedule();
   void PushDocument(bool bConfigMode, clsCalculate& oDocument, const std::string& sTitle);
@@ -92,7 +85,7 @@ class frmMain : public QWidget, private DocumentView, private AuctionView {
   ScrollFrame* m_pRhs;
   ctlCalculator* m_pCalculator;
   ctlWizard* m_pWizard;
-  std::unique_ptr<frmWhatIf> m_frmWhatIf;   ///< since it was first opened
+  WhatIfOpener m_oWhatIf;
   std::unique_ptr<frmAbout> m_frmAboutBox;  ///< while it is open
   int m_lMinWidth = 0;                      ///< twips; the smallest size while the wizard shows
   int m_lMinHeight = 0;                     ///< likewise
