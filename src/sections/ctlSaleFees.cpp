@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
+#include <vector>
 
 #include "base/FlagGuard.h"
 #include "base/conversions.h"
@@ -16,30 +18,29 @@ using enum ControlKind;
 
 constexpr std::size_t kExtras = SaleRates::kMostExtras;
 
-/// A word and a number of two digits, so that none stands in another.
-template <std::size_t nSize>
-constexpr std::array<char, nSize + 2> Numbered(const char (&sWord)[nSize], std::size_t nNumber) {
-  std::array<char, nSize + 2> sName{};
-  std::copy_n(sWord, nSize - 1, sName.begin());
-  sName[nSize - 1] = static_cast<char>('0' + nNumber / 10);
-  sName[nSize] = static_cast<char>('0' + nNumber % 10);
-  return sName;
-}
-
 struct ExtraNames {
-  decltype(Numbered("chkExtra", 1)) sBox;
-  decltype(Numbered("chkShowExtra", 1)) sShowBox;
-  decltype(Numbered("Extra", 1)) sTag;
+  std::string sBox;
+  std::string sShowBox;
+  std::string sTag;
 };
 
-constexpr auto kExtraNames = [] {
-  std::array<ExtraNames, kExtras> aoNames{};
-  for (std::size_t i = 0; i < kExtras; ++i) {
-    aoNames[i] = {Numbered("chkExtra", i + 1), Numbered("chkShowExtra", i + 1),
-                  Numbered("Extra", i + 1)};
+/// Two digits each, so that no name is part of another.
+std::string Numbered(const char* sWord, std::size_t nNumber) {
+  return sWord + std::string(nNumber < 10 ? "0" : "") + std::to_string(nNumber);
+}
+
+std::vector<ExtraNames> MakeExtraNames() {
+  std::vector<ExtraNames> aoNames;
+  for (std::size_t i = 1; i <= kExtras; ++i) {
+    aoNames.push_back({Numbered("chkExtra", i), Numbered("chkShowExtra", i), Numbered("Extra", i)});
   }
   return aoNames;
-}();
+}
+
+const std::vector<ExtraNames>& AllExtras() {
+  static const std::vector<ExtraNames> aoNames = MakeExtraNames();
+  return aoNames;
+}
 
 constexpr int kFirstTop = 360;
 constexpr int kPitch = 280;
@@ -82,27 +83,31 @@ constexpr std::array kOtherControls = std::to_array<ControlDesign>({
     {"imgHeader", kHeader, "Sale Fees", 0, 0, 4335, 255, "0"},
 });
 
-constexpr auto kControls = [] {
-  std::array<ControlDesign, kOtherControls.size() + 2 * kExtras> aoControls{};
-  ControlDesign* pNext = std::copy(kOtherControls.begin(), kOtherControls.end(), aoControls.data());
-  for (std::size_t i = 0; i < kExtras; ++i) {
-    const ExtraNames& oNames = kExtraNames[i];
-    *pNext++ = Row(oNames.sBox.data(), kCheckBox, "", kFirstExtra + i, 3255);
-    *pNext++ = ShowBox(oNames.sShowBox.data(), kFirstExtra + i, oNames.sTag.data());
+std::vector<ControlDesign> MakeControls() {
+  std::vector<ControlDesign> aoControls(kOtherControls.begin(), kOtherControls.end());
+  std::size_t nRow = kFirstExtra;
+  for (const ExtraNames& oNames : AllExtras()) {
+    aoControls.push_back(Row(oNames.sBox.c_str(), kCheckBox, "", nRow, 3255));
+    aoControls.push_back(ShowBox(oNames.sShowBox.c_str(), nRow, oNames.sTag.c_str()));
+    ++nRow;
   }
   return aoControls;
-}();
+}
 
-constexpr PanelDesign kDesign = {.sTypeName = "ctlSaleFees",
-                                 .sTitle = "Sale Fees",
-                                 .sSectionKey = "SaleFees",
-                                 .sReferenceBox = "chkShowCategory",
-                                 .sVisibilityList = nullptr,
-                                 .bAddingComplete = true,
-                                 .bRowsByLabel = false,
-                                 .nWidth = 4365,
-                                 .nHeight = 2695,
-                                 .aoControls = kControls};
+const PanelDesign& Design() {
+  static const std::vector<ControlDesign> aoControls = MakeControls();
+  static const PanelDesign oDesign = {.sTypeName = "ctlSaleFees",
+                                      .sTitle = "Sale Fees",
+                                      .sSectionKey = "SaleFees",
+                                      .sReferenceBox = "chkShowCategory",
+                                      .sVisibilityList = nullptr,
+                                      .bAddingComplete = true,
+                                      .bRowsByLabel = false,
+                                      .nWidth = 4365,
+                                      .nHeight = 2695,
+                                      .aoControls = aoControls};
+  return oDesign;
+}
 
 QString CaptionOf(const std::string& sName) {
   return QString::fromStdString(sName).replace("&", "&&");
@@ -126,14 +131,14 @@ QStringList ChoicesOf(const ComboBox& oList) {
 
 }  // namespace
 
-ctlSaleFees::ctlSaleFees(QWidget* pParent) : SectionPanel(kDesign, pParent) {
+ctlSaleFees::ctlSaleFees(QWidget* pParent) : SectionPanel(Design(), pParent) {
   The<ComboBox>("lstCategory").setPlaceholderText("Not in these fees");
 }
 
 /// What has no effect on any fee of the schedule has no row.
 bool ctlSaleFees::IsInUse(const Control& oControl) const {
   const SaleRates* const pRates = Prices().Sale();
-  const auto fnIsOf = [&](const char* sTag) {
+  const auto fnIsOf = [&](std::string_view sTag) {
     return oControl.Name().find(sTag) != std::string::npos;
   };
   if (pRates == nullptr || fnIsOf("BuyerTax")) {
@@ -142,9 +147,9 @@ bool ctlSaleFees::IsInUse(const Control& oControl) const {
   if (fnIsOf("TaxIsCost")) {
     return pRates->nFeeTax != 0;
   }
-  return std::none_of(kExtraNames.begin() + static_cast<std::ptrdiff_t>(pRates->aoExtras.size()),
-                      kExtraNames.end(),
-                      [&](const ExtraNames& oNames) { return fnIsOf(oNames.sTag.data()); });
+  return std::none_of(AllExtras().begin() + static_cast<std::ptrdiff_t>(pRates->aoExtras.size()),
+                      AllExtras().end(),
+                      [&](const ExtraNames& oNames) { return fnIsOf(oNames.sTag); });
 }
 
 /// The box of a row that was of no use comes back with it.
@@ -174,7 +179,7 @@ void ctlSaleFees::ShowNames(const SaleRates& oRates) {
     oList.addItems(asNames);
   }
   for (std::size_t i = 0; i < oRates.aoExtras.size(); ++i) {
-    SetRowCaption(*Find(kExtraNames.at(i).sBox.data()), CaptionOf(oRates.aoExtras[i].sName));
+    SetRowCaption(*Find(AllExtras()[i].sBox), CaptionOf(oRates.aoExtras[i].sName));
   }
   if (!oRates.sFeeTaxName.empty()) {
     SetRowCaption(*Find("chkTaxIsCost"), CaptionOf(oRates.sFeeTaxName) + " Is a Cost");
@@ -186,7 +191,7 @@ void ctlSaleFees::ShowInputs(const SaleInputs& oInputs) {
   The<ctlNumericText>("txtBuyerTax").SetText(SingleText(oInputs.fBuyerTax));
   The<ctlNumericText>("txtAdvertising").SetText(SingleText(oInputs.fAdvertising));
   for (std::size_t i = 0; i < kExtras; ++i) {
-    SetValueOf(kExtraNames.at(i).sBox.data(), oInputs.lExtras >> i & 1);
+    SetValueOf(AllExtras()[i].sBox, oInputs.lExtras >> i & 1);
   }
   SetValueOf("chkFreeListing", oInputs.bFreeListing ? 1 : 0);
   SetValueOf("chkTaxIsCost", oInputs.bTaxIsCost ? 1 : 0);
@@ -211,7 +216,7 @@ void ctlSaleFees::UpdateModel() {
   oInputs.fAdvertising = The<ctlNumericText>("txtAdvertising").Value();
   oInputs.lExtras = 0;
   for (std::size_t i = 0; i < kExtras; ++i) {
-    oInputs.lExtras |= ValueOf(kExtraNames.at(i).sBox.data()) << i;
+    oInputs.lExtras |= ValueOf(AllExtras()[i].sBox) << i;
   }
   oInputs.bFreeListing = ValueOf("chkFreeListing") != 0;
   oInputs.bTaxIsCost = ValueOf("chkTaxIsCost") != 0;
