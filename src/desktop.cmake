@@ -32,6 +32,7 @@ add_library(quillet_desktop STATIC
   sections/GrandTotal.cpp
   sections/PanelDesign.cpp
   sections/SectionPanel.cpp
+  sections/SectionPanelRows.cpp
   sections/auctionOptions.cpp
   sections/controlHelpers.cpp
   sections/ctlAuctionType.cpp

@@ -1,6 +1,7 @@
 # Floor 1: the Internet, for the programs that update themselves.
 if(WIN32)
-  add_library(quillet_online STATIC platform/windows/WinInetInternet.cpp)
+  add_library(quillet_online STATIC platform/windows/WinInetCalls.cpp
+    platform/windows/WinInetInternet.cpp)
   target_link_libraries(quillet_online PUBLIC quillet_core wininet)
 else()
   find_package(CURL REQUIRED)

@@ -10,6 +10,7 @@
 
 #include "platform/HttpAnswer.h"
 #include "platform/Internet.h"
+#include "platform/windows/WinInetCalls.h"
 
 namespace quillet {
 
@@ -44,18 +45,8 @@ class WinInetInternet : public Internet {
   void Close(InternetHandle hHandle) override;
 
  private:
-  /// How a call ended: the platform's error number (0 for none), the server's words, and what the
-  /// call gave.
-  struct Outcome {
-    unsigned long nError = 0;
-    std::string sResponse;
-    void* pOpened = nullptr;
-    std::string sContent;
-    std::wstring sLocation;  ///< where an HTTP answer redirects to
-    std::uint64_t nSize = 0;
-  };
   /// Owns all that it needs, since it may outlive its caller.
-  using Call = std::function<Outcome(void* pHandle)>;
+  using Call = std::function<NetOutcome(void* pHandle)>;
   /// An opened thing. The platform has no handle for an HTTP session without a server.
   struct Item {
     void* pHandle = nullptr;
@@ -63,30 +54,19 @@ class WinInetInternet : public Internet {
     HttpAnswer oAnswer;
   };
 
-  [[nodiscard]] static Outcome OutcomeOf(bool bDone);
-  [[nodiscard]] static Outcome Opened(void* pHandle);
-  /// Reads to the end. A transfer that breaks off looks like one that ends, so fewer bytes than
-  /// announced are a failure.
-  [[nodiscard]] static Outcome ReadAll(void* pHandle, std::uint64_t nAnnounced,
-                                       const InternetLimits& oLimits);
-  [[nodiscard]] static Outcome ReadAnswer(void* pRequest, const InternetLimits& oLimits);
-  [[nodiscard]] static Outcome Find(void* pFtp, const std::wstring& sRemoteFile);
-  [[nodiscard]] static Outcome Fetch(void* pFtp, const std::wstring& sRemoteFile,
-                                     TransferType eType, const InternetLimits& oLimits);
-
   /// Runs a call on a handle and keeps the reason for a failure. A call that overruns its limit is
   /// ended by closing its handle, and abandoned if that doesn't help.
-  [[nodiscard]] Outcome Await(InternetHandle hHandle, std::chrono::milliseconds oLimit,
-                              Call fnCall);
+  [[nodiscard]] NetOutcome Await(InternetHandle hHandle, std::chrono::milliseconds oLimit,
+                                 Call fnCall);
   /// The final outcome of a request, once its redirects have been followed.
-  [[nodiscard]] Outcome Follow(InternetHandle hRequest, Outcome oOutcome);
+  [[nodiscard]] NetOutcome Follow(InternetHandle hRequest, NetOutcome oOutcome);
   [[nodiscard]] InternetHandle Keep(void* pHandle, InternetHandle hOwner);
   void SetLimits(void* pHandle) const;
 
   InternetLimits m_oLimits;
   InternetHandle m_hLast = 0;  ///< the latest one given out
   std::map<InternetHandle, Item> m_aoItems;
-  Outcome m_oLast;
+  NetOutcome m_oLast;
 };
 
 }  // namespace quillet
