@@ -59,6 +59,7 @@ add_library(quillet_desktop STATIC
   shell/SettingsPage.cpp
   shell/WhatIfOpener.cpp
   shell/WindowZoom.cpp
+  shell/WizardPages.cpp
   shell/WizardSteps.cpp
   shell/ctlCalculator.cpp
   shell/ctlWizard.cpp

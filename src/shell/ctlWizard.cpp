@@ -7,10 +7,8 @@
 #include <QShowEvent>
 #include <algorithm>
 #include <array>
-#include <utility>
 
 #include "base/basMain.h"
-#include "base/clsRegistryAccess.h"
 #include "base/failure.h"
 #include "controls/ImageButton.h"
 #include "controls/layout.h"
@@ -46,10 +44,6 @@ constexpr int kWhatIfHeight = 435;
 
 constexpr double kInfoPoints = 13.0;
 
-std::string PageInfoText(int nText) {
-  return Registry().Get(settings::kPageInfo.at(static_cast<std::size_t>(nText)));
-}
-
 }  // namespace
 
 ctlWizard::ctlWizard(QWidget* pParent)
@@ -58,7 +52,7 @@ ctlWizard::ctlWizard(QWidget* pParent)
       m_oSet(
           *this, [this](bool bDocDirty) { emit Changed(bDocDirty); }, [this] { emit Shown(); }),
       m_pViewPort(Make<PageScroller>("fraViewPort", this)),
-      m_aAllPages(MakePages()),
+      m_oPages(m_oSet, m_pViewPort),
       m_pInfo(Make<Label>("lblInfo", this)),
       m_pSteps(Make<WizardSteps>("Steps", this)),
       m_pScheduleLine(Make<ScheduleLine>("ScheduleLine", ScheduleLine::Button::AtLeft, this)),
@@ -83,61 +77,9 @@ ctlWizard::ctlWizard(QWidget* pParent)
   Place(0, 0, kDesignWidth, kDesignHeight);
 }
 
-std::vector<WizardPage> ctlWizard::MakePages() {
-  struct PageDesign {
-    const char* sName;
-    int nText;  ///< the number of its instruction in the settings
-    int nFrameWidth;
-    int nFrameHeight;
-    SectionPanel& oSection;
-    int nLeft;
-    int nWidth;
-    int nHeight;
-  };
-  constexpr int kSectionTop = 120;
-  const std::array aoDesigns = std::to_array<PageDesign>({
-      {"Auction Type", 1, 3495, 7335, m_oSet.ctlAuctionTypeSection, 120, 3255, 7095},
-      {"Outlay", 0, 5175, 2415, m_oSet.ctlOutlaySection, 120, 4815, 2295},
-      {"Sale Fees", 5, 4935, 2815, m_oSet.ctlSaleFeesSection, 240, 4575, 2695},
-      {"Features", 2, 4095, 7215, m_oSet.ctlSellingFeaturesSection, 240, 3735, 6975},
-      {"PayPal", 3, 3255, 4575, m_oSet.ctlPayPalSection, 120, 3015, 4335},
-      {"Postage", 4, 4935, 6375, m_oSet.ctlPostageSection, 240, 4575, 6255},
-  });
-  std::vector<WizardPage> aPages;
-  for (const PageDesign& oDesign : aoDesigns) {
-    auto* const pFrame = Make<Frame>("fraPages", m_pViewPort);
-    pFrame->Place(0, 0, oDesign.nFrameWidth, oDesign.nFrameHeight);
-    oDesign.oSection.setParent(pFrame);
-    pFrame->SetVisible(false);
-    oDesign.oSection.Place(oDesign.nLeft, kSectionTop, oDesign.nWidth, oDesign.nHeight);
-    aPages.push_back({.sName = oDesign.sName,
-                      .pFrame = pFrame,
-                      .oSection = &oDesign.oSection,
-                      .sInfo = PageInfoText(oDesign.nText)});
-  }
-  return aPages;
-}
-
-/// A page that comes on view is shown once, since its section then learns the places of its rows.
 void ctlWizard::TakePages() {
-  const std::vector<WizardPage> aBefore = std::exchange(m_aPages, {});
-  QStringList asNames;
-  for (const WizardPage& tPage : m_aAllPages) {
-    const auto fnIsIt = [&](const WizardPage& t) { return t.pFrame == tPage.pFrame; };
-    const bool bOnView = m_oSet.IsOnView(*tPage.oSection);
-    if (bOnView != std::any_of(aBefore.begin(), aBefore.end(), fnIsIt)) {
-      tPage.pFrame->SetVisible(bOnView);
-      tPage.oSection->SetVisible(bOnView);
-    }
-    if (bOnView) {
-      m_aPages.push_back(tPage);
-      m_aPages.back().lIndex = static_cast<std::int32_t>(asNames.size());
-      asNames += tPage.sName;
-    }
-  }
-  m_aPages.front().bFirst = true;
-  m_aPages.back().bLast = true;
-  m_pSteps->SetSteps(asNames);
+  m_oPages.Refresh();
+  m_pSteps->SetSteps(m_oPages.Names());
 }
 
 void ctlWizard::ListenToSections() {
@@ -206,10 +148,11 @@ void ctlWizard::FollowSchedule() {
   }
   m_pScheduleLine->Refresh();
   TakePages();
-  const auto pSame = std::find_if(m_aPages.begin(), m_aPages.end(), [this](const WizardPage& t) {
+  const std::vector<WizardPage>& aPages = m_oPages.OnView();
+  const auto pSame = std::find_if(aPages.begin(), aPages.end(), [this](const WizardPage& t) {
     return t.pFrame == m_tCurrent->pFrame;
   });
-  const std::int32_t lPage = pSame != m_aPages.end() ? pSame->lIndex : m_tCurrent->lIndex - 1;
+  const std::int32_t lPage = pSame != aPages.end() ? pSame->lIndex : m_tCurrent->lIndex - 1;
   ShowPage(static_cast<std::int16_t>(lPage));
   RefreshSums(true);
 }
@@ -239,7 +182,7 @@ void ctlWizard::UserControl_Show() {
 /// Text typed on the previous page is entered first, as by any other way of leaving its box.
 void ctlWizard::ShowPage(std::int16_t nPage) {
   LeaveInput();
-  for (const WizardPage& tPage : m_aPages) {
+  for (const WizardPage& tPage : m_oPages.OnView()) {
     if (tPage.lIndex == nPage) {
       TurnTo(tPage);
     } else {

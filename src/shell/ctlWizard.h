@@ -5,11 +5,10 @@
 #include <QWidget>
 #include <cstdint>
 #include <optional>
-#include <string>
-#include <vector>
 
 #include "controls/Controls.h"
 #include "shell/SectionSet.h"
+#include "shell/WizardPages.h"
 
 namespace quillet {
 
@@ -17,17 +16,6 @@ class ImageButton;
 class ScheduleLine;
 class PageScroller;
 class WizardSteps;
-
-/// One page of the wizard.
-struct WizardPage {
-  const char* sName;
-  Frame* pFrame;
-  SectionPanel* oSection;   ///< in the frame
-  std::string sInfo;        ///< the instruction above it
-  std::int32_t lIndex = 0;  ///< its place among the pages on view
-  bool bFirst = false;      ///< no page to go back to
-  bool bLast = false;       ///< Next finishes
-};
 
 class ctlWizard : public QWidget, public Control {
   Q_OBJECT
@@ -67,7 +55,6 @@ class ctlWizard : public QWidget, public Control {
   void Placed() override;
 
  private:
-  [[nodiscard]] std::vector<WizardPage> MakePages();
   void TakePages();
   void ListenToSections();
   void MakeButtons();
@@ -86,8 +73,7 @@ class ctlWizard : public QWidget, public Control {
 
   SectionSet m_oSet;
   PageScroller* m_pViewPort;
-  std::vector<WizardPage> m_aAllPages;
-  std::vector<WizardPage> m_aPages;  ///< those on view with the fee schedule in use
+  WizardPages m_oPages;
   std::optional<WizardPage> m_tCurrent;
   Label* m_pInfo;
   WizardSteps* m_pSteps;
