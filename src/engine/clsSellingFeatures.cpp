@@ -189,8 +189,26 @@ PriceKey clsSellingFeatures::GetPriceKey(const KeyText& oName) const {
 /// A price that the schedule lacks stays as it was, even if it is that of another kind of listing.
 void clsSellingFeatures::RefreshPrices() {
   RefreshPrices(GetPriceKey(""), Duration());
-  if (HasFeesOfToday() && AuctionType().HasFixedPrice()) {
-    RefreshPrices(KeyText("FixedFeature"), kShopNone);  // those that differ
+  if (HasFeesOfToday()) {
+    if (AuctionType().HasFixedPrice()) {
+      RefreshPrices(KeyText("FixedFeature"), kShopNone);  // those that differ
+    }
+    RefreshSubtitle();
+  }
+}
+
+/// Today its price may go by that of the listing: the starting price, or the fixed one.
+void clsSellingFeatures::RefreshSubtitle() {
+  const bool bFixed = AuctionType().HasFixedPrice();
+  const KeyText oTable = bFixed ? KeyText("FixedFeatureItemSubtitle") : "FeatureItemSubtitle";
+  if (m_oLastOutlay == nullptr || !Prices().HasTiers(oTable)) {
+    return;
+  }
+  clsPriceRange oTier;
+  const Single fListed =
+      bFixed ? m_oLastOutlay->m_fEstimatedEndPrice : m_oLastOutlay->m_fStartingPrice;
+  if (Prices().HitTestRanges(oTable, fListed, oTier, kShopNone)) {
+    m_fItemSubtitle = oTier.m_fValue;
   }
 }
 

@@ -104,6 +104,7 @@ class clsSellingFeatures {
   [[nodiscard]] Single Charged(Single fPrice) const;
   void RefreshPrices();
   void RefreshPrices(PriceKey&& oPrefix, std::int32_t nShop);
+  void RefreshSubtitle();
   [[nodiscard]] Single GetBuyItNowFee() const;
   [[nodiscard]] Single GetHomePageFee() const;
   [[nodiscard]] Single GetPicturePackFee() const;

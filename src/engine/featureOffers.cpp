@@ -5,8 +5,9 @@ namespace {
 
 using F = clsSellingFeatures;
 
+/// To today's fees a shop's listing is like any other.
 bool IsNotShop(const clsAuctionType& oType) {
-  return !oType.m_bShopInventory;
+  return !oType.m_bShopInventory || oType.m_oSaleFees != nullptr;
 }
 
 bool IsShop(const clsAuctionType& oType) {

@@ -31,6 +31,8 @@ class SaleCheck {
     CheckOptionalTable({"ShopOpening", KeyKind::LotTiers});
     CheckOptionalTable({"ShopOrderFee", KeyKind::ProgressiveTiers});
     CheckOptionalTable({"ReserveRealEstate", KeyKind::PriceTiers, 3});
+    CheckOptionalTable({"FeatureItemSubtitle", KeyKind::PriceTiers});
+    CheckOptionalTable({"FixedFeatureItemSubtitle", KeyKind::PriceTiers});
   }
 
  private:

@@ -5,6 +5,7 @@
 
 #include "base/failure.h"
 #include "engine/clsCalculate.h"
+#include "engine/featureOffers.h"
 #include "support/ByRegion.h"
 #include "support/Prices.h"
 
@@ -155,6 +156,33 @@ TEST_F(SaleFees, ATableThatIsMissingStopsTheCalculationAndAnUnknownCategoryDoesN
   oInputs.nCategory = 2;
   EXPECT_EQ(FeeOf(9), 0);
   EXPECT_THROW((void)FeeOf(2e14), Failure);
+}
+
+TEST_F(SaleFees, ASubtitleGoesByWhatTheListingStartsAtOrIsSoldFor) {
+  UsePlain(Tiers("Plain", {{"0", "-1", "10"}}) +
+           Tiers("FeatureItemSubtitle", {{"100.01", "150", "1.5"}, {"150.01", "-1", "3"}}) +
+           Tiers("FixedFeatureItemSubtitle", {{"0", "150", "2"}, {"150.01", "-1", "6"}}) +
+           "OrderFeeRanges,0\nFeatureItemSubtitle,1\nFixedFeatureItemSubtitle,9\n");
+  oAuction.m_oSellingFeatures.AddFeature(kFeatureItemSubtitle);
+  clsAuctionType& oType = oAuction.m_oAuctionType;
+  const std::tuple<bool clsAuctionType::*, double, double, double> aoRows[] = {
+      {nullptr, 100, 151, 1},
+      {nullptr, 150, 151, 1.5},
+      {nullptr, 150.01, 151, 3},
+      {&clsAuctionType::m_bBuyItNowOnly, 151, 150, 2},
+      {&clsAuctionType::m_bBuyItNowOnly, 0, 150.01, 6},
+      {&clsAuctionType::m_bShopInventory, 0, 150.01, 6}};
+  for (const auto& [bKind, fStart, fPrice, fFee] : aoRows) {
+    oType.Clear();
+    if (bKind != nullptr) {
+      oType.*bKind = true;
+    }
+    oAuction.m_oOutlay.m_fStartingPrice = fStart;
+    (void)FeeOf(fPrice);
+    EXPECT_EQ(oAuction.m_oSellingFeatures.LastFee(), Single(fFee)) << fStart << ", " << fPrice;
+    DropWhatIsNotOnOffer(oAuction.m_oSellingFeatures, oType);
+    EXPECT_TRUE(oAuction.m_oSellingFeatures.HasFeature(kFeatureItemSubtitle)) << fPrice;
+  }
 }
 
 TEST_F(SaleFees, ReserveAndKindsOfListingGoByTheSchedule) {
