@@ -42,8 +42,10 @@ std::string ProfitText(const clsCalculate& oBefore, const clsCalculate& oAfter, 
 }
 
 Single ListingFees(const clsCalculate& oAuction) {
+  const clsAuctionType& oType = oAuction.m_oAuctionType;
+  const Single fOfSale = oType.HasPaidSaleFees() ? oAuction.m_oSaleFees.LastFee() : Single(0);
   return oAuction.m_fReserveCost + oAuction.m_fListingCost +
-         oAuction.m_oAuctionType.DoCalcFinalValueFee(oAuction.m_oOutlay);
+         oType.DoCalcFinalValueFee(oAuction.m_oOutlay) + fOfSale;
 }
 
 }  // namespace

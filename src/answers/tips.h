@@ -14,8 +14,9 @@ namespace quillet {
 [[nodiscard]] std::string FeatureTip(const clsCalculate& oAuction, eFeature eBit, bool bChosen,
                                      const Change& oClick);
 
-/// "Motor Auction: $40.00 in fees. Profit would be $54.78." The fees are those of the listing, as
-/// in the section's total. An empty click is that on the option that is chosen, which does nothing.
+/// "Motor Auction: $40.00 in fees. Profit would be $54.78." The fees are those in the total of the
+/// section, and the sale fees. An empty click is one on the option that is chosen, which
+/// does nothing.
 [[nodiscard]] std::string ListingTip(const clsCalculate& oAuction, const std::string& sName,
                                      bool bChosen, const Change& oClick);
 

@@ -111,14 +111,16 @@ std::vector<Choice*> OptionsIn(const SectionPanel& oSection) {
 struct Clicked {
   bool bWasChosen;
   bool bIsChosen;
-  std::string sFees;  ///< of the listing, with the option
+  std::string sFees;  ///< of the listing and the sale, with the option
   Single fFeatures;   ///< by how much their fee has changed
   int nDropped;       ///< how many other features have gone
 };
 
-Clicked Click(const ctlAuctionType& oListing, const SectionPanel& oSection, const Choice& oOption) {
-  const auto fnFees = [&] {
-    return ControlOf(oListing, "lblTotal").Caption().remove("Section Total ").toStdString();
+Clicked Click(const SectionPanel& oSection, const Choice& oOption) {
+  const auto fnFees = [] {
+    clsCalculate& oAuction = WorkingAuction();
+    return FormatMoney(oAuction.m_fSellCost - oAuction.m_oOutlay.DoCalc() - oAuction.m_fPayPayCost -
+                       oAuction.m_oSellingFeatures.LastFee());
   };
   const clsSellingFeatures oBefore = WorkingAuction().m_oSellingFeatures;
   Clicked oClicked{oOption.Value() != 0, false, fnFees(), 0, 0};
@@ -162,17 +164,22 @@ TEST_F(ByHand, ATooltipTellsWhatItsClickThenLeaves) {
       "[TYPE]002|False|False|3|0|1|0|True[TYPE]" + sPrices + "[FEATURES]7|0[FEATURES]" + kRest,
   };
   int nTips = 0;
-  for (const bool bConfig : {false, true}) {
+  for (const bool bToday : {false, true}) {
+    const bool bConfig = !bToday;
+    if (bToday) {
+      UseScheduleOfToday();
+      m_pView->FollowSchedule();
+    }
     for (const std::string& sAuction : asAuctions) {
       for (const SectionPanel* const pSection :
            {static_cast<const SectionPanel*>(&oSet.ctlAuctionTypeSection),
             static_cast<const SectionPanel*>(&oSet.ctlSellingFeaturesSection)}) {
         Show(sAuction, bConfig);
         for (const Choice* const pOption : OptionsIn(*pSection)) {
-          SCOPED_TRACE(pOption->Name() + (bConfig ? " in config mode of " : " of ") + sAuction);
+          SCOPED_TRACE(pOption->Name() + (bToday ? " today of " : " of ") + sAuction);
           Show(sAuction, bConfig);
           const std::string sTip = TipOver(pOption->Widget());
-          const Clicked oClicked = Click(oSet.ctlAuctionTypeSection, *pSection, *pOption);
+          const Clicked oClicked = Click(*pSection, *pOption);
           const std::string sExpected =
               ExpectedTip(oClicked, *pOption, pSection == &oSet.ctlSellingFeaturesSection);
           EXPECT_EQ(sTip.substr(0, sExpected.size()), sExpected) << sTip;
