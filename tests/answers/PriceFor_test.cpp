@@ -21,7 +21,7 @@ constexpr Cents kTried = 200'000;
 const std::vector<Goal> kGoals = {
     {}, {GoalKind::Profit, 7.5}, {GoalKind::PercentOfCost, 25}, {GoalKind::PercentOfPrice, 15}};
 
-/// The lowest price up to 2,000.00 for each goal, tried cent by cent; kTried + 1 if none does it.
+/// The lowest price up to 2,000.00 for each goal, tried cent by cent; kTried + 1 if none meets it.
 std::vector<Cents> LowestByTryingAll(const clsCalculate& oAuction) {
   std::vector<Cents> anLowest(kGoals.size(), kTried + 1);
   Trial oTrial(oAuction);
@@ -47,7 +47,7 @@ void ExpectTheLowest(clsCalculate& oAuction) {
   }
 }
 
-/// An auction that a seller might list: cheap for the most part, so that prices are soon tried.
+/// A plausible random auction, mostly cheap so that its lowest price is found soon.
 void MakeUp(clsCalculate& oAuction, std::mt19937& oRandom) {
   const auto fnUpTo = [&](std::uint32_t nLimit) {
     return static_cast<std::int32_t>(oRandom() % (nLimit + 1));
@@ -96,7 +96,7 @@ TEST(PriceFor, IsTheLowestThatTryingEveryCentFinds) {
 TEST(PriceFor, IsSoWithTodaysFeesToo) {
   UseShippedSchedule(RegionCode() == 1 ? "UpdateUS_2026-10.dat" : "UpdateUK_2026-10.dat");
   ExpectTheLowestOfRandomAuctions(100);
-  // Tiers near the prices that are tried, on the whole amount and on its parts, upwards too.
+  // Tiers near the prices tried, on the whole amount and on its parts, with rates that also rise.
   UseSchedule(
       "FeeModel,2\nFinalBase,3\nFeeTax,17.5\nAlwaysPercent,0.35\nExtraPercentCount,1\n"
       "ExtraPercent1Value,1.65\nInsuranceBandValue1,0\nCurrencyFormat,0.00\n"

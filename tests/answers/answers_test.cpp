@@ -1,4 +1,4 @@
-// What the room of answers says of an auction, worked out by hand or by the same change made to it.
+// Answers about an auction, against figures worked out by hand or the same change made to it.
 #include <string>
 #include <vector>
 
@@ -28,7 +28,7 @@ std::string Replaced(std::string sText, const std::string& sFrom, const std::str
   return sText.replace(sText.find(sFrom), sFrom.size(), sTo);
 }
 
-/// A fixed price of 8.50 on one item pays 1.00 up to 9.99 and 3.00 from 10.00 on.
+/// One item that cost 8.50, at a fixed price: the fee is 1.00 up to 9.99 and 3.00 from 10.00.
 class ASteepTier : public ::testing::Test {
  protected:
   void SetUp() override {
@@ -155,7 +155,7 @@ TEST(Alternatives, KeepToTheKindAndTheRegionAndPutTheBestListingFirst) {
   EXPECT_EQ(asStandard.front(), "As it is: standard auction");
 }
 
-/// A fixed price in most categories of the United States, or one of clothes in the United Kingdom.
+/// A fixed-price sale of books in the United States, or of clothes in the United Kingdom.
 class ASaleOfToday : public ::testing::Test {
  protected:
   ASaleOfToday() {
@@ -179,7 +179,7 @@ TEST_F(ASaleOfToday, HasThePartsOfItsFee) {
     fSum += oPart.fAmount;
     EXPECT_NE(oPart.eKind, PartKind::FinalValue);
   }
-  // 158.45 and VAT on the fees; 158.45 with 6 % is 167.957
+  // UK: 158.45, and VAT on the fees. US: 158.45 with 6 % tax is 167.957.
   EXPECT_EQ(sParts, ByRegion("Category 18.86 Order 0.40 Regulatory 0.55 Advertising 2.38 "
                              "Surcharges 2.85 Tax on fees 5.01 ",
                              "Category 25.70 Order 0.40 Regulatory 0.00 Advertising 2.52 "

@@ -1,4 +1,4 @@
-// What is said of a choice against the same choice made by hand in the calculator.
+// What the program says about a choice, against making that choice by hand in the calculator.
 #include <QApplication>
 #include <QHelpEvent>
 #include <QTextDocumentFragment>
@@ -86,7 +86,7 @@ TEST_F(ByHand, AnAlternativesFiguresAreThoseOfItsClicksAndStandWhenItIsUsed) {
   }
 }
 
-/// What the pointer is told that rests on an input.
+/// The tooltip over an input, or "none".
 std::string TipOver(QWidget& oInput) {
   const QPoint oAt = oInput.rect().center();
   QHelpEvent oEvent(QEvent::ToolTip, oAt, oInput.mapToGlobal(oAt));
@@ -107,13 +107,13 @@ std::vector<Choice*> OptionsIn(const SectionPanel& oSection) {
   return aoOptions;
 }
 
-/// What one click has done to the figures.
+/// What one click did to the figures.
 struct Clicked {
   bool bWasChosen;
   bool bIsChosen;
   std::string sFees;  ///< of the listing and the sale, with the option
-  Single fFeatures;   ///< by how much their fee has changed
-  int nDropped;       ///< how many other features have gone
+  Single fFeatures;   ///< the change in their fee
+  int nDropped;       ///< how many other features went
 };
 
 Clicked Click(const SectionPanel& oSection, const Choice& oOption) {
@@ -136,7 +136,7 @@ Clicked Click(const SectionPanel& oSection, const Choice& oOption) {
   return oClicked;
 }
 
-/// A tooltip but for the features that it names behind the profit.
+/// A tooltip, up to the features that it may name after the profit.
 std::string ExpectedTip(const Clicked& oClicked, const Choice& oOption, bool bFeature) {
   const std::string sName = WordsOf(oOption).toStdString();
   if (bFeature ? !oClicked.bWasChosen && !oClicked.bIsChosen : IsGrey(oOption)) {

@@ -140,7 +140,7 @@ class Streams(Temporary):
 
     @staticmethod
     def peak(path):
-        """The most memory, in kilobytes, that the program takes for a stream."""
+        """The program's peak memory for a stream, in kilobytes."""
         with path.open() as stdin, open(os.devnull, "w") as null:
             program = subprocess.Popen([PROGRAMS / "quillet-calc", "--format", "csv"], stdin=stdin,
                                        stdout=null)
@@ -246,7 +246,7 @@ class Schedules(Temporary):
         for name, fee in (("early 2007", "$2.05"), ("BöDEN 2026", "$4.05"), (today.name, "$4.05")):
             self.assertRegex(self.calc("--prices", name, camera)[1],
                              rf"Total Listing Fee +{re.escape(fee)}\n")
-        shutil.copy(default, self.folder / "Böden 2026")  # a file comes first
+        shutil.copy(default, self.folder / "Böden 2026")  # a file of that name wins
         self.assertIn("$2.05", self.calc("--prices", "Böden 2026", camera)[1])
         self.assertEqual(self.calc("--prices", "late", camera),
                          (2, "", "quillet-calc: late: No such file or directory, and no fee schedule has "
@@ -257,8 +257,8 @@ US, UK = "quillet-calc", "quillet-calc-uk"
 SCHEDULES = {US: "UpdateUS_v0101.dat", UK: "UpdateUK_v0101.dat"}
 TODAY = {US: "UpdateUS_2026-10.dat", UK: "UpdateUK_2026-10.dat"}
 
-# What is done to the shipped schedule, and what the check then finds: program, (line as shipped,
-# lines in its place) pairs, findings. "@Key" stands for the line of that key, "$" for the last line.
+# Edits to the shipped schedule and what the check then finds: program, pairs of (shipped line, new
+# lines), findings. "@Key" stands for the line number of that key, "$" for that of the last line.
 FINDINGS = (
     (US, [("FeatureBold,1.00", "FeatureBold,1.00\nFEATUREBOLD,2")],
      ['@FEATUREBOLD: "FEATUREBOLD" is already on line @FeatureBold; loading stops here']),
@@ -291,7 +291,7 @@ FINDINGS = (
      ['@OpeningRangeStart4: "Opening": gap between tier 3 to 24.99 and tier 4 from 25.00: '
       "21 x 1.19 falls into it"]),
     (UK, [("OpeningRangeEnd5,99.995", "OpeningRangeEnd5,99.99"),
-          ("OpeningRangeEnd1,0.995", "OpeningRangeEnd1,0.99")],  # nothing falls between these
+          ("OpeningRangeEnd1,0.995", "OpeningRangeEnd1,0.99")],  # no price falls in between
      ['@OpeningRangeStart6: "Opening": gap between tier 5 to 99.99 and tier 6 from 100.00: '
       "3 x 33.33 falls into it"]),
     (US, [("ReserveRangeStart2,50.00", "ReserveRangeStart2,50.01")],
@@ -377,7 +377,7 @@ class Check(Temporary):
 
     @staticmethod
     def numbered(finding, lines, at):
-        """The finding with line numbers in place of @Key, # and a number from the edit, and $."""
+        """The finding with line numbers for @Key, for $, and for # with an offset from the edit."""
         def line_of(match):
             return str(next(i for i, line in enumerate(lines, 1)
                             if re.match(re.escape(match[1]) + r"\b", line)))

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""same_figures.py FOLDER FOLDER...: do the terminal programs of several builds give the same figures,
-bit for bit? Compares their JSON, whose figures are exact, over the sample auctions and many random
-ones. The first folder is what the others are held against."""
+"""same_figures.py FOLDER FOLDER...: do the terminal programs of several builds give the same
+figures, bit for bit? Compares their JSON, whose figures are exact, for the sample auctions and
+many random ones. The first folder is the reference."""
 import random
 import subprocess
 import sys
@@ -12,7 +12,7 @@ RANDOM_AUCTIONS = 2000
 
 
 def price(dice):
-    """Prices on and beside the limits of tiers, round ones, and some that no price list has."""
+    """Prices at and near tier limits, round ones, and some that no price list has."""
     return dice.choice((
         "0", "0.01", "0.99", "1", "9.99", "10", "24.99", "25", "199.99", "200", "1000", "1000.01",
         f"{dice.uniform(0, 50):.2f}", f"{dice.uniform(0, 5000):.2f}", f"{dice.uniform(0, 9):.6g}",

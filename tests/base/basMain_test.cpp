@@ -1,5 +1,5 @@
-// The start, driven by a recording application. What it is asked for goes into the diagnostic log
-// with a "*" in front, so that one list shows the whole order of calls and of log lines.
+// The start, driven by a recording application. Calls to it go into the diagnostic log, marked
+// with a "*", so that one list shows the order of calls and log lines.
 #include "base/basMain.h"
 
 #include <functional>
@@ -22,7 +22,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-/// Its movie loads and ends a few pumpings after it is shown.
+/// Its movie loads and ends a few pumps after it is shown.
 class RecordedSplash : public SplashWindow {
  public:
   explicit RecordedSplash(const TestHost& oHost) : m_oHost(oHost) {}
@@ -41,7 +41,7 @@ class RecordedMain : public MainWindow {
   explicit RecordedMain(std::function<void()> fnOnShow) : m_fnOnShow(std::move(fnOnShow)) {}
   void Show() override {
     WriteLog(g_frmMain.get() == this ? "* main shown" : "* main shown before it is known");
-    const auto fnOnShow = m_fnOnShow;  // this object may be gone behind it
+    const auto fnOnShow = m_fnOnShow;  // the call may destroy this object
     fnOnShow();
   }
   void Unload() override { WriteLog("* main unloaded"); }
@@ -50,7 +50,7 @@ class RecordedMain : public MainWindow {
   std::function<void()> m_fnOnShow;
 };
 
-/// The host and the application in one; what it is asked for can be made to fail.
+/// Host and application in one, whose calls can be made to fail.
 class Start : public ::testing::Test, public ScopedHost, public Application {
  protected:
   Start() {
@@ -58,7 +58,7 @@ class Start : public ::testing::Test, public ScopedHost, public Application {
     sCommandLine = "/x debug=True";
     SetApplication(*this);
     SetRegistryHive(m_oHive);
-    WriteTestFile(m_oFolder / "QlDebug.log", "\n");  // so that there is no header
+    WriteTestFile(m_oFolder / "QlDebug.log", "\n");  // so the log gets no header
   }
   ~Start() override {
     g_bDebug = false;

@@ -42,7 +42,7 @@ TEST_F(RegistryAccess, AMissingValueIsTheDefaultAndFalseUnlessItCouldBeCreated) 
   m_oHive.bWritable = true;
   EXPECT_TRUE(m_oRegistry.GetRegSetting(kUser, "Config", "Name", m_sResult, "d", true, false));
   EXPECT_EQ(Value("Software\\App\\Config"), "d");
-  Value("Software\\App\\Config") = "";  // a value, too
+  Value("Software\\App\\Config") = "";  // an empty value counts too
   EXPECT_TRUE(m_oRegistry.GetRegSettingString(kUser, m_sResult, "Name", "Config", "d"));
   EXPECT_EQ(m_sResult, "");
 }

@@ -37,7 +37,7 @@ TEST(Single, RefusesWhatRoundsBeyondTheLargestFloat) {
 TEST(Conversions, TextToSingle) {
   constexpr float kTiny = std::numeric_limits<float>::denorm_min();
   constexpr float kMost = std::numeric_limits<float>::max();
-  // Ties of 2^24 + 1 and of 1 + 2^-24 go to even; a digit more goes up, however late it stands.
+  // Ties of 2^24 + 1 and of 1 + 2^-24 go to even; one more digit, however far on, rounds them up.
   const std::pair<const char*, float> aoRows[] = {
       {" \t+2. ", 2},
       {"-.5", -.5F},
@@ -157,8 +157,8 @@ TEST(Conversions, SingleToTextOfSevenDigits) {
 }
 
 TEST(Conversions, FormatsByPatternAndAnExactHalfGoesAwayFromZero) {
-  // No halves: these floats are 2.6749999523 and 0.0450000018.
-  // No minus in front of a zero.
+  // 2.675F and 0.045F aren't exact halves: they are 2.6749999523 and 0.0450000018.
+  // A zero has no minus.
   const std::tuple<float, const char*, const char*> aoRows[] = {
       {.125F, "0.00", "0.13"},
       {-.125F, "0.00", "-0.13"},

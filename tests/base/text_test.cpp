@@ -18,7 +18,7 @@ TEST(Text, ReadsUtf8AsItStandsAndAnythingElseAsWindows1252) {
       {"\x80\x9F", "€Ÿ"},
       {"\xC0\x80", "À€"},                               // an overlong zero isn't UTF-8
       {"\xED\xA0\x80", "í\u00A0€"},                     // nor is half a surrogate pair
-      {"\xEF\xBB\xBF\xC2\xA3\xEF\xBB\xBF", "£\uFEFF"},  // a byte-order mark begins a text
+      {"\xEF\xBB\xBF\xC2\xA3\xEF\xBB\xBF", "£\uFEFF"},  // only a leading byte-order mark is dropped
   };
   for (const auto& [sBytes, sExpected] : aoRows) {
     EXPECT_EQ(DecodeText(sBytes), sExpected);

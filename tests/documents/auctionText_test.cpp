@@ -1,4 +1,4 @@
-// The text of an auction: what is written, what is read, and what damage does.
+// Writing and reading an auction's text, and what damage to it does.
 #include <gtest/gtest.h>
 
 #include "support/Auctions.h"
@@ -13,13 +13,13 @@ const std::string kFresh =
     "[FEATURES]0|0[FEATURES][PAYPAL]False|0|1|False[PAYPAL]"
     "[POSTAGE]False|0|0|0|0|False|False|False|0|False[POSTAGE]";
 
-// Every field differs from its neighbours, so that two places that are swapped show.
+// Every field differs from its neighbours, so that a swap of two shows.
 const std::string kFull =
     "[TYPE]002|True|False|5|4|1|3|True[TYPE][OUTLAY]12.5|0.99|0.1|1E+07|-4|True[OUTLAY]"
     "[FEATURES]1114113|7[FEATURES][PAYPAL]True|2|5|True[PAYPAL]"
     "[POSTAGE]True|0.25|3|4.45|2|True|False|True|1.5|True[POSTAGE]";
 
-/// What an auction that held kFull holds after `sText` was read into it.
+/// The text of an auction into which kFull and then `sText` were read.
 std::string AfterReading(std::string sText) {
   clsCalculate oAuction;
   std::string sFull = kFull;
@@ -39,19 +39,19 @@ TEST(AuctionText, IsWrittenInFiveSectionsBehindWhatIsThere) {
   std::string sText = "before";
   oAuction.Serialize(sText, true);
   EXPECT_EQ(sText, "before" + kFresh);
-  // That each place is of its field shows in the figures of the sample auctions.
+  // The figures of the sample auctions prove that each value goes to its own field.
   std::string sFull = kFull;
   oAuction.Serialize(sFull, false);
   EXPECT_EQ(TextOf(oAuction), kFull);
 }
 
 TEST(AuctionText, AValueThatDoesNotConvertLeavesItsFieldAlone) {
-  std::string sAccents;  // not too many characters, in more bytes
+  std::string sAccents;  // too long in bytes but not in characters
   while (sAccents.size() < 40000) {
     sAccents += "é";
   }
   const std::pair<std::string, const char*> aoRows[] = {
-      // as it is read and as it is then written
+      // a section as read, and as written afterwards
       {"[TYPE]002[TYPE]", "[TYPE]002|True|False|5|4|1|3|True[TYPE]"},
       {"[TYPE]256|2|0|256|-1|2.5|x|-1[TYPE]", "[TYPE]002|True|False|5|4|1|3|True[TYPE]"},
       {"[OUTLAY]1|2|3|4|many|False[OUTLAY]", "[OUTLAY]1|2|3|4|-4|False[OUTLAY]"},
@@ -101,8 +101,7 @@ TEST(AuctionText, FeesStandWhereTheyAreTodaysOrEnteredAndAreFreshWithoutTheirSec
 TEST(AuctionText, AMissingSectionEndsTheReadingOrIsPassedOver) {
   const std::string sType = kFresh.substr(0, kFresh.find("[OUTLAY]"));
   const std::string sOutlay = "[OUTLAY]0|0|0|0|0|False[OUTLAY]";
-  // The text, the section that the message names, and the first letters of the sections that are
-  // read.
+  // The text, the section named by the message, and the initials of the sections read.
   const std::tuple<std::string, std::string, std::string> aoRows[] = {
       {"", "[OUTLAY]", ""},
       {"garbage before" + kFresh + "garbage behind", "", "TOFPP"},

@@ -1,5 +1,5 @@
-// The sample auctions against the shipped fee schedules, fee by fee: docs/sample-auctions.md has
-// their figures, worked out by hand.
+// The sample auctions under the shipped fee schedules, fee by fee, against the figures worked out
+// by hand in docs/sample-auctions.md.
 #include <string>
 
 #include <gtest/gtest.h>
@@ -13,7 +13,7 @@
 namespace quillet {
 namespace {
 
-/// What the program makes of an auction, as a row of the page's table.
+/// The program's figures for an auction, as a row of the page's table.
 std::string RowOf(const std::string& sName, const clsCalculate& oAuction) {
   std::string sRow = "| `" + sName + "` |";
   for (const Single& fFigure :
@@ -74,8 +74,8 @@ TEST_P(SampleAuctions, StandAsTheyAreSavedAndGiveTheFiguresOfTheirPageWhereverTh
   EXPECT_EQ(Samples(oPage.sFolder).size(), oPage.bToday ? 8U : 17U);
 }
 
-// A new auction reads the features of thirty days until its type is set; it must not read others
-// than an auction without a shop.
+// Until its type is set, a new auction reads the feature prices for thirty days. They must be the
+// same as those without a shop.
 TEST(ShippedSchedule, PricesFeaturesOfThirtyDaysAsWithoutAShop) {
   UseShippedSchedule();
   const PriceTable& oTable = Prices().Table();

@@ -84,7 +84,7 @@ TEST(AuctionType, TheThreeFeesByRegion) {
       {"several at a fixed price", 0, "B", .1, 20, 4, 3, {.6, 0, .6}, {.6, 0, .6}},
       {"in a gap", 0, "", .995, 49.995, 30, 0, {0, 0, 0}, {0, 0, 0}},
       {"negative quantity", 0, "", 5, 20, 10, -2, {0, 0, -1}, {0, 0, -1}},
-      // Quantity 0: the reserve costs. Tier 2 is a percentage there, tier 3 here.
+      // Quantity 0: the reserve is charged. Tier 2 is a percentage in the UK, tier 3 in the US.
       {"reserve, tier 2", 0, "", 5, 60, 30, 0, {0, 1.2, 0}, {0, 2, 0}},
       {"reserve, tier 3", 0, "", 5, 300, 30, 0, {0, 3, 0}, {0, 9, 0}},
       {"reserve, tier 3 above the cap", 0, "", 5, 1000, 30, 0, {0, 3, 0}, {0, 20, 0}},
@@ -150,11 +150,11 @@ TEST(AuctionType, WhatTheScheduleLacksIsZeroButForTierTables) {
   EXPECT_EQ(oType.DoCalcFinalValueFee_US(oOutlay), 0) << "a percentage without its cap";
 }
 
-// Such as can be asked in either region's program.
+// The United States rules, which both regions' programs contain.
 TEST(AuctionTypeUs, RealEstateIsPricedByKindAndSaleFormat) {
   UseAuctionTypeSchedule();
-  // By kind and format: the listing fee and, if the sale binds, the final value fee. A code outside
-  // the lists adds nothing to the key.
+  // Kind, format, listing fee, and final value fee if the sale is binding. An unknown code adds
+  // nothing to the key.
   const std::tuple<std::int32_t, std::int32_t, double, double> aoRows[] = {
       {0, 0, 100, 45}, {0, 3, 103, 0},  {1, 1, 111, 46},   {1, 2, 112, 0},
       {2, 0, 120, 0},  {1, 4, 121, 46}, {255, 255, 35, 0},

@@ -10,7 +10,7 @@ namespace quillet {
 namespace {
 
 TEST(Outlay, IsCostTimesQuantityAndTheTaxOnAllOfIt) {
-  // The product of 3 x 0.1 rounds before the tax comes on top, which ends a float above 0.3525.
+  // 3 x 0.1 is rounded before the tax is added, so the result is one float above 0.3525.
   const std::tuple<const char*, double, std::int32_t, bool, float> aoRows[] = {
       {"LocalTax,17.5", 10, 3, true, 35.25F},
       {"LocalTax,17.5", 10, 3, false, 30},
@@ -41,7 +41,7 @@ TEST(Calculate, EveryTotalOfABusyAuctionBitForBit) {
       "[POSTAGE]True|0|3|4.45|0|False|False|True|0.65|True[POSTAGE]";
   oAuction.Serialize(sText, false);
   oAuction.DoCalc();
-  // Each line of the calculation rounded to 32 bits in its turn, apart from this program.
+  // Worked out apart from this program, with each line of the calculation rounded to 32 bits.
   EXPECT_EQ(oAuction.m_fListingCost.Float(), 0x1.333334p-1F);    // 0.6, for 3 x 5.55
   EXPECT_EQ(oAuction.m_fFinalValueFee.Float(), 0x1.89e5ccp+2F);  // 6.15465
   EXPECT_EQ(oAuction.m_fPostageCost.Float(), 0x1.b1eb84p+3F);    // 3 x 4.52

@@ -20,9 +20,9 @@ clsPayPal Account(std::int32_t eType, std::int32_t nBand = 1) {
 }
 
 TEST(PayPal, AnExactHalfOfASmallestUnitGoesDown) {
-  // By format and fee before the rounding. The float of 2.675 lies below the half, its text
+  // The format, and the fee before rounding. The float of 2.675 lies below the half, but its text
   // doesn't; that of 12345.675 is 12345.6748, so its text ends in .67; 1.234568E+07 x 100 lies
-  // between two floats, of which 1234567936 is the even one.
+  // between two floats, and 1234567936 is the even one.
   const std::tuple<const char*, const char*, float> aoRows[] = {
       {"0.00", "2.675", 2.67F},       {"0.00", "-2.675", -2.67F}, {"0.00", "8.425", 8.42F},
       {"0.00", "0.005", 0},           {"0.00", "0.0051", 0.01F},  {"0.00", "12345.675", 12345.67F},

@@ -25,7 +25,7 @@ clsPostage Parcel(std::int32_t eClass, double fWeight) {
 
 TEST(Postage, FirstClassCountsPartStepsWholeBeyondItsLastBand) {
   UseSchedule(kSchedule);
-  // At first below the first band, at .55 in a gap.
+  // .04 is below the first band, .55 in a gap.
   const std::pair<double, double> aoRows[] = {{.04, 0},     {.05, 2},    {.5, 2},
                                               {.55, 0},     {1, 3},      {1.1, 3.85},
                                               {1.25, 3.85}, {1.26, 4.7}, {3, 9.8}};
@@ -35,8 +35,8 @@ TEST(Postage, FirstClassCountsPartStepsWholeBeyondItsLastBand) {
 }
 
 TEST(Postage, TheNumberOfStepsRoundsOnce) {
-  // (0.3 - 0.1) / 0.05 with the three as floats is 4.000000149, which a float holds as 4. The
-  // difference rounded by itself would be a little more than 0.2, and so a fifth step.
+  // With these three as floats, (0.3 - 0.1) / 0.05 is 4.000000149, which rounds to 4. Rounding the
+  // difference first would give a little over 0.2, and so a fifth step.
   UseSchedule(Tiers("FirstClass", {{"0", "0.1", "1"}}) +
               "FirstClassOverWeightStep,0.05\nFirstClassOverWeightStepValue,1");
   EXPECT_EQ(Parcel(0, 0.3).DoCalcOnWeight(kPostageFirstClass), 5);
@@ -95,7 +95,7 @@ TEST(Postage, SendingIndividuallyMultipliesCostAndProfit) {
     EXPECT_EQ(oPostage.DoCalcProfit(), 0);
     oPostage.m_bMakeProfit = true;
     EXPECT_EQ(oPostage.DoCalcProfit(), 0.5 * nTimes);
-    oPostage.m_bEnabled = false;  // a profit counts all the same
+    oPostage.m_bEnabled = false;  // a profit still counts
     EXPECT_EQ(oPostage.DoCalc(&oOutlay), 0);
     EXPECT_EQ(oPostage.DoCalcProfit(), 0.5 * nTimes);
   }

@@ -1,4 +1,4 @@
-// Today's fees: the shipped schedules' figures, and the rules that they rest on.
+// Today's fees: the figures of the shipped schedules, and the rules behind them.
 #include "engine/clsSaleFees.h"
 
 #include <gtest/gtest.h>
@@ -12,7 +12,7 @@
 namespace quillet {
 namespace {
 
-/// A sale of today, and what it costs.
+/// A sale under today's fees, and what it costs.
 struct Row {
   const char* sName;
   std::int32_t nCategory;
@@ -23,7 +23,7 @@ struct Row {
   double fFinalValueFee;
 };
 
-/// Leaves no schedule of today's fees to the tests behind it.
+/// Clears the schedule of today's fees for the tests that follow.
 class SaleFees : public ::testing::Test {
  protected:
   SaleFees() {
@@ -33,7 +33,7 @@ class SaleFees : public ::testing::Test {
   }
   ~SaleFees() override { UseSchedule(""); }
 
-  /// One category, and a table of its rates among the lines.
+  /// A schedule with one category, whose rate table is in `sMore`.
   static void UsePlain(const std::string& sMore) {
     UseSchedule(
         "FeeModel,2\nCategoryCount,1\nCategory1Tiers,Plain\nOpeningRanges,0\n"
@@ -101,11 +101,11 @@ TEST_F(SaleFees, OfTheShippedSchedulesComeOutToTheCent) {
 
 TEST_F(SaleFees, AnOrderIsRoundedAsByHandAndItsPartsAddUp) {
   const std::tuple<double, const char*, const char*, double> aoRows[] = {
-      {26.75, "10", "0", 2.68},    // 2.675, and a double's 2.675 is below it
+      {26.75, "10", "0", 2.68},    // 2.675, which as a double is a little less
       {10.05, "10", "0", 1.01},    // 1.005
       {10.04, "10", "0", 1.00},    // 1.004
       {0.25, "13", "5", 0.05},     // 0.0325 + 0.0125
-      {8.50, "14.5", "0.5", 1.28}  // 1.2325 + 0.0425, a half only together
+      {8.50, "14.5", "0.5", 1.28}  // 1.2325 + 0.0425: only the sum is a half
   };
   for (const auto& [fPrice, sRate, sAlways, fFee] : aoRows) {
     UsePlain(std::string("FinalBase,1\nOrderFeeRanges,0\nAlwaysPercent,") + sAlways + "\n" +

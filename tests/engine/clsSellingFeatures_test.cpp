@@ -34,7 +34,7 @@ std::vector<std::string> Words(const std::string& sWords) {
 }
 
 TEST_F(SellingFeatures, EachBitCostsThePriceOfItsKey) {
-  // In the order of the bits; those without a name here are no plain price.
+  // In the order of the bits; a dash stands for a feature without a plain price.
   const std::vector<std::string> asKeys = Words(
       "HomePage Plus Highlight ItemSubtitle Bold Gallery FeaturedGallery BuyItNow "
       "ScheduledListings - SlideShow SupersizePictures -- ListingDesigner FeaturedInSearch "
@@ -59,9 +59,9 @@ TEST_F(SellingFeatures, TwoCategoriesMultiplyAllButHomePageAndSchedule) {
   EXPECT_EQ(Fee(0x10 | 0x200 | 0x100, 3), 3);  // (1 + 3 x 0.15) x 2 + 0.1
   EXPECT_EQ(Fee(0x200 | 0x1), 40);
   EXPECT_EQ(Fee(0x200), 0);
-  EXPECT_EQ(Fee(0, 5), .75);  // no bit guards the charge for images
+  EXPECT_EQ(Fee(0, 5), .75);  // extra images are charged without any bit
   EXPECT_EQ(Fee(0, -2), -Single(.3));
-  EXPECT_EQ(Fee(0x1000, 6), 5);  // the pack in place of the images
+  EXPECT_EQ(Fee(0x1000, 6), 5);  // the pack replaces the images
   EXPECT_EQ(Fee(0x1000 | 0x200, 7), 18);
   EXPECT_EQ(Fee(0x1000, 13), 0);
   m_oType.m_eShopDuration = kShop90Days;
@@ -116,7 +116,7 @@ TEST_F(SellingFeatures, ThePrefixFollowsTheKindOfListingInTheUnitedStates) {
   m_oType = clsAuctionType();
   m_oType.m_eShopDuration = kShop60Days;
   EXPECT_EQ(Fee(0x10), 6);
-  // No such price: what was read for the listing before stays, even over a Clear.
+  // No such price: the last one read stays, even after a Clear.
   m_oType.m_eShopDuration = kShop120Days;
   EXPECT_EQ(Fee(0x10), 6);
   m_oFeatures.Clear();

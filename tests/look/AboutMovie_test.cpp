@@ -14,7 +14,7 @@
 namespace quillet {
 namespace {
 
-/// The program's sound for as long as it lives: it writes down what it is asked to play.
+/// While it exists, it is the program's sound and records what is played.
 class RecordedSound : public Sound {
  public:
   RecordedSound() { SetSound(this); }

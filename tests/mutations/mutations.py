@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """mutations.py FOLDER-OF-A-BUILD [WORD...]: do the tests catch the faults of faults.txt? Puts each
-into the sources in its turn, builds, runs the test that is to fail, and takes it out again. With
-words, only the lines that hold one of them. Not part of CI: all of them take half an hour."""
+fault into the sources, builds, runs the test that should fail, and takes the fault out again. With
+words, tries only the lines that hold one of them. Not part of CI: a full run takes half an hour."""
 import os
 import subprocess
 import sys
@@ -11,13 +11,13 @@ TESTS = Path(__file__).resolve().parents[1]
 SOURCES = TESTS.parent / "src"
 LONGEST = 300  # seconds that a test may take before it counts as failed
 
-# What isn't a program of tests: what is built, and the words that run it.
+# Tests that aren't GoogleTest programs: their build targets, and the words that run them.
 DRIVEN = {"calc": (["quillet-calc", "quillet-calc-uk"], ["app/calc_test.py", ""]),
           "internet": (["internet_probe"], ["online/internet_test.py", "internet_probe"])}
 
 
 def faults(words):
-    """What catches each, its file, the text in it, and what takes its place."""
+    """For each fault: the test that catches it, the file, the old text and the new."""
     catcher = ""
     for line in (TESTS / "mutations/faults.txt").read_text(encoding="utf-8").splitlines():
         if not line.startswith((" ", "#")):
@@ -29,7 +29,7 @@ def faults(words):
 
 
 def outcome(folder, catcher):
-    """What becomes of a test: "passes", "fails", or what the build has to say."""
+    """The outcome of a test: "passes", "fails", or the output of a failed build."""
     program, _, test = catcher.partition(" ")
     targets, (first, last) = DRIVEN.get(program, ([program], ("", "")))
     built = subprocess.run(["ninja", "-C", folder, *targets], capture_output=True, text=True,
@@ -62,7 +62,7 @@ def main(folder, words):
             if path.read_text(encoding="utf-8").count(old) != 1]
     failing = [catcher for catcher in sorted({row[0] for row in rows} if not gone else {})
                if outcome(folder, catcher) != "passes"]
-    if gone or failing or not rows:  # no fault may be left out in silence
+    if gone or failing or not rows:  # no fault may be skipped silently
         sys.exit("\n".join(["not once in the sources, or failing as it is:", *gone, *failing]))
     caught = 0
     for catcher, path, old, new in rows:

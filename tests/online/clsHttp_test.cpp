@@ -21,10 +21,10 @@ class Http : public OnlineTest {
     ASSERT_TRUE(m_oHttp.OpenConnection());
     (void)Asked();
   }
-  /// What the Internet was asked for since the last call.
+  /// What was asked of the Internet since the last call.
   std::string Asked() { return std::exchange(m_oInternet.sAsked, ""); }
 
-  /// The failure that a statement ends in, as "number source: text".
+  /// The failure that a statement throws, as "number source: text".
   template <typename Statement>
   std::string FailureOf(Statement&& oStatement) {
     try {
@@ -98,7 +98,7 @@ TEST_F(Http, AFetchedFileTakesTheOldOnesPlaceOnlyAsAWhole) {
   EXPECT_FALSE(FileExists(m_sLocal + "_$Temp$_"));
   m_oInternet.bGets = true;
   std::filesystem::remove(m_sLocal);
-  std::filesystem::create_directory(m_sLocal);  // what can't be replaced
+  std::filesystem::create_directory(m_sLocal);  // can't be replaced by a file
   EXPECT_EQ(FailureOf([&] { m_oHttp.GetFile(m_sLocal, "r", true); }),
             "75 : " + m_sLocal + ": " + FolderWords(true));
   EXPECT_EQ(m_oHttp.LastError(), FolderWords(true));

@@ -1,8 +1,8 @@
-// Asks the platform's Internet client for one thing and tells what came of it:
+// Makes one request with the platform's Internet client and prints the outcome:
 //   internet_probe http HOST:PORT PATH [PROXY:PORT]
 //   internet_probe ftp HOST:PORT PASSWORD FOLDER FILE LOCAL
-// Prints "got" and the number of bytes, and for FTP the size that was announced; or "lost" and the
-// client's own words, or the server's.
+// Prints "got" and the number of bytes, for FTP also the announced size; or "lost" and the message
+// of the client or the server.
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
@@ -31,7 +31,7 @@ InternetHandle Connect(Internet& oInternet, const std::string& sServer,
                            sPassword.empty() ? "" : "quillet", sPassword, eService);
 }
 
-/// What was got, or nothing; the words are those after "http".
+/// What was got, or nothing; `asWords` are the arguments after "http".
 std::string Http(Internet& oInternet, const std::vector<std::string>& asWords) {
   const std::string sProxy = asWords.size() > 2 ? asWords[2] : "";
   const InternetHandle hRequest = oInternet.OpenRequest(
@@ -47,7 +47,7 @@ std::string Http(Internet& oInternet, const std::vector<std::string>& asWords) {
   return "got " + std::to_string(nBytes);
 }
 
-/// Likewise; the words are those after "ftp".
+/// Likewise; `asWords` are the arguments after "ftp".
 std::string Ftp(Internet& oInternet, const std::vector<std::string>& asWords) {
   std::uint64_t nSize = 0;
   const InternetHandle hFtp =

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""What the platform's Internet client makes of servers that misbehave:
-internet_test.py PROBE..., words that start the probe. Run as root, whom the FTP server needs."""
+"""How the platform's Internet client copes with servers that misbehave:
+internet_test.py PROBE..., the command that starts the probe. Run as root, for the FTP server."""
 
 import contextlib
 import pathlib
@@ -19,9 +19,9 @@ from update_servers import PASSWORD, UpdateServers, free_port  # noqa: E402
 
 PROBE = sys.argv[1:]
 del sys.argv[1:]
-# The probe's limits: a second to connect, one without a byte, three for all calls, and so many bytes.
+# The probe's limits: 1 s to connect, 1 s without a byte, 3 s for all calls, and this many bytes.
 LARGEST = 100_000
-LONGEST = 6  # seconds, with the start of the program
+LONGEST = 6  # seconds, including the program's start
 
 HEAD = b"HTTP/1.0 200 OK\r\nContent-Length: %d\r\n\r\n"
 
@@ -42,7 +42,7 @@ def drips(peer):
 
 
 class Server(socketserver.ThreadingTCPServer):
-    """One on loopback that acts by a list: bytes are sent, functions get the connection."""
+    """A loopback server that works through a list: it sends bytes and calls functions."""
 
     daemon_threads = True
 
@@ -62,7 +62,7 @@ class Server(socketserver.ThreadingTCPServer):
 
 
 class Redirects(Server):
-    """Sends /3 to /2 and so on; /0 is answered. Other paths go where the dictionary sends them."""
+    """Redirects /3 to /2 and so on, and answers /0. A dictionary redirects all other paths."""
 
     def answer(self, peer, _address, _server):
         path = peer.recv(4096).split()[1].decode()
@@ -72,8 +72,8 @@ class Redirects(Server):
 
 
 class FtpServer(Server):
-    """Lets everyone in and knows one file, which it sends by a list of acts. It may pause before
-    each word."""
+    """Accepts any login and has one file, which it sends by a list of acts. It may pause before
+    each reply."""
 
     def __init__(self, size, acts, pause=0):
         super().__init__(acts)
@@ -127,7 +127,7 @@ def perform(acts, peer):
 
 
 def probe(*words):
-    """The probe's answer, and the seconds that it took."""
+    """The probe's answer, and how many seconds it took."""
     started = time.monotonic()
     done = subprocess.run([*PROBE, *map(str, words)], capture_output=True, text=True,
                           timeout=60, check=False)
@@ -218,7 +218,7 @@ class Client(unittest.TestCase):
                     (PASSWORD, "", "none.dat", self.local, "lost: .+"),
                     (PASSWORD, "fees of 2026", "%41.dat", nowhere, "lost: .+"),
                     (PASSWORD, "2025", "%41.dat", self.local, "lost: 550 .+"),
-                    # Windows has a number of its own for this.
+                    # Windows reports a number of its own for this.
                     ("wrong", "", "%41.dat", self.local, "lost: (530 .*incorrect.*|Error 12015)")):
                 with self.subTest(answer, place=place):
                     self.expect(("ftp", servers.ftp, password, place, file, local), answer)

@@ -37,7 +37,7 @@ TEST_F(UserData, AnOlderShippedScheduleNeverReplacesTheUsersCopy) {
   EXPECT_EQ(UpdateFileName(false), m_sLocal);
   m_oHost.sDataFolder = m_oFolder / "share\\quillet";
   const std::string sOwn = m_oFolder / ("share\\quillet\\" + m_sName);
-  EXPECT_EQ(UpdateFileName(false), m_sLocal);  // nothing to copy: the message will name this one
+  EXPECT_EQ(UpdateFileName(false), m_sLocal);  // nothing to copy: an error will name this one
 
   WriteTestFile(m_sLocal, "shipped");
   EXPECT_EQ(UpdateFileName(false), sOwn);

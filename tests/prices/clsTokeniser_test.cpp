@@ -13,7 +13,7 @@ TEST(Tokeniser, SplitsAndDropsEmptyFields) {
   using Fields = std::vector<std::string>;
   const std::tuple<const char*, const char*, Fields, bool> aoRows[] = {
       {"a,b", ",", {"a", "b"}, false},
-      {"a,", ",", {"a"}, false},  // a separator at the end yields nothing more, not even a blank
+      {"a,", ",", {"a"}, false},  // a separator at the end adds no field, not even an empty one
       {"a,,b", ",", {"a", "b"}, true},
       {",a", ",", {"a"}, true},
       {"", ",", {}, true},
@@ -53,7 +53,7 @@ TEST(Tokeniser, ABuiltListKeepsPlacesForMore) {
   for (int i = 0; i < 50; ++i) {
     oTokens.AddToArray("a");
   }
-  oTokens.AddToArray("last");  // the count has reached the upper bound of 50: fifty more places
+  oTokens.AddToArray("last");  // at its upper bound of 50 the array grows by fifty
   EXPECT_EQ(oTokens.Element(100), "");
   EXPECT_THROW((void)oTokens.Element(101), Failure);
   oTokens.SetToken(";");

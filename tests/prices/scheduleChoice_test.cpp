@@ -63,7 +63,7 @@ class ScheduleChoice : public OnlineTest {
     return std::string(sTax);
   }
 
-  /// As the next start would find it.
+  /// Simulates the next start of the program.
   void Restart() {
     m_oHost.aoShown.clear();
     SetSystemDefaults();
@@ -159,7 +159,7 @@ TEST_F(ScheduleChoice, TheUpdateFetchesTheChosenFileAndTouchesNoOther) {
   PutSetting(settings::kFtpServer, "ftp");
   ChooseSchedule(m_sOctober);
   ASSERT_TRUE(oDownloads.OpenConnection());
-  oInternet.asFiles[m_sName] = "LocalTax,11\nOpeningRanges,0\n";  // alone
+  oInternet.asFiles[m_sName] = "LocalTax,11\nOpeningRanges,0\n";  // but not the chosen file
   const std::string sBefore = ReadTestFile(m_oFolder / m_sOctober);
   oDownloads.FetchUpdateFile();
   EXPECT_THAT(Story(), EndsWith("DL - Update file 10 - fail"));

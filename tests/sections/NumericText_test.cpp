@@ -17,7 +17,7 @@ class NumericTextTest : public ::testing::Test {
     return {fMin, fMax, true, ToUtf16(m_oHost.sDecimalSeparator), 2};
   }
 
-  /// What a step makes of a text in which "|" is the caret; a "|" in the answer likewise.
+  /// The text after a step; "|" marks the caret before and after.
   std::string Stepped(const NumericText& oNumber, int nDelta, const std::string& sText) const {
     BoxText oBox{ToUtf16(sText)};
     oBox.nCaret = oBox.sText.find(u'|');
@@ -88,7 +88,7 @@ TEST_F(NumericTextTest, WhatIsShownLiesWithinTheBoundsIfTheyAreTheRightWayRound)
   EXPECT_EQ(Shown(Money(0, 10), 50), "£10.00");
   EXPECT_EQ(Shown(Money(0, 10), -1), "£0.00");
   EXPECT_EQ(Shown(Money(10, 0), 50), "£50.00");
-  EXPECT_EQ(Shown(Money(), -0.125), "£-0.13");  // a half goes away from zero
+  EXPECT_EQ(Shown(Money(), -0.125), "£-0.13");  // a half rounds away from zero
 }
 
 TEST_F(NumericTextTest, WholeNumbersEndAt32BitsAndDecimalStepsAtFourPlaces) {
@@ -96,8 +96,8 @@ TEST_F(NumericTextTest, WholeNumbersEndAt32BitsAndDecimalStepsAtFourPlaces) {
   EXPECT_TRUE(oNumber.IsTextValid(u"1,234"));
   EXPECT_FALSE(oNumber.IsTextValid(u"£5")) << "the symbol is for amounts";
   EXPECT_FALSE(oNumber.CanBeShown(u"2147483648"));
-  EXPECT_EQ(Shown(oNumber, 2.5), "2");           // a half to the even neighbour
-  EXPECT_EQ(Stepped(oNumber, 1, "2.|5"), "4|");  // the last place is the whole unit
+  EXPECT_EQ(Shown(oNumber, 2.5), "2");           // a half rounds to even
+  EXPECT_EQ(Stepped(oNumber, 1, "2.|5"), "4|");  // the smallest step is 1
   EXPECT_THROW(Shown(oNumber, 2147483648.0), Failure);
   oNumber.m_nDecimalPlaces = 4;
   EXPECT_EQ(Stepped(oNumber, 1, "1.|0000"), "1.|0001");

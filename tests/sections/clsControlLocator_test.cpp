@@ -15,7 +15,7 @@ class ControlLocator : public ::testing::Test {
  protected:
   ControlLocator() { SetRegistryHive(m_oHive); }
 
-  /// Rows of "name top height", with a name in brackets for what stands in a Frame.
+  /// Rows of "name top height"; a name in brackets is a control in a Frame.
   void Add(const std::string& sRows) {
     std::istringstream oRows(sRows);
     int nTop = 0;
@@ -25,7 +25,7 @@ class ControlLocator : public ::testing::Test {
     }
   }
 
-  /// What is shown, as "name@top", and behind a stroke what is hidden.
+  /// The visible controls as "name@top", then "|" and the hidden ones.
   std::string Packed(const std::string& sWanted) {
     clsTokeniser oList;
     oList.Tokenise(sWanted, ",");

@@ -43,7 +43,7 @@ TEST(AuctionTypeSection, ARealEstateListFromBeforeTheInnerPanelsReceivesThem) {
             "RealEstateBinding,ctlRealEstateOptionsLand1,ctlRealEstateOptionsSale1");
 }
 
-// The template stands in no window of the program.
+// No window of the program uses this template.
 TEST(SubControlExample, TheLaterOfTwoTicksWinsAndGreyBoxesAreUnticked) {
   clsAuctionType oListing;
   oListing.m_eAuctionType = kAuctionRealEstate;

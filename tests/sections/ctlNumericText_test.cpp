@@ -16,7 +16,7 @@
 namespace quillet {
 namespace {
 
-/// A window with two boxes for money. The first shows 3.00, the second has the focus.
+/// A window with two money boxes. The first shows 3.00, the second has the focus.
 class ctlNumericTextTest : public ::testing::Test {
  protected:
   ctlNumericTextTest() {
@@ -34,7 +34,7 @@ class ctlNumericTextTest : public ::testing::Test {
     m_oChanged.clear();
   }
 
-  /// The text without the region's symbol in front.
+  /// The text without the region's currency symbol.
   std::string Number() const {
     const std::string sText = m_pBox->Text();
     const std::string sSymbol = CurrencySymbolText();

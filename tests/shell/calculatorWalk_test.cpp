@@ -1,5 +1,5 @@
-// Thousands of random steps over the whole calculator. QUILLET_WALK_SEED takes one walk alone, and
-// QUILLET_WALK_STEPS another number of steps.
+// Thousands of random steps over the whole calculator. QUILLET_WALK_SEED sets the seed of every
+// walk, QUILLET_WALK_STEPS the number of steps.
 #include <QApplication>
 #include <QTest>
 #include <algorithm>
@@ -27,16 +27,15 @@ namespace {
 
 constexpr std::size_t kTraced = 20;
 
-/// A click or a key reaches it: it is on view, and neither it nor what it stands in is disabled.
+/// A click or a key reaches it: it is visible, and neither it nor a parent is disabled.
 bool IsReachable(const Control& oControl) {
   return oControl.Widget().isVisible() && oControl.Widget().isEnabled();
 }
 
-/// A random walk over the main window: what a user may do, one step after the other, told by a
-/// seed.
+/// A random walk over the main window: things a user can do, step by step, chosen by a seed.
 class Walk {
  public:
-  /// The samples are those of data/; `oFolder` is where auctions are saved.
+  /// Loads the samples of data/ and saves auctions in `oFolder`.
   Walk(frmMain& oWindow, TestHost& oHost, const TemporaryFolder& oFolder, unsigned nSeed)
       : m_oWindow(oWindow),
         m_oHost(oHost),
@@ -44,14 +43,13 @@ class Walk {
         m_oDice(nSeed),
         m_aoPanels(AllPanels(oWindow.Calculator().Set())) {}
 
-  /// Takes a step.
   const WalkStep& Step() {
     static constexpr std::array aoKinds = {
         &Walk::Click,          &Walk::PressKey,    &Walk::Type,
         &Walk::StepNumber,     &Walk::TickShowBox, &Walk::ShowConfiguration,
         &Walk::ShowCalculator, &Walk::StartNew,    &Walk::Load,
         &Walk::Save,           &Walk::VisitWizard};
-    // How often each of them comes, in their order.
+    // How often each kind comes, in the same order.
     std::discrete_distribution<std::size_t> oWeights({40, 4, 16, 8, 14, 5, 6, 2, 5, 3, 2});
     m_oStep = {};
     (this->*aoKinds.at(oWeights(m_oDice)))();
@@ -64,7 +62,7 @@ class Walk {
     return m_oStep;
   }
 
-  /// The latest steps, one a line.
+  /// The latest steps, one per line.
   [[nodiscard]] std::string Trace() const {
     return std::accumulate(m_asTrace.begin(), m_asTrace.end(), std::string(),
                            [](const auto& sAll, const auto& sStep) { return sAll + sStep + "\n"; });
@@ -178,7 +176,7 @@ class Walk {
     m_oWindow.ClickButton(kButtonCalculator);
   }
 
-  /// Now and then the question whether to save is answered by Cancel.
+  /// Sometimes answers the question whether to save with Cancel.
   void AnswerPrompts() {
     const Answer eAnswer = Below(5) == 0 ? Answer::Cancel : Answer::No;
     m_oStep.sWhat += eAnswer == Answer::No ? ", no save" : ", cancel";
@@ -197,7 +195,7 @@ class Walk {
   void Load() {
     const Sample& oSample = Pick(m_aoSamples);
     m_oStep.sWhat = "load " + oSample.sName;
-    if (!m_oWindow.Calculator().ConfigMode()) {  // where it loads nothing
+    if (!m_oWindow.Calculator().ConfigMode()) {  // which loads nothing
       m_oStep.bCleans = true;
       m_oStep.asGiven[0] = oSample.sText;
     }
@@ -213,7 +211,7 @@ class Walk {
     m_oWindow.ClickButton(kButtonSave);
   }
 
-  /// To the wizard and back; a Cancel of the question on the way stays with the calculator.
+  /// Goes to the wizard and back, or stays in the calculator if the question is cancelled.
   void VisitWizard() {
     m_oStep = {.sWhat = "wizard and back", .bLaysOut = true};
     AnswerPrompts();
@@ -232,7 +230,7 @@ class Walk {
   const TemporaryFolder& m_oFolder;
   std::mt19937 m_oDice;
   std::vector<SectionPanel*> m_aoPanels;
-  /// Those with features that are on offer.
+  /// The samples made for the schedule in use.
   std::vector<Sample> m_aoSamples =
       Samples(AreFeesOfToday() ? "data/samples/today" : "data/samples");
   std::deque<std::string> m_asTrace;
@@ -247,7 +245,7 @@ unsigned NumberIn(const char* sVariable, unsigned nElse) {
 
 class CalculatorWalk : public ::testing::TestWithParam<unsigned> {
  protected:
-  /// Every other walk is under the fees of today.
+  /// Every other walk uses today's fees.
   CalculatorWalk() {
     if (GetParam() % 2 == 0) {
       UseScheduleOfToday();
@@ -263,7 +261,7 @@ class CalculatorWalk : public ::testing::TestWithParam<unsigned> {
 TEST_P(CalculatorWalk, KeepsSummaryTextRowsAndDirtyFlagsTogether) {
   const unsigned nSeed = NumberIn("QUILLET_WALK_SEED", GetParam());
   const unsigned nSteps = NumberIn("QUILLET_WALK_STEPS", 400);
-  std::cout << "seed " << nSeed << std::endl;  // at once, for a walk that ends in a crash
+  std::cout << "seed " << nSeed << std::endl;  // flushed, in case the walk crashes
   frmMain oWindow;
   Walk oWalk(oWindow, m_oHost, m_oFolder, nSeed);
   WalkGuard oGuard(oWindow);

@@ -52,7 +52,7 @@ class Calculator : public ::testing::Test {
     m_pView->RefreshSums(true, &oDocument);
   }
 
-  /// Drags a section by its header, by so many twips.
+  /// Drags a section by its header, by a distance in twips.
   void Drag(SectionPanel& oSection, int nX, int nY) {
     oSection.setFocus();
     Control& oHeader = ControlOf(oSection, "imgHeader");
@@ -63,7 +63,7 @@ class Calculator : public ::testing::Test {
     QTest::mouseRelease(&oHeader.Widget(), Qt::RightButton, {}, oStart);
   }
 
-  /// The inputs that the first so many presses of Tab come to in the view.
+  /// The inputs that the first presses of Tab reach in the view.
   std::string Tabs(int nPresses) {
     m_pView->setFocus();
     std::string sWalked;
@@ -125,7 +125,7 @@ TEST_F(Calculator, AViewThatIsShownAgainLooksAsAfterARestartWhicheverRowIsHidden
 }
 
 TEST_F(Calculator, EachShowBoxStandsForItsRowAlone) {
-  UseScheduleOfToday();  // all sections
+  UseScheduleOfToday();  // shows all sections
   ShowView(true, WorkingAuction());
   std::set<std::string> asRows;
   for (SectionPanel* const pPanel : AllPanels(m_pView->Set())) {
@@ -152,7 +152,7 @@ TEST_F(Calculator, EachShowBoxStandsForItsRowAlone) {
   EXPECT_EQ(asRows.size(), ByRegion(79U, 83U));
 }
 
-/// Figures stand beside their captions, one below the other in each block, and nothing on another.
+/// Figures are beside their captions and aligned in each block, and nothing overlaps.
 TEST_F(Calculator, TheSummaryIsAStripOrAColumn) {
   ctlSellingCosts& oSummary = m_pView->Set().ctlSellingCostsSection;
   const auto aoLabels = oSummary.findChildren<Label*>();
@@ -184,7 +184,7 @@ TEST_F(Calculator, TheSummaryIsAStripOrAColumn) {
   }
 }
 
-/// The line of a view, which lies on no figure at any zoom, however long it is.
+/// The text of a view's line, which must not cover a figure at any zoom, however long it is.
 template <typename View>
 std::string MissingPriceIn(View& oView) {
   oView.Place(0, 0, 9900, 9000);
@@ -266,10 +266,10 @@ TEST(TabOrder, GoesDownEachColumnFromTheLeft) {
   const std::pair<std::vector<SectionPlace>, std::vector<std::size_t>> aoRows[] = {
       {{{240, 1560, 4670}, {120, 3600, 3750}, {9000, 1560, 3030}, {5760, 1560, 3150}},
        {0, 1, 3, 2}},                                              // as designed
-      {{{0, 100, 100}, {51, 0, 100}}, {0, 1}},                     // less than half side by side
-      {{{0, 100, 100}, {50, 0, 100}}, {1, 0}},                     // half of it on top
-      {{{0, 200, 1000}, {0, 0, 100}, {400, 100, 90}}, {1, 0, 2}},  // with the column it begins in
-      {{{0, 0, 100}, {50, 100, 100}, {100, 50, 100}}, {0, 1, 2}},  // a stair is no column
+      {{{0, 100, 100}, {51, 0, 100}}, {0, 1}},                     // less than half: side by side
+      {{{0, 100, 100}, {50, 0, 100}}, {1, 0}},                     // half: one column
+      {{{0, 200, 1000}, {0, 0, 100}, {400, 100, 90}}, {1, 0, 2}},  // in the column where it begins
+      {{{0, 0, 100}, {50, 100, 100}, {100, 50, 100}}, {0, 1, 2}},  // a staircase is no column
       {{{-500, 0, 100}, {-600, 0, 100}}, {1, 0}},                  // beyond the edge
   };
   for (const auto& [aoPlaces, anOrder] : aoRows) {

@@ -17,7 +17,7 @@
 namespace quillet {
 namespace {
 
-/// A cleared auction of one item, as the wizard finds it.
+/// Starts with a cleared auction of one item, as the wizard does.
 void ClearAuction() {
   WorkingAuction().Clear();
   WorkingAuction().m_oOutlay.m_lQuantity = 1;
@@ -31,7 +31,7 @@ class Wizard : public ::testing::Test {
     m_oWindow.resize(1200, 1200);
   }
 
-  /// Shows a wizard of that size, in twips. The main window's smallest gives it 10215 by 8010.
+  /// Shows a wizard of that size in twips. The smallest main window gives it 10215 by 8010.
   void Start(int nWidth = 10215, int nHeight = 8010) {
     m_pView = new ctlWizard(&m_oWindow);
     m_pView->SetVisible(false);
@@ -127,7 +127,7 @@ TEST_F(Wizard, KeysLeadThroughThePages) {
   QSignalSpy oComplete(m_pView, &ctlWizard::WizardComplete);
   for (const auto& [nKey, eWith, nPage, nComplete, sWhat] : kKeys) {
     Press(nKey, eWith);
-    // A button that is worked by its access key stays down for a moment.
+    // A button pressed by its access key stays down for a moment.
     EXPECT_TRUE(QTest::qWaitFor([&] { return Page() == nPage && oComplete.count() == nComplete; }))
         << sWhat << ": page " << Page() << ", complete " << oComplete.count();
   }

@@ -1,4 +1,4 @@
-// What a seller enters into the calculator: clicks and typing, and the text of the auction then.
+// A seller's entries in the calculator: clicks and typing, and the auction's text afterwards.
 #include <sstream>
 
 #include <gtest/gtest.h>
@@ -14,8 +14,8 @@
 namespace quillet {
 namespace {
 
-/// Clicks "name" and types "name=text", or chooses line text of a list; the fields of the section
-/// as they are saved then, and its total, which is null where the region lacks a row.
+/// A script that clicks "name" and types "name=text" or chooses that line of a list; the section's
+/// fields as saved afterwards; and its total, null if the region lacks a row.
 struct Entry {
   const char* sScript;
   const char* sFields;
@@ -28,7 +28,7 @@ class Entries : public ::testing::Test {
   Entries() {
     Registry().Set(settings::kStartMode, "1");
     m_oWindow.Show();
-    m_oWindow.activateWindow();  // else a box isn't left
+    m_oWindow.activateWindow();  // or leaving a box goes unnoticed
     EXPECT_TRUE(QTest::qWaitForWindowActive(&m_oWindow));
     StartAnew();
   }
@@ -43,7 +43,7 @@ class Entries : public ::testing::Test {
     m_oWindow.Calculator().RefreshSums(true);
   }
 
-  /// Where a name stands twice, the one in that section is meant.
+  /// A name that occurs twice means the one in `oSection`.
   void Play(const SectionPanel& oSection, const std::string& sScript) {
     std::istringstream oScript(sScript);
     for (std::string sStep; oScript >> sStep;) {
@@ -97,9 +97,8 @@ class Entries : public ::testing::Test {
   Mirror m_oMirror;
 };
 
-// Fixed price and shop put each other out; the shop goes with a standard auction only, and without
-// it there is no duration. What a grey option is clicked to is kept; a grey box doesn't stay
-// ticked.
+// Fixed price and shop exclude each other; a shop needs a standard auction, and without a shop
+// there is no duration. A click on a grey option is kept; a grey box doesn't stay ticked.
 TEST_F(Entries, TheKindOfListingIsTheOneClickedLast) {
   Expect(
       m_oSet.ctlAuctionTypeSection, "[TYPE]",
@@ -157,7 +156,7 @@ TEST_F(Entries, EachFeatureIsABitAndItsFeeTheTotal) {
           {"chkFeaturedGallery", "64|0", "$19.95", "£15.95"},
           {"chkBuyItNow", "128|0", "$0.20", "£0.05"},  // United States: the tier of 30.00
           {"chkScheduledListing", "256|0", "$0.10", "£0.06"},
-          {"chkListIn2Categories", "512|0", "$0.00", "£0.00"},  // twice nothing
+          {"chkListIn2Categories", "512|0", "$0.00", "£0.00"},  // doubles nothing
           {"chkSlideShow", "1024|0", "$0.25", "£0.15"},
           {"chkSuperSizedPicures", "2048|0", "$0.75", "£0.60"},
           {"chkListingDesigner", "8192|0", "$0.10", "£0.07"},
@@ -168,7 +167,7 @@ TEST_F(Entries, EachFeatureIsABitAndItsFeeTheTotal) {
           {"chkBorder", "262144|0", "$3.00", nullptr},
           {"optMotorAuction chkListingItem", "524288|0", "$1.00", nullptr},
           {"optMotorAuction chkCarAd", "1048576|0", "$9.95", nullptr},
-          // The picture pack takes one picture at least, and as many as its last tier.
+          // The picture pack takes at least one picture, and no more than its last tier.
           {"chkPicturePack", "4096|1", "$1.00", "£0.90"},
           {"txtExtraPictures=4 chkPicturePack", "4096|4"},
           {"txtExtraPictures=40 chkPicturePack", "4096|12"},
@@ -184,7 +183,7 @@ TEST_F(Entries, PayPalIsChargedByTheAccountAndThePayments) {
            "$2.50", "£2.60"},
           {"txtEstimatedEndPrice=100 optBusinessAccount optBand5 optPersonalAccount chkUsePayPal",
            "True|0|5|False", "$3.20", "£3.60"},
-          // Two payments: the fixed charge comes twice. One can't be split.
+          // Two payments: the fixed charge applies twice. One can't be split.
           {"txtEstimatedEndPrice=50 txtQuantity=2 chkUsePayPal chkPayInduvidually", "True|0|1|True",
            "$3.50", "£3.80"},
           {"txtQuantity=2 chkPayInduvidually txtQuantity=1 optPremierAccount", "False|1|1|False"},
@@ -195,12 +194,12 @@ TEST_F(Entries, PostageGoesOnToTheServiceThatTakesTheParcel) {
   Expect(m_oSet.ctlPostageSection, "[POSTAGE]",
          {{"chkUsePostage txtWeight=0.2 optSecondClass", "True|0.2|1|0|0|False|False|False|0|False",
            nullptr, "£1.09"},
-          // Beyond the second class: on to the parcel, and beyond that to manual.
+          // Too heavy for second class: on to parcel. Too heavy for that: on to manual.
           {"chkUsePostage txtWeight=1.1 optSecondClass", "True|1.1|2|0|0|False|False|False|0|False",
            nullptr, "£3.85"},
           {"chkUsePostage optParcelService txtWeight=20.5",
            "True|20.5|3|0|0|False|False|False|0|False", nullptr, "£0.00"},
-          // The first class never ends: 4.74 and 0.85 for each of three quarters of a kilogram.
+          // First class has no limit: 4.74, and 0.85 for each of three quarter kilograms.
           {"chkUsePostage txtWeight=2", "True|2|0|0|0|False|False|False|0|False", nullptr, "£7.29"},
           {"chkUsePostage optManual txtManual=8.5", "True|0|3|8.5|0|False|False|False|0|False",
            "$8.50", "£8.50"},
@@ -209,8 +208,8 @@ TEST_F(Entries, PostageGoesOnToTheServiceThatTakesTheParcel) {
           {"txtQuantity=3 chkUsePostage optManual txtManual=8.5 chkSendInduvidually",
            "True|0|3|8.5|0|False|False|False|0|True", "$25.50", "£25.50"},
           {"chkProfit txtProfit=2 optManual", "False|0|3|0|0|False|False|True|2|False"},
-          // Only a parcel is insured above the first band. The band stays with another class,
-          // without a premium, until the bands are clicked.
+          // Only a parcel is insured above the first band. Another class keeps the band, without
+          // a premium, until a band is clicked.
           {"chkUsePostage optParcelService optBand3", "True|0|2|0|2|False|False|False|0|False",
            nullptr, "£6.10"},
           {"chkUsePostage optBand3", "True|0|0|0|0|False|False|False|0|False", nullptr, "£1.00"},
@@ -218,7 +217,7 @@ TEST_F(Entries, PostageGoesOnToTheServiceThatTakesTheParcel) {
            "True|0|0|0|2|False|False|False|0|False", nullptr, "£1.00"},
           {"chkUsePostage optParcelService optBand3 optFirstClass optBand2",
            "True|0|0|0|0|False|False|False|0|False", nullptr, "£1.00"},
-          // Proof of delivery goes with recorded delivery, and that with letters.
+          // Proof of delivery needs recorded delivery, and that needs a letter class.
           {"chkUsePostage chkRecordedDelivery chkProofOfDelivery",
            "True|0|0|0|0|True|True|False|0|False", nullptr, "£3.88"},
           {"chkUsePostage chkRecordedDelivery chkProofOfDelivery chkRecordedDelivery",
@@ -259,7 +258,7 @@ TEST_F(EntriesOfToday, TheSaleFeeIsTheSumOfWhatIsChosen) {
        {"txtEstimatedEndPrice=100 txtAdvertising=2.5 chkExtra01 chkExtra03", "1|0|2.5|5|False|True",
         "$23.15", "£20.64"},
        {"txtAdvertising=4 txtAdvertising=abc chkExtra02 chkExtra02", "1|0|4|0|False|True"},
-       {"txtAdvertising=100.5", "1|0|100|0|False|True"},  // back to what was good last
+       {"txtAdvertising=100.5", "1|0|100|0|False|True"},  // back to the last good text
        {"txtAdvertising=-1 chkFreeListing", "1|0|0|0|True|True"},
        {sClothes, "2|0|0|0|False|True", nullptr, "£7.68"},
        {"txtEstimatedEndPrice=45 lstCategory=2 chkTaxIsCost", "2|0|0|0|False|False", nullptr,
@@ -283,7 +282,7 @@ TEST_F(EntriesOfToday, TheSectionFollowsTheSchedule) {
             "Category|Buyer's Tax (%)|Advertising (%)|All && sundry|Free Listing|"
             "GST Is a Cost|");
   Play(m_oSet.ctlSaleFeesSection, "chkExtra01");
-  const std::string sFees = "[FEES]9|0|3|5|False|True[FEES]";  // what isn't on view is kept
+  const std::string sFees = "[FEES]9|0|3|5|False|True[FEES]";  // hidden inputs are kept
   EXPECT_NE(TextOf(WorkingAuction()).find(sFees), std::string::npos) << TextOf(WorkingAuction());
   UseShippedSchedule();
   fnFollow();
@@ -291,7 +290,7 @@ TEST_F(EntriesOfToday, TheSectionFollowsTheSchedule) {
   EXPECT_NE(TextOf(WorkingAuction()).find(sFees), std::string::npos);
 }
 
-// A loaded listing of such a kind stays one; of vehicles parts always are on offer.
+// A loaded listing keeps a kind that isn't on offer. Vehicle parts are always on offer.
 TEST_F(EntriesOfToday, WhatIsNotOnOfferIsClosedAndAListingKeepsIt) {
   const SectionPanel& oKinds = m_oSet.ctlAuctionTypeSection;
   std::string sAuction = TextOf(WorkingAuction()).replace(0, 9, "[TYPE]001");
@@ -310,7 +309,7 @@ TEST_F(EntriesOfToday, WhatIsNotOnOfferIsClosedAndAListingKeepsIt) {
             ByRegion("[TYPE]000|False|False|3|0|0|", "[TYPE]001|False|False|3|5|0|"));
 }
 
-// Nothing of the section may reach the settings of who has never seen it.
+// A section that was never shown must not be written to the settings.
 TEST_F(Entries, UnderTheFeesOf2007NothingIsKnownOfTodays) {
   m_oWindow.ClickButton(kButtonConfig);
   m_oWindow.ClickButton(kButtonWizard);

@@ -31,7 +31,7 @@ std::vector<std::string> Stored() {
   return asStored;
 }
 
-/// Where a window comes to stand by stored values, in the order of kValues.
+/// Where stored values, in the order of kValues, place a window.
 QRect Restored(const std::vector<std::string>& asValues) {
   for (std::size_t i = 0; i < asValues.size(); ++i) {
     Registry().SetRegSettingString(HiveRoot::User, asValues[i], kValues.at(i), "Forms\\Main");
@@ -63,7 +63,7 @@ TEST(FormPosition, AMaximisedWindowKeepsThePlaceThatItGoesBackTo) {
   oFirst.showMaximized();
   ASSERT_TRUE(QTest::qWaitFor([&] { return oFirst.width() > kDesign.width(); }, 5000));
   SaveFormPosition(oFirst);
-  for (int i = 0; i < 2; ++i) {  // and doesn't wander from one start to the next
+  for (int i = 0; i < 2; ++i) {  // and doesn't drift from one start to the next
     EXPECT_EQ(Stored(), (std::vector<std::string>{"600", "450", "4500", "6000", "2"}));
     Form oForm;
     oForm.setGeometry(0, 0, 100, 100);

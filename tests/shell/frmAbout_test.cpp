@@ -113,7 +113,7 @@ TEST_F(About, EnterAppliesWhatWasTypedAndTheBoxKeepsItWithinItsBounds) {
     OpenSettings();
     Type(sTyped);
     QTest::keyClick(&SnapBox(), Qt::Key_Return);
-    QTest::keyClick(&SnapBox(), Qt::Key_Return);  // once more where the text was put right
+    QTest::keyClick(&SnapBox(), Qt::Key_Return);  // again, as the first may only correct the text
     EXPECT_EQ(Stored(), sStored) << sTyped;
     EXPECT_FALSE(MayApply()) << sTyped;
     EXPECT_TRUE(m_oWindow->isVisible());

@@ -36,7 +36,7 @@ class Window : public ::testing::Test {
     return *m_oWindow;
   }
 
-  /// The caption behind the edition's name.
+  /// The caption after the edition's name.
   std::string Caption() {
     const std::string sCaption = m_oWindow->windowHandle()->title().toStdString();
     EXPECT_TRUE(sCaption.starts_with(EditionName()));
@@ -93,7 +93,7 @@ TEST_F(Window, EveryRowIsThereWhetherOrNotTheSettingsCanBeWritten) {
       m_oWindow->ClickButton(nButton);
       asRows.at(bWritable) += PlacesIn(m_oWindow->Calculator().Set());
     }
-    m_oWindow.reset();  // ahead of its settings
+    m_oWindow.reset();  // before its settings
   }
   EXPECT_NE(asRows[0].find("txtOutlay"), std::string::npos);
   EXPECT_EQ(asRows[0], asRows[1]);
@@ -219,7 +219,7 @@ TEST(ZoomSteps, GoUpAndDownAndTheLargestThatFitsIsChosen) {
        {std::tuple(100, true, 110), {300, true, 300}, {75, false, 75}, {103, false, 100}}) {
     EXPECT_EQ(NextZoomStep(nFrom, bLarger), nTo) << nFrom;
   }
-  // 150 % would be 1080 high; an exact fit fits; the smallest where none fits.
+  // 150 % is 1080 high; an exact fit is enough; if none fits, the smallest is chosen.
   for (const auto& [nHeight, nFitting] : {std::pair(1040, 125), {1080, 150}, {480, 75}}) {
     EXPECT_EQ(LargestFittingZoom(900, 720, 1920, nHeight), nFitting) << nHeight;
   }

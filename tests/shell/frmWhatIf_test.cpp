@@ -59,7 +59,7 @@ class WhatIf : public ::testing::Test {
   }
   void Undo() { QTest::keyClick(m_pWindow, Qt::Key_Z, Qt::ControlModifier); }
 
-  /// What the first card tells.
+  /// The text of the first card.
   std::string Figures() {
     return m_pWindow->findChildren<TitledCard*>().front()->accessibleName().toStdString();
   }
@@ -80,7 +80,7 @@ class WhatIf : public ::testing::Test {
 TEST_F(WhatIf, ARowThatIsUsedIsOnScreenAndTakenBackToTheDigit) {
   for (const std::string& sSample : SampleTexts()) {
     Load(sSample);
-    WorkingAuction().m_oOutlay.m_fOutlay = 1234567.875;  // its text has seven digits
+    WorkingAuction().m_oOutlay.m_fOutlay = 1234567.875;  // more digits than its text can hold
     m_oMain.Calculator().RefreshSums(true);
     const std::string sBefore = TextOf(WorkingAuction());
     for (int nRow = 0; nRow < Rows().rowCount(); ++nRow) {
@@ -255,7 +255,7 @@ TEST_F(WhatIf, NothingIsCutOffAtAnyZoom) {
       EXPECT_EQ(ClippedIn(*m_pWindow), "") << nWidth;
     }
   }
-  m_oMain.SetZoomPercent(100);  // as other tests expect the font
+  m_oMain.SetZoomPercent(100);  // other tests expect its font
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// An auction that comes on view stays what it is, and so does the one that was on view before.
+// Showing an auction changes neither it nor the one that was shown before.
 #include <gtest/gtest.h>
 
 #include "base/clsRegistryAccess.h"
@@ -10,7 +10,7 @@
 namespace quillet {
 namespace {
 
-/// The region's samples; an insurance that only a parcel can have; and codes that no option has.
+/// The region's samples, one with insurance for parcels only, and one with codes of no option.
 std::vector<std::string> Auctions() {
   std::vector<std::string> asAuctions = SampleTexts();
   asAuctions.insert(asAuctions.end(),
@@ -35,7 +35,7 @@ class OnView : public ::testing::Test {
     m_oWindow.Calculator().RefreshSums(true);
   }
 
-  /// The texts of both documents, which are clean; and one of them is on the screen of a view.
+  /// Expects these texts of both documents, both clean, and one of them shown by the view.
   void ExpectShown(clsCalculate& oOnView, const SectionSet& oSet, const std::string& sWorking,
                    const std::string& sDefault) {
     EXPECT_EQ(TextOf(WorkingAuction()), sWorking);
@@ -59,7 +59,7 @@ TEST_F(OnView, EveryAuctionIsWholeWhateverWasOnViewBeforeIt) {
   const std::string sEmpty = TextOf(oEmpty);
   for (const std::string& sOther : asAuctions) {
     Registry().Set(settings::kDefaultAuction, sOther);
-    Load(sOther);  // the first one into a program that has just started
+    Load(sOther);  // the first time, right after the start
     EXPECT_EQ(TextOf(WorkingAuction()), sOther);
     for (const std::string& sAuction : asAuctions) {
       SCOPED_TRACE("after " + sOther + "\n" + sAuction);
@@ -82,7 +82,7 @@ TEST_F(OnView, EveryAuctionIsWholeWhateverWasOnViewBeforeIt) {
   }
 }
 
-// Nor does it come back when the listing can have it again.
+// And it doesn't come back when the listing can have it again.
 TEST_F(OnView, AFeatureThatGoesGreyIsChargedNoLonger) {
   struct Row {
     const char* sClicks;

@@ -1,4 +1,4 @@
-// Another fee schedule is chosen while an auction is on view.
+// Choosing another fee schedule while an auction is on view.
 #include <QMenu>
 
 #include <gmock/gmock.h>
@@ -20,7 +20,7 @@ using ::testing::StartsWith;
 
 using Edits = std::vector<std::pair<std::string, std::string>>;
 
-/// Other lines in the place of those that begin so; the first edit that fits counts.
+/// Replaces lines by how they begin; the first edit that matches counts.
 std::string Edited(std::string_view sText, const Edits& aoEdits) {
   std::string sEdited;
   std::string_view sLine;
@@ -33,7 +33,7 @@ std::string Edited(std::string_view sText, const Edits& aoEdits) {
   return sEdited;
 }
 
-/// Other figures, words and currency than the shipped schedule's, and some keys missing.
+/// Changes figures, words and currency of the shipped schedule, and removes some keys.
 const Edits& EditsOfOther() {
   static const Edits kEdits = {
       {"# As of", "# As of May 2030."},
@@ -83,7 +83,7 @@ class ChoosingSchedules : public ::testing::Test {
     return *oView.template findChild<ScheduleButton*>();
   }
 
-  /// Chooses the other schedule and then the default again, with an auction on view.
+  /// Chooses the other schedule, then the default again, with an auction on view.
   template <typename View>
   void ExpectOnlyFeesToChange(View& oView, clsCalculate& oAuction) {
     const std::string sText = TextOf(oAuction);

@@ -14,7 +14,7 @@
 namespace quillet {
 namespace {
 
-/// The inputs on view that a screen reader has no name for.
+/// The visible inputs that have no name for a screen reader.
 std::string UnnamedIn(const QWidget& oWindow) {
   std::string sUnnamed;
   for (QWidget* const pWidget : oWindow.findChildren<QWidget*>()) {
@@ -30,7 +30,7 @@ std::string UnnamedIn(const QWidget& oWindow) {
 }
 
 TEST(Windows, NoCaptionIsClippedAtAnyZoomAndEveryInputHasAName) {
-  UseScheduleOfToday();  // all sections
+  UseScheduleOfToday();  // shows all sections
   std::string sAuction =
       "[TYPE]000|False|False|3|0|0|0|False[TYPE][OUTLAY]1000000|0|0|100|1|False[OUTLAY]"
       "[FEATURES]1048575|0[FEATURES][PAYPAL]True|0|1|False[PAYPAL]"

@@ -1,4 +1,4 @@
-// The program's two auctions, the text of any, and the sample auctions.
+// The program's two auctions, an auction as text, and the sample auctions.
 #pragma once
 
 #include <algorithm>
@@ -12,7 +12,7 @@
 
 namespace quillet {
 
-/// Both documents as at the first start, unchanged.
+/// Clears both auctions, with nothing unsaved.
 inline void ClearAuctions() {
   for (clsCalculate* const pAuction : {&WorkingAuction(), &DefaultAuction()}) {
     pAuction->Clear();
@@ -33,7 +33,7 @@ struct Sample {
   bool bOfThisRegion;
 };
 
-/// The sample auctions of a folder, by their names.
+/// The sample auctions in a folder, sorted by name.
 inline std::vector<Sample> Samples(const std::string& sFolder = "data/samples") {
   std::vector<Sample> aoSamples;
   for (const auto& oEntry : std::filesystem::directory_iterator(QUILLET_SOURCE_DIR "/" + sFolder)) {
@@ -49,7 +49,7 @@ inline std::vector<Sample> Samples(const std::string& sFolder = "data/samples") 
   return aoSamples;
 }
 
-/// The texts of those that are the region's.
+/// The texts of this region's samples.
 inline std::vector<std::string> SampleTexts() {
   std::vector<std::string> asTexts;
   for (const Sample& oSample : Samples()) {

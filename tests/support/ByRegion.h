@@ -1,4 +1,4 @@
-// What a test expects where the two regions differ.
+// Expected values that differ between the two regions.
 #pragma once
 
 #include <utility>

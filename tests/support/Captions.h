@@ -1,4 +1,4 @@
-// Captions that are cut off.
+// Finds captions that are cut off.
 #pragma once
 
 #include <QLabel>
@@ -14,8 +14,7 @@ namespace quillet {
 
 inline constexpr std::array kZooms = {0.75, 1.0, 1.25, 1.5, 2.0, 3.0};
 
-/// How far a caption may reach, in its panel's pixels: to the next visible control of its row, or
-/// to the panel's edge.
+/// The pixels that a caption has up to the next visible control in its row, or to the panel's edge.
 inline int RoomFor(const Control& oCaptioned) {
   const QWidget& oWidget = oCaptioned.Widget();
   int nRoom = oWidget.parentWidget()->width();
@@ -29,7 +28,7 @@ inline int RoomFor(const Control& oCaptioned) {
   return nRoom - oWidget.x();
 }
 
-/// The visible captions and amounts that are cut off in a window or a part of it.
+/// Lists the visible captions and amounts that are cut off in a window or part of one.
 inline std::string ClippedIn(const QWidget& oWindow) {
   std::string sClipped;
   for (const QWidget* const pWidget : oWindow.findChildren<QWidget*>()) {

@@ -1,4 +1,4 @@
-// An Internet that does as it is told.
+// A fake Internet with scripted answers.
 #pragma once
 
 #include <map>
@@ -32,7 +32,7 @@ class FakeInternet : public Internet {
   }
   bool GetFile(InternetHandle /*hFtp*/, const std::string& sRemoteFile,
                const std::string& sLocalFile, TransferType /*eType*/) override {
-    WriteTestFile(sLocalFile, asFiles[sRemoteFile]);  // cut off or not
+    WriteTestFile(sLocalFile, asFiles[sRemoteFile]);  // even if it is to fail
     return bGets;
   }
   bool FindFile(InternetHandle /*hFtp*/, const std::string& sRemoteFile,
@@ -70,8 +70,8 @@ class FakeInternet : public Internet {
   bool bHasDirectory = true;
   bool bGets = true;
   bool bExtended = false;
-  std::string sAsked;                            ///< its connections, each followed by "|"
-  std::map<std::string, std::string> asFiles;    ///< by name; an empty one is missing
+  std::string sAsked;                            ///< opened connections, each followed by "|"
+  std::map<std::string, std::string> asFiles;    ///< by name; an empty one counts as missing
   std::map<std::string, std::string> asAnswers;  ///< by page
   std::string sLastRequest;
   std::size_t nPiece = 100;      ///< bytes in the first piece

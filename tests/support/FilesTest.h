@@ -1,4 +1,4 @@
-// What tests of whole files share.
+// Shared by the tests that write whole files.
 #pragma once
 
 #include <filesystem>

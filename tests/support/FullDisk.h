@@ -1,4 +1,4 @@
-// A disk that is full, as far as this process sees it.
+// Simulates a full disk for this process.
 #pragma once
 
 #include <csignal>
@@ -7,8 +7,8 @@
 
 namespace quillet {
 
-/// Lets no file of this process grow beyond `nBytes`, as on a full disk; `pAtTheEnd` handles the
-/// signal that a write beyond them raises.
+/// Keeps every file of this process from growing beyond `nBytes`; `pAtTheEnd` handles the signal
+/// raised by a write beyond that.
 class FullDisk {
  public:
   explicit FullDisk(rlim_t nBytes, void (*pAtTheEnd)(int) = SIG_IGN)

@@ -1,4 +1,4 @@
-// Files of a test, and the diagnostic log as a test reads it.
+// A test's own files, and reading the diagnostic log.
 #pragma once
 
 #include <fstream>
@@ -19,8 +19,7 @@ inline void WriteTestFile(const std::string& sPath, const std::string& sContent)
   std::ofstream(sPath, std::ios::binary) << sContent;
 }
 
-/// The platform's messages for a missing file, and for a folder in place of a file to write or
-/// read.
+/// The platform's messages for a missing file, and for a folder where a file should be.
 inline std::string MissingWords() {
   return RemoveFile("no such file").message();
 }
@@ -29,7 +28,7 @@ inline std::string FolderWords(bool bWritten) {
   return (bWritten ? ReplaceFile(".", "") : ReadWholeFile(".", 0, sContent)).message();
 }
 
-/// The comments of QlDebug.log in `oFolder`, which follow two blanks after the time of each.
+/// The comments in QlDebug.log in `oFolder`; each follows its time and two blanks.
 inline std::vector<std::string> LogComments(const TemporaryFolder& oFolder) {
   std::vector<std::string> asComments;
   std::ifstream oFile(oFolder / "QlDebug.log");

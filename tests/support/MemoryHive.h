@@ -1,4 +1,4 @@
-// Settings that live in memory, for as long as the test wants.
+// Settings kept in memory.
 #pragma once
 
 #include <map>

@@ -1,4 +1,4 @@
-// What update tests share: a program folder of their own, settings in memory, and the log.
+// Shared by the update tests: a program folder, settings in memory, and the log.
 #pragma once
 
 #include <string>
@@ -30,7 +30,7 @@ class OnlineTest : public ::testing::Test {
     m_oHost.sProgramFolder = m_oFolder.sPath;
     SetRegistryHive(m_oHive);
     g_bDebug = true;
-    WriteTestFile(m_oFolder / "QlDebug.log", "\n");  // so that there is no header
+    WriteTestFile(m_oFolder / "QlDebug.log", "\n");  // so the log gets no header
     g_lActionFlags = 0;
     g_sActionMessage.clear();
     g_sAboutText = "Welcome";
@@ -40,7 +40,7 @@ class OnlineTest : public ::testing::Test {
     ChooseUpdateFile("");
   }
 
-  /// The log since the last call, with the lines of a procedure joined: "Start FTP 1|2|3".
+  /// The log since the last call, with each procedure's lines joined: "Start FTP 1|2|3".
   std::string Story() {
     std::string sStory;
     std::string sLast;

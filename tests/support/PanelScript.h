@@ -1,4 +1,4 @@
-// Drives a section as its user would, by the names of its controls, and reads it back as text.
+// Drives a section by its controls' names, as a user would, and reads it back as text.
 #pragma once
 
 #include <QApplication>
@@ -28,8 +28,7 @@ inline std::vector<Control*> AllControls(const SectionPanel& oPanel) {
   return aoAll;
 }
 
-/// The control of that name, wherever it stands in a panel or a view; an exception if there is
-/// none.
+/// The control of that name anywhere in a panel or a view; throws if there is none.
 inline Control& ControlOf(const QWidget& oPlace, const std::string& sName) {
   auto* const pFound = oPlace.findChild<QWidget*>(QString::fromStdString(sName));
   return pFound != nullptr ? dynamic_cast<Control&>(*pFound)
@@ -42,7 +41,7 @@ inline void ClickOn(const Control& oChoice) {
   QTest::mouseClick(&oWidget, Qt::LeftButton, Qt::NoModifier, QPoint(4, oWidget.height() / 2));
 }
 
-/// Clicks several of them, one after another; names separated by blanks.
+/// Clicks several controls in turn; their names are separated by blanks.
 inline void ClickOn(const QWidget& oPlace, const std::string& sNames) {
   std::istringstream oNames(sNames);
   for (std::string sName; oNames >> sName;) {
@@ -58,7 +57,7 @@ inline std::string FocusName() {
                            : (bBox ? pFocus->parentWidget() : pFocus)->objectName().toStdString();
 }
 
-/// Types over the text of a numeric box, and leaves the box.
+/// Types over a numeric box's text and leaves the box.
 inline void TypeInto(const QWidget& oPlace, const std::string& sName, const std::string& sText) {
   QLineEdit* const pText = dynamic_cast<ctlNumericText&>(ControlOf(oPlace, sName)).TextBox();
   pText->setFocus(Qt::TabFocusReason);

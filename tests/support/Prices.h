@@ -1,4 +1,4 @@
-// Fee schedules for tests, and how a Single prints.
+// Fee schedules for tests, and the printing of a Single.
 #pragma once
 
 #include <array>
@@ -32,12 +32,12 @@ inline void UseShippedSchedule(const std::string& sName) {
   UsePrices(std::move(oPrices));
 }
 
-/// That of 2007 of this region.
+/// This region's schedule of 2007.
 inline void UseShippedSchedule() {
   UseShippedSchedule(RegionCode() == 1 ? "UpdateUS_v0101.dat" : "UpdateUK_v0101.dat");
 }
 
-/// Today's of this region.
+/// This region's schedule of today.
 inline void UseScheduleOfToday() {
   UseShippedSchedule(RegionCode() == 1 ? "UpdateUS_2026-10.dat" : "UpdateUK_2026-10.dat");
 }

@@ -1,4 +1,4 @@
-// How a view differs from a newly made one that shows the same auction, and where its rows are.
+// Compares a view with a fresh one that shows the same auction, and finds its rows.
 #pragma once
 
 #include <QLineEdit>
@@ -26,8 +26,8 @@ inline std::vector<SectionPanel*> AllPanels(const SectionSet& oSet) {
   return aoPanels;
 }
 
-/// A numeric box shows its number to the cent or to seven digits, and while it is being typed into
-/// it may show anything. An auction never sets two of the check boxes.
+/// Numbers must match to the cent or to seven digits, except in a box that is being typed into.
+/// Two of the check boxes are never set from an auction.
 inline bool ShowsTheSame(const Control& oSeen, const Control& oWanted) {
   if (const auto* const pBox = dynamic_cast<const ctlNumericText*>(&oSeen)) {
     const double fWanted = dynamic_cast<const ctlNumericText&>(oWanted).Value();
@@ -60,7 +60,7 @@ inline std::string PlacesIn(const SectionSet& oSet) {
   return sPlaces;
 }
 
-/// Newly made sections, out of config mode, that no user has changed.
+/// Fresh sections, not in config mode and not touched by a user.
 class Mirror {
  public:
   Mirror() {
@@ -79,7 +79,7 @@ class Mirror {
     oFresh->Serialize(sText, false);
     oFresh->m_oOutlay = oAuction.m_oOutlay;  // amounts have only seven digits in the text
     oFresh->m_oPostage = oAuction.m_oPostage;
-    m_oSet.RefreshSums(m_oEmpty, true);  // whatever the view has shown before
+    m_oSet.RefreshSums(m_oEmpty, true);  // forgets what was shown before
     m_oSet.RefreshSums(*oFresh, true);
     m_oAuction = std::move(oFresh);  // only now: the set still used the old one
     const auto& oCarAd =
@@ -108,13 +108,13 @@ class Mirror {
     return aoAll;
   }
 
-  QWidget m_oWindow{nullptr, Qt::ToolTip};  // doesn't take the focus from others
+  QWidget m_oWindow{nullptr, Qt::ToolTip};  // doesn't take the focus
   clsCalculate m_oEmpty;
   std::unique_ptr<clsCalculate> m_oAuction;
   SectionSet m_oSet{m_oWindow, [](bool /*bDirty*/) {}, [] {}};
 };
 
-/// The visible controls of a panel that overlap one before them by more than a pixel.
+/// The visible controls of a panel that overlap an earlier one by more than a pixel.
 template <typename Controls>
 std::string OverlapsIn(const Control& oPanel, const Controls& aoControls) {
   constexpr int kHalfPixel = 8;

@@ -60,9 +60,9 @@ class TestHost : public Host {
   std::vector<ShownMessage> aoShown;
   std::vector<FileDialog> aoDialogs;
   std::vector<std::string> asLinks;
-  std::int64_t nTicks = 0;  ///< a millisecond passes with each pump
+  std::int64_t nTicks = 0;  ///< one millisecond per pump
   int nPumped = 0;
-  std::function<void()> fnOnPump;  ///< called with each pump
+  std::function<void()> fnOnPump;  ///< called on each pump
   std::string sCommandLine;
   std::string sProgramFolder = ".";
   std::string sDocumentsFolder = ".";
@@ -70,7 +70,7 @@ class TestHost : public Host {
   NumberStyle oNumbers{.sGroup = ","};
 };
 
-/// A TestHost that is the host for as long as it lives.
+/// A TestHost that is installed as the host while it exists.
 class ScopedHost : public TestHost {
  public:
   ScopedHost() : m_oBefore(TheHost()) { SetHost(*this); }

@@ -1,4 +1,4 @@
-// What must hold after each step of a walk over the main window.
+// Checks what must hold after each step of a walk over the main window.
 #pragma once
 
 #include <QApplication>
@@ -17,19 +17,19 @@
 
 namespace quillet {
 
-/// A step that was taken, and what it may have changed.
+/// One step of a walk, and what it may have changed.
 struct WalkStep {
   std::string sWhat{};
   bool bTouches = false;     ///< edits the auction on view
   bool bLaysOut = false;     ///< packs the rows again
   bool bShowsAgain = false;  ///< hides the calculator and shows it again
-  bool bCleans = false;      ///< loads or saves the auction then on view
-  /// The texts that the working and the default auction are given; empty where there is none.
+  bool bCleans = false;      ///< loads or saves the auction on view after it
+  /// The texts given to the working and the default auction; empty if none is.
   std::array<std::string, 2> asGiven{};
 };
 
-inline constexpr int kMostRaised = 120;  // by a step; walks have seen 54
-inline constexpr int kRunaway = 20000;   // beyond it the stack nearly overflows
+inline constexpr int kMostRaised = 120;  // by one step; the most seen is 54
+inline constexpr int kRunaway = 20000;   // beyond this the stack nearly overflows
 
 /// An auction's text after it has been shown: without a shop there is no duration.
 inline std::string AsShown(std::string sText) {
@@ -72,7 +72,7 @@ class WalkGuard {
     }
   }
 
-  /// After it: fails the test for each broken rule. Slow checks run only with `bAll`.
+  /// After it: fails the test for each broken rule. `bAll` runs the slow checks after any step.
   void Check(const WalkStep& oStep, bool bAll) {
     EXPECT_LE(m_nRaised, kMostRaised) << "clicks and changes that one step has raised";
     for (std::size_t nDocument : {0U, 1U}) {
@@ -128,7 +128,7 @@ class WalkGuard {
     }
   }
 
-  /// A number beyond 32 bits silently ends its section's work halfway, without marking it dirty.
+  /// A number beyond 32 bits silently stops its section halfway, before the auction turns dirty.
   bool HoldsTooMuch() {
     const auto fnTooMuch = [](const Control& oBox) {
       return dynamic_cast<const ctlNumericText&>(oBox).Value() >

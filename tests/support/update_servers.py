@@ -1,5 +1,5 @@
-"""A real web server and a real FTP server on loopback, run from the shipped configuration. The FTP
-server lets users in only if root has started it."""
+"""Real web and FTP servers on loopback, run with the shipped configuration. The FTP server accepts
+logins only if root started it."""
 
 import os
 import pathlib
@@ -32,7 +32,7 @@ def await_server(name, port):
 
 
 class UpdateServers:
-    """nginx and vsftpd, whose files lie in `files` below "web" and "ftp"."""
+    """nginx and vsftpd, serving the folders "web" and "ftp" in `files`."""
 
     def __init__(self):
         self.files = pathlib.Path(tempfile.mkdtemp(prefix="quillet-servers-"))
@@ -43,7 +43,7 @@ class UpdateServers:
         self.processes = [
             self.start("/usr/sbin/nginx", "-e", self.files / "error.log", "-c",
                        self.files / "main.conf"),
-            # The login library reads its rules from /etc only; its wrapper reads them here.
+            # PAM reads its rules from /etc only; with its wrapper it reads them here.
             self.start("/usr/sbin/vsftpd", self.files / "vsftpd.conf",
                        LD_PRELOAD="libpam_wrapper.so", PAM_WRAPPER="1",
                        PAM_WRAPPER_SERVICE_DIR=str(self.files / "pam.d"))]
@@ -67,7 +67,7 @@ class UpdateServers:
         (self.files / "passwords").write_text("quillet:" + coded)
 
     def copy(self, name, to, *changes, more=""):
-        """The shipped configuration with its places changed; each of them must be there."""
+        """Copies a shipped configuration with changes; each text to change must be there."""
         text = (SHIPPED / name).read_text()
         for old, new in (*changes, ("/srv/quillet-update", str(self.files))):
             if old not in text:
@@ -84,7 +84,7 @@ class UpdateServers:
         for process in self.processes:
             os.killpg(process.pid, signal.SIGKILL)
             process.wait()
-        # What the login library's wrapper leaves behind when its process is killed.
+        # The PAM wrapper leaves these behind when its process is killed.
         for left in pathlib.Path("/tmp").glob("pam.*"):
             if (left / "pid").is_file() and int((left / "pid").read_text()) == self.processes[1].pid:
                 shutil.rmtree(left)

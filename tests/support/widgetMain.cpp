@@ -1,5 +1,5 @@
-// The main of the widget tests: an offscreen screen, a fixed locale, settings in memory, and a
-// warning of the toolkit fails the test that it comes from.
+// The main of the widget tests: offscreen, with a fixed locale and settings in memory. A warning
+// from the toolkit fails the running test.
 #include <QApplication>
 #include <QLocale>
 
@@ -17,7 +17,7 @@
 namespace {
 
 void FailOnWarning(QtMsgType eType, const QMessageLogContext& /*oContext*/, const QString& sText) {
-  // The offscreen screen can't do everything, and on Windows it knows only the program's fonts.
+  // The offscreen platform can't do everything, and on Windows it only has the program's fonts.
   const bool bOfScreen = sText.startsWith("This plugin does not support") ||
                          sText.startsWith("QFontDatabase: Cannot find font directory");
   if (eType >= QtWarningMsg && eType != QtInfoMsg && !bOfScreen) {

@@ -1,4 +1,4 @@
-"""A screen of its own with a window manager, and the desktop program driven by keys and mouse."""
+"""A separate screen with a window manager, and the desktop program driven by keys and mouse."""
 
 import os
 import pathlib
@@ -14,7 +14,7 @@ PATIENCE = 20  # seconds that anything may take to appear
 
 
 def wait_for(what, condition, patience=PATIENCE):
-    """The first true answer of a condition; a failure that says what was waited for."""
+    """Waits until a condition is true and returns its value; a failure says what it waited for."""
     end = time.monotonic() + patience
     while time.monotonic() < end:
         if answer := condition():
@@ -24,8 +24,8 @@ def wait_for(what, condition, patience=PATIENCE):
 
 
 class Screen:
-    """Xvfb on a number that is free, with openbox; and a home folder of its own. What goes wrong
-    while it is open leaves a picture."""
+    """Xvfb on a free display number, with openbox and its own home folder. A failure while it is
+    open leaves a picture."""
 
     def __init__(self, name="screen", size="1920x1080"):
         self.name = name
@@ -102,7 +102,7 @@ class Screen:
         self.output("xdotool", "type", "--delay", "15", text)
 
     def clipboard(self):
-        """What was copied, as another program gets it; an empty text for nothing."""
+        """The clipboard's text as another program gets it; empty if there is none."""
         from Xlib import X, display
         connection = display.Display(self.environment["DISPLAY"])
         asker = connection.screen().root.create_window(0, 0, 1, 1, 0, X.CopyFromParent)
@@ -127,7 +127,7 @@ class Screen:
         self.output("xdotool", "mousemove", str(x), str(y), "click", "1")
 
     def place_of(self, title):
-        """Turns places of the window, in twips, into places on the screen."""
+        """Returns a function that turns a window's coordinates in twips into the screen's."""
         window = self.window(title)
         x, y = map(int, re.findall(r"Absolute upper-left [XY]:\s*(-?\d+)",
                                    self.output("xwininfo", "-id", window)))

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""The whole desktop program on a screen with a window manager, under real keys and mouse events."""
+"""The whole desktop program on a screen with a window manager, with real key and mouse events."""
 
 import functools
 import os
@@ -16,7 +16,7 @@ SAMPLES = pathlib.Path(__file__).resolve().parents[2] / "data/samples"
 
 
 def on_a_screen(test):
-    """Runs a test on a screen of its own, which keeps a picture if the test fails."""
+    """Runs a test on its own screen, and keeps a picture if the test fails."""
     @functools.wraps(test)
     def run(self):
         with Screen(test.__name__) as self.screen:
@@ -63,7 +63,7 @@ class WholeProgram(unittest.TestCase):
         screen.start()
         screen.keys("ctrl+comma")
         at = screen.place_of("Quillet US - Default Configuration")
-        # The PayPal section stands at 5760, 1560 of the view, which begins at 1590.
+        # The PayPal section is at 5760, 1560 in the view, which begins at 1590.
         screen.click(*at(1590 + 5760 + 1500, 1560 + 150))
         screen.drag(at(1590 + 5760 + 900, 1560 + 100), at(1590 + 5760 + 900 + 1200, 1560 + 100 + 600))
         wait_for("the stored place",
@@ -149,7 +149,7 @@ class WholeProgram(unittest.TestCase):
         self.assertIn("prices", told.stderr)
 
     def focus_first_box(self):
-        """A click into the box of the outlay: 1800, 360 of a section at 240, 1560 of the view."""
+        """Clicks into the outlay's box, at 1800, 360 in a section at 240, 1560 in the view."""
         at = self.screen.place_of("Quillet US.*")
         self.screen.click(*at(1590 + 240 + 1800 + 500, 1560 + 360 + 140))
         self.screen.keys("ctrl+a")

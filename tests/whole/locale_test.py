@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""The whole program where the comma parts the decimals: typing, totals, saving and loading.
+"""The whole program with a decimal comma: typing, totals, saving and loading.
 
 usage: locale_test.py FOLDER_OF_THE_PROGRAMS"""
 
@@ -33,7 +33,7 @@ class Comma(unittest.TestCase):
             auction = screen.home / "Documents/komma.qlt"
             self.name_file(screen, "ctrl+s", "Save.*", auction)
             self.assertIn(SAVED, auction.read_text(encoding="utf-8"))
-            shutil.copy(CAMERA, screen.home / "Documents")  # which was saved with points
+            shutil.copy(CAMERA, screen.home / "Documents")  # saved with decimal points
             self.name_file(screen, "ctrl+o", "Open.*", screen.home / "Documents" / CAMERA.name)
             self.assertEqual(self.figures(seen), "$96,74 (185%)")
             screen.keys("ctrl+n")
@@ -43,7 +43,7 @@ class Comma(unittest.TestCase):
 
     @staticmethod
     def figures(seen):
-        """Waits for the insertion fee of the entries, and gives the profit."""
+        """Waits for the entries' insertion fee and returns the profit."""
         seen.look("Selling Costs", "Profit", "figure")
         fee = seen.control("Selling Costs", "Insertion Fee", "figure")
         wait_for("the insertion fee", lambda: fee.get_name() == "$0,40")

@@ -1,5 +1,5 @@
-# Sourced by ./test: what someone sees who clones the last commit into a bare Debian 12, which has git
-# and nothing else, and types ./run. Ends the script.
+# Sourced by ./test: clones the last commit into a bare Debian 12 with nothing but git, and types
+# ./run there as a newcomer would. Ends the script.
 . packaging/deb/bookworm.sh
 
 if [ -z "${QUILLET_OWN_MOUNTS:-}" ]; then

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""printed_figures.py OUTPUT: does what ./run has printed without a display show every sample auction
-with the profit of docs/sample-auctions.md, which was worked out by hand?"""
+"""printed_figures.py OUTPUT: does the output of ./run without a display show every sample auction
+with its profit from docs/sample-auctions.md, which was worked out by hand?"""
 import pathlib
 import re
 import sys

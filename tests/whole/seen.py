@@ -1,5 +1,5 @@
-"""What is on the screen, as a screen reader sees it: controls are found by name and role in the
-accessibility tree, clicked with the mouse and typed into. Needs Debian's own Python."""
+"""The screen as a screen reader sees it: controls are found by name and role in the accessibility
+tree, clicked with the mouse and typed into. Needs Debian's own Python."""
 
 import os
 import subprocess
@@ -8,7 +8,7 @@ from desktop import Screen, wait_for
 
 
 class ReadableScreen(Screen):
-    """A screen whose programs tell of their controls."""
+    """A screen whose programs expose their controls to a screen reader."""
 
     def __init__(self, name="screen"):
         super().__init__(name)
@@ -20,7 +20,7 @@ class ReadableScreen(Screen):
         os.environ.update({key: self.environment[key] for key in
                            ("DISPLAY", "XDG_RUNTIME_DIR", "DBUS_SESSION_BUS_ADDRESS")})
         global Atspi
-        import gi  # behind the bus, which it looks for at once
+        import gi  # after the bus, which it looks for at once
         gi.require_version("Atspi", "2.0")
         from gi.repository import Atspi
 
@@ -40,7 +40,7 @@ class Desktop:
         self.controls = {}
 
     def look(self, section, name, role):
-        """Reads what is on view, once a control is there."""
+        """Reads what is on view once this control is there."""
         self.controls = wait_for(f"the {role} {name!r}", lambda: self.read((section, name, role)))
 
     @staticmethod
@@ -51,8 +51,7 @@ class Desktop:
         return found[-1] if found else None
 
     def read(self, wanted):
-        """Everything on view, by the name of its section, its own name and its role; nothing if
-        the wanted control isn't there."""
+        """Everything on view, by section, name and role; None without the wanted control."""
         controls = {}
 
         def walk(node, section):

@@ -1,6 +1,6 @@
 #!/usr/bin/python3
-"""Starts of the whole program from an empty store: with the update servers up, and without any
-network. Run as root, whom the FTP server and the empty network need.
+"""Starts the whole program without stored settings: with the update servers up, and without any
+network. Run as root, for the FTP server and for the network namespace.
 
 usage: update_test.py FOLDER_OF_THE_PROGRAMS"""
 
@@ -63,14 +63,14 @@ End app"""
 
 
 def comments(folder):
-    """The log's comments; what stands behind the time of each."""
+    """The log's comments, without their times."""
     path = folder / "QlDebug.log"
     lines = path.read_text(encoding="utf-8").splitlines() if path.exists() else []
     return [line[21:] for line in lines if re.match(r"\d{4}-\d\d-\d\d \d\d:\d\d:\d\d  ", line)]
 
 
 def unfolded(log):
-    """Every line of the text, where "Procedure 1|2" stands for "Procedure 1", "Procedure 2"."""
+    """Every line of the log; "Procedure 1|2" stands for "Procedure 1" and "Procedure 2"."""
     for line in log.splitlines():
         first, *others = line.split("|")
         yield first
@@ -80,7 +80,7 @@ def unfolded(log):
 
 class Update(unittest.TestCase):
     def at_home(self, screen):
-        """A copy of the program in a folder that can be written."""
+        """A copy of the program in a writable folder."""
         folder = screen.home / "program"
         folder.mkdir()
         for name in ("quillet", FEES):
@@ -88,7 +88,7 @@ class Update(unittest.TestCase):
         return folder
 
     def serve(self, screen):
-        """Starts the servers and names them to the program; gives the folder of their files."""
+        """Starts the servers, tells the program their names and returns their files' folder."""
         servers = UpdateServers()
         self.addCleanup(servers.close)
         self.name_servers(screen, servers.web, servers.ftp)

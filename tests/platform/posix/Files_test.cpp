@@ -18,9 +18,9 @@ TEST_F(Files, ReplacingKeepsTheLinkTheOwnerAndTheMode) {
   const mode_t nMaskBefore = ::umask(022);
   const std::string sLink = m_oFolder / "link.qlt";
   WriteTestFile(m_sFile, "old and longer");
-  (void)!::chown(m_sFile.c_str(), 12, 34);  // if the tester may
+  (void)!::chown(m_sFile.c_str(), 12, 34);  // works only for root
   fs::create_symlink("a.qlt", sLink);
-  for (const mode_t nMode : {0600U, 0666U}) {  // one of them wider than the mask
+  for (const mode_t nMode : {0600U, 0666U}) {  // the second is wider than the mask
     ASSERT_EQ(::chmod(m_sFile.c_str(), nMode), 0);
     struct stat oBefore {};
     struct stat oAfter {};

@@ -26,8 +26,8 @@ using Button = QMessageBox::StandardButton;
 
 using Step = std::function<void(QDialog&)>;
 
-/// Does the next of its steps to each dialog that opens; the last of all closes what stays open, so
-/// that a test fails and doesn't hang.
+/// Performs the next step on each dialog that opens. After ten seconds it closes any open dialog,
+/// so that the test fails instead of hanging.
 class User {
  public:
   explicit User(std::deque<Step> aoSteps) : m_aoSteps(std::move(aoSteps)) {
@@ -46,7 +46,7 @@ class User {
       pDialog->reject();
     } else if (pDialog != nullptr && pDialog != m_pSeen && !m_aoSteps.empty()) {
       m_pSeen = pDialog;
-      // Not from within the timer, which would then not look at a dialog that this one opens.
+      // Outside the timer's call: inside it, the timer would miss a dialog that this one opens.
       QTimer::singleShot(0, pDialog, [oStep = m_aoSteps.front(), pDialog] { oStep(*pDialog); });
       m_aoSteps.pop_front();
     }
@@ -67,7 +67,7 @@ auto Click(Button eButton) {
       [eButton](QDialog& oDialog) { dynamic_cast<QMessageBox&>(oDialog).button(eButton)->click(); };
 }
 
-/// Types a name into a file dialog and takes it.
+/// Types a name into a file dialog and accepts it.
 auto Type(const char* sName) {
   return [sName](QDialog& oDialog) {
     auto* const pName = oDialog.findChild<QLineEdit*>("fileNameEdit");
@@ -133,7 +133,7 @@ TEST_F(QtHostTest, AMessageShowsItsTextAsItIsAndEachWayOutGivesItsAnswer) {
 }
 
 TEST_F(QtHostTest, SavingAddsTheExtensionOnlyToANameWithoutAny) {
-  using Row = std::pair<const char*, const char*>;  // what is typed and what is chosen
+  using Row = std::pair<const char*, const char*>;  // typed name, chosen name
   for (const auto& [sTyped, sChosen] :
        {Row{"lathe.qlt", "lathe.qlt"}, Row{"lathe", "lathe.qlt"}, Row{"lathe.", "lathe.qlt"},
         Row{"v1.2", "v1.2"}, Row{"Café & Bar", "Café & Bar.qlt"}}) {

@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A file that somebody else has open and lets others do no more with than `nShare`.
+/// Keeps a file open as another program would, sharing it only as `nShare` allows.
 class OpenElsewhere {
  public:
   OpenElsewhere(const std::string& sPath, DWORD nShare)

@@ -12,7 +12,7 @@ namespace {
 
 const std::string kPath = "Software\\Velmor\\Quillet Test\\Config";
 
-/// A text value as the system has it.
+/// A text value as the system stores it.
 std::wstring Stored(const wchar_t* sName) {
   std::array<wchar_t, 100> acText{};
   DWORD nBytes = sizeof(acText);
