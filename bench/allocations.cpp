@@ -7,7 +7,7 @@ namespace {
 std::int64_t g_nAllocations = 0;
 }
 
-// Every form of new that isn't replaced here ends in this one.
+// Every form of new that isn't replaced here calls this one.
 void* operator new(std::size_t nSize) {
   ++g_nAllocations;
   void* const pMemory = std::malloc(nSize == 0 ? 1 : nSize);

@@ -1,4 +1,4 @@
-// Counts what the program takes from the heap.
+// Counts the program's heap allocations.
 #pragma once
 
 #include <cstdint>

@@ -1,6 +1,5 @@
 // What a keystroke costs on the desktop, from the key to the repainted figures, and where the time
-// goes; beside it a key in a bare text box of the same run. Without a screen: the pixels are drawn,
-// and shown to nobody.
+// goes, next to a key in a bare text box in the same run. Offscreen: pixels are drawn, not shown.
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -49,8 +48,8 @@ void PaintWhatChanged() {
   QApplication::processEvents();
 }
 
-/// Runs a step as often as the benchmark wants; its median and its slowest hundredth, in µs, stand
-/// beside the mean.
+/// Runs a step as often as the benchmark wants. Reports its median and 99th percentile in µs, next
+/// to the mean.
 template <typename Step>
 void Measure(benchmark::State& oState, Step&& fnStep) {
   std::vector<double> afTimes;
@@ -72,7 +71,7 @@ class Desktop {
   Desktop() {
     Registry().Set(settings::kStartMode, "1");
     Registry().Set(settings::kZoom, "100");
-    WorkingAuction().SetDirty(false);  // else the start asks about the run before
+    WorkingAuction().SetDirty(false);  // or the start asks about the last run
     m_oWindow.Show();
     std::string sText =
         "[TYPE]000|False|False|3|0|0|0|False[TYPE][OUTLAY]320.5|99.99|0|880|3|True[OUTLAY]"
@@ -92,7 +91,7 @@ class Desktop {
     return *dynamic_cast<ctlNumericText&>(*View().Set().ctlOutlaySection.Find("txtOutlay"))
                 .TextBox();
   }
-  /// A step up and a step down in turn, at the same place of the number.
+  /// Steps up and down in turn, at the same digit of the number.
   void Key() {
     m_bUp = !m_bUp;
     Box().setCursorPosition(2);

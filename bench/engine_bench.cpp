@@ -1,4 +1,4 @@
-// What the engine costs, each figure beside a baseline of the same run.
+// What the engine costs, each figure next to a baseline from the same run.
 #include <memory>
 #include <string>
 #include <vector>
@@ -42,14 +42,14 @@ std::vector<std::string> KeysOfSchedule() {
   return asKeys;
 }
 
-/// Ends the benchmark with an error if the engine has used the heap.
+/// Ends the benchmark with an error if the engine used the heap.
 void ForbidAllocations(benchmark::State& oState, std::int64_t nBefore) {
   if (Allocations() != nBefore) {
     oState.SkipWithError("memory was allocated");
   }
 }
 
-/// The machine's baseline: a thousand bare look-ups of keys that are there.
+/// The baseline for the machine: a thousand bare look-ups of existing keys.
 void BareLookUps(benchmark::State& oState) {
   const std::vector<std::string> asKeys = KeysOfSchedule();
   const PriceTable& oTable = Prices().Table();
@@ -86,7 +86,7 @@ void BreakEvenOfABusyAuction(benchmark::State& oState) {
   }
 }
 
-/// What the window of answers shows of an auction: two prices, the curve and the table.
+/// What the what-if window shows for an auction: two prices, the curve and the table.
 void AnswersOfABusyAuction(benchmark::State& oState) {
   clsCalculate oAuction;
   std::string sText = kBusyAuction;
@@ -107,7 +107,7 @@ void LoadTheShippedSchedule(benchmark::State& oState) {
   }
 }
 
-/// The load's baseline: its bytes, and nothing done with them.
+/// The baseline for the load: only reading the bytes.
 void ReadTheShippedSchedule(benchmark::State& oState) {
   for (auto _ : oState) {
     std::string sText = ScheduleText();
@@ -127,7 +127,7 @@ void SerializeAndReadBack(benchmark::State& oState) {
   }
 }
 
-/// The text's baseline: a copy of it.
+/// The baseline for the text: copying it.
 void CopyTheText(benchmark::State& oState) {
   for (auto _ : oState) {
     std::string sText = kBusyAuction;

@@ -1,11 +1,11 @@
 #!/usr/bin/python3
-"""From exec to a window that answers, and the memory of the idle program, on a screen of its own.
+"""Measures the time from exec until the window answers, and the idle program's memory.
 
 Usage: start.py FOLDER-OF-QUILLET [RUNS]
 
-Other desktop calculators that are installed run in turn with it, as the baseline. A window is ready
-when it answers the window manager's ping, which a program does from its event loop. The splash of
-Quillet is clicked away as soon as it stands.
+Runs on a screen of its own, in turn with other installed desktop calculators as the baseline. A
+window is ready when it answers the window manager's ping, which a program does from its event
+loop. Quillet's splash is clicked away as soon as it appears.
 """
 
 import os
@@ -22,11 +22,11 @@ from Xlib import X, display, protocol
 from Xlib.ext import xtest
 
 LIMIT = 30  # seconds for one start
-SMALLEST = 100  # pixels: what is smaller isn't a program's window
+SMALLEST = 100  # pixels; anything smaller isn't a program's window
 
 
 class Watcher:
-    """Sees windows appear, and asks them whether they are awake."""
+    """Watches for new windows, and checks that they answer."""
 
     def __init__(self, name):
         self.display = display.Display(name)
@@ -75,7 +75,7 @@ def resident_megabytes(process):
 
 
 def start(watcher, command, environment, splash):
-    """Milliseconds until the first window that stays answers, and megabytes two seconds later."""
+    """Milliseconds until the first lasting window answers, and megabytes two seconds later."""
     begin = time.monotonic()
     end = begin + LIMIT
     process = subprocess.Popen(command, env=environment, stdout=subprocess.DEVNULL,

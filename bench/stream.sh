@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# stream.sh FOLDER [LINES]: quillet-calc over a stream of auctions, a million unless told otherwise,
-# beside what wc takes for the same stream, on one core; then two jobs beside one on all cores, by the
-# clock. FOLDER holds the built programs.
+# stream.sh FOLDER [LINES]: times quillet-calc on a stream of auctions (a million by default) on one
+# core, against wc on the same stream; then two jobs against one on all cores, by the clock. FOLDER
+# holds the built programs.
 set -euo pipefail
 program=$1/quillet-calc lines=${2:-1000000}
 samples=$(dirname "$(readlink -f "$0")")/../data/samples
@@ -10,8 +10,8 @@ trap 'rm -f "$stream"' EXIT
 awk -v n="$lines" '{ line[NR - 1] = $0 } END { for (i = 0; i < n; i++) print line[i % NR] }' \
   "$samples"/[!u]*.qlt >"$stream"
 
-# measure CORES COMMAND...: its seconds of processor time, its peak of memory in kilobytes, and its
-# seconds by the clock.
+# measure CORES COMMAND...: prints its processor time in seconds, its peak memory in kilobytes, and
+# its seconds by the clock.
 measure() {
   taskset -c "$1" python3 - "$stream" "${@:2}" <<'PYTHON'
 import resource, subprocess, sys, time
