@@ -1,5 +1,5 @@
-// The text of an auction: whatever it is, saving it gives a text that reads back as it was saved,
-// and the figures depend on that text alone.
+// The text of an auction: whatever it is, once saved it reads back as it was saved, and the figures
+// depend on the saved text alone.
 #include <array>
 #include <bit>
 #include <memory>

@@ -1,4 +1,4 @@
-// Between text and numbers: the same as the C library says, and stable there and back.
+// Conversions between text and numbers: they match the C library's, and are stable there and back.
 #include "base/conversions.h"
 
 #include <bit>
@@ -26,7 +26,7 @@ void CheckText(std::string_view sText) {
   IgnoreFailure([&] { HexToString(sText, sBack); });
 }
 
-/// What the C library makes of a number, which it reads with a point.
+/// Compares with the C library, which reads numbers with a point.
 void CheckAgainstLibrary(std::string sText) {
   const auto fDouble = ToDouble(sText);
   const auto fSingle = ToSingle(sText);
@@ -56,7 +56,7 @@ void CheckIntegers(std::string_view sText) {
 void CheckSingle(Single fValue, std::string_view sPattern) {
   const std::string sText = SingleText(fValue);
   const auto fBack = ToSingle(sText);
-  Require(!fBack || SingleText(*fBack) == sText);  // the largest of all rounds up to nothing
+  Require(!fBack || SingleText(*fBack) == sText);  // the largest one's text is out of range
   std::string sShown = FormatNumber(fValue, sPattern);
   const std::size_t nPoint = sPattern.find('.');
   const bool bPlain = sPattern.find_first_not_of("0#.") == std::string_view::npos &&

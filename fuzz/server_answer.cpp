@@ -1,5 +1,5 @@
-// What the update servers answer: whatever it is, in pieces of whatever size, it is read to the
-// end, gives an action word or none, and a message that can be shown.
+// An answer of the update servers: whatever it is, and whatever the size of its pieces, it is read
+// to the end and gives an action word or none, and a message that can be shown.
 #include <string>
 #include <utility>
 
@@ -22,7 +22,7 @@ struct Outcome {
   bool operator==(const Outcome&) const = default;
 };
 
-/// Empty fields don't count, nor does a line's end behind the last one.
+/// Skips empty fields and a line end after the last one.
 std::string FirstField(std::string sAnswer) {
   sAnswer = DecodeText(std::move(sAnswer));
   sAnswer.erase(sAnswer.find_last_not_of("\r\n") + 1);
@@ -30,7 +30,7 @@ std::string FirstField(std::string sAnswer) {
   return sAnswer.substr(0, sAnswer.find(','));
 }
 
-/// The steps of one pass that read an answer.
+/// Runs the steps of a pass that read an answer.
 Outcome Fetch(const std::string& sAnswer, std::size_t nFirstPiece, std::size_t nNextPiece) {
   FakeInternet oInternet;
   oInternet.asAnswers = {{"getAction.asp", sAnswer}, {"getAbout.asp", sAnswer}};
@@ -65,7 +65,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t nSi
   const Outcome oOutcome = Fetch(sAnswer, nPiece, nPiece);
   Require(IsValidUtf8(oOutcome.sMessage) && IsValidUtf8(oOutcome.sAbout));
   Require((oOutcome.lFlags & kActionAboutText) != 0 || oOutcome.sAbout.empty());
-  if (sAnswer.find('\0') == std::string::npos) {  // which ends the piece that it stands in
+  if (sAnswer.find('\0') == std::string::npos) {  // a NUL ends its piece
     Require(oOutcome.lFlags == 0 || IsNumeric(FirstField(sAnswer)));
     Require(oOutcome == Fetch(sAnswer, nPiece, 1) || nPiece == 1);
   }

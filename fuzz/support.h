@@ -1,4 +1,4 @@
-// What the fuzzers share.
+// Shared by the fuzzers.
 #pragma once
 
 #include <cstddef>
@@ -10,13 +10,13 @@
 
 namespace quillet {
 
-/// Ends the run with a crash, which the fuzzer keeps, if something that must hold doesn't.
+/// Crashes if something that must hold doesn't; the fuzzer keeps the input.
 void Require(bool bHolds);
 
-/// Takes the first byte off the input, and sets the region and the decimal separator by it.
+/// Sets the region and the decimal separator by the first byte of the input, and returns the rest.
 [[nodiscard]] std::string_view TakeSettings(const std::uint8_t* pData, std::size_t nSize);
 
-/// DoCalc, whose Failures are none of the fuzzer's business.
+/// DoCalc, ignoring its Failures.
 void CalculateQuietly(clsCalculate& oAuction);
 
 /// The text of an auction, read and saved.

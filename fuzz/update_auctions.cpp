@@ -1,4 +1,4 @@
-// The text of an update file: auctions of every kind against it.
+// The text of an update file: auctions of every kind calculated with it.
 #include <array>
 #include <memory>
 #include <string>
@@ -11,7 +11,7 @@
 namespace quillet {
 namespace {
 
-/// The kind of listing and the quantity; everything that can be chosen is.
+/// The kind of listing and the quantity; every option is chosen.
 struct Listing {
   const char* sType;
   const char* sQuantity;

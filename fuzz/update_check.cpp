@@ -1,4 +1,4 @@
-// The text of an update file: what can't be loaded has a finding.
+// The text of an update file: if it can't be loaded, the check finds something.
 #include <string>
 
 #include "base/failure.h"

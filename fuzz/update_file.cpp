@@ -1,4 +1,4 @@
-// The text of an update file: its tiers by their links and by their keys.
+// The text of an update file: its tiers are the same by their links and by their keys.
 #include <string>
 
 #include "base/failure.h"
@@ -9,7 +9,7 @@
 namespace quillet {
 namespace {
 
-/// Ends a text with a key that stands twice: the load stops there, before tiers get their links.
+/// Ends a text with a key that occurs twice: the load stops there, before tiers get their links.
 constexpr std::string_view kUnlinked = "\n\x01,\x01\n\x01,\x01\n";
 
 bool SameTier(const clsPriceRange& oLeft, const clsPriceRange& oRight) {
@@ -30,7 +30,7 @@ clsPriceRange Asked(Ask&& fnAsk) {
   return oTier;
 }
 
-/// What a hit test is to give: the tiers one by one, each read whole.
+/// What a hit test must give, found by reading the tiers one by one.
 clsPriceRange HitOneByOne(const clsPrices& oPrices, const std::string& sTable, Single fValue) {
   clsPriceRange oTier;
   (void)oPrices.GetRange(sTable, 1, oTier, kShopNone);
@@ -74,7 +74,7 @@ void CheckTable(const clsPrices& oLinked, const clsPrices& oUnlinked, const std:
 
 void CheckTables(const clsPrices& oLinked, const clsPrices& oUnlinked) {
   constexpr std::size_t kMostTables = 20;
-  constexpr std::size_t kLongestKey = 100;  // longer ones aren't in any table
+  constexpr std::size_t kLongestKey = 100;  // with the tier's words it must fit into a PriceKey
   std::size_t nTables = 0;
   for (std::size_t i = 0; i < oLinked.Table().Size() && nTables < kMostTables; ++i) {
     const std::string sKey(oLinked.Table().KeyAt(i));
