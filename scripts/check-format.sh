@@ -1,4 +1,4 @@
 #!/usr/bin/env bash
-# clang-format is law.
+# Fails if clang-format would change a file.
 set -euo pipefail
 git ls-files -z '*.h' '*.cpp' | xargs -0 clang-format --dry-run --Werror

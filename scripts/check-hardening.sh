@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# check-hardening.sh PROGRAM...: has each what Debian hardens its programs with? Names what is missing.
+# check-hardening.sh PROGRAM...: is each hardened as Debian's programs are? Names what is missing.
 set -uo pipefail
 missing=0
 
@@ -19,7 +19,7 @@ for program in "$@"; do
   has "$program" "read-only relocations (RELRO)" 'GNU_RELRO' "$segments"
   has "$program" "stack without code" 'GNU_STACK .* RW ' "$segments"
   has "$program" "stack protector" ' U __stack_chk_fail@' "$symbols"
-  # What prints into a buffer does so by the checked calls of FORTIFY; not every program does.
+  # FORTIFY replaces snprintf with a checked call; a program that never calls it has neither.
   has "$program" "check of buffers (FORTIFY)" '^$' "$(grep -E ' U snprintf@' <<<"$symbols")"
 done
 echo "$# programs, $missing things missing"

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Checks that includes stay in their room or point down the floors of docs/architecture.md, and
-never in a circle."""
+"""Checks that includes stay in their room or point to a lower floor of docs/architecture.md, and
+never form a circle."""
 
 import pathlib
 import re

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# What must be true before a release, once ./package has filled dist/: one version everywhere, a dated
-# entry in the list of changes, and a clean tree. Names each thing that is wrong.
+# Checks a release after ./package has filled dist/: one version everywhere, a dated entry in the
+# list of changes, and a clean tree. Names each thing that is wrong.
 set -uo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 . scripts/lib.sh

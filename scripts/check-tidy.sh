@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# clang-tidy over all sources of this platform; needs the compile commands of a build without
-# precompiled headers: their format is another compiler's, and they would hide a missing include.
-# The rooms that calculate get every check of .clang-tidy. The others get those that find what no
-# warning does: each check walks the toolkit's headers again, which takes most of the time.
+# Runs clang-tidy over all sources of this platform. Needs the compile commands of a build without
+# precompiled headers: clang can't read another compiler's, and they would hide a missing include.
+# The rooms that calculate get every check of .clang-tidy. The rest only get those that find what
+# no warning does: every check walks the toolkit's headers again, which takes most of the time.
 set -euo pipefail
 build=$1
 calculating=(src/{base,prices,engine,answers,documents,online}/'*.cpp')
@@ -28,7 +28,7 @@ elsewhere="-*,
   readability-static-accessed-through-instance,
   -performance-inefficient-string-concatenation"
 
-# tidy CHECKS PATHSPEC...: the largest files first, so that no core is left with one at the end.
+# tidy CHECKS PATHSPEC...: largest files first, so that no core is left with one at the end.
 tidy() {
   local checks=$1
   shift

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# fuzz.sh PROGRAM CORPUS SECONDS: the corpus as it stands, then new inputs for a bounded while.
+# fuzz.sh PROGRAM CORPUS SECONDS: tries the corpus, then new inputs until the time is up.
 set -euo pipefail
 program=$1 corpus=$2 seconds=$3
 [ -d "$corpus" ] || { echo "$corpus is missing"; exit 1; }

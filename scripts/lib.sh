@@ -2,7 +2,7 @@
 
 say() { printf '%s\n' "$*"; }
 
-# step NAME COMMAND...: runs a command with its output kept aside; a failure names the step, shows
+# step NAME COMMAND...: runs a command without showing its output; a failure names the step, shows
 # the end of the output and ends the script.
 step() {
   local name=$1 log
@@ -25,7 +25,7 @@ apt_install() {
     as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "$@"
 }
 
-# need_packages GROUP...: installs the packages of these groups that are missing.
+# need_packages GROUP...: installs the missing packages of these groups.
 need_packages() {
   local wanted missing
   wanted=$(for group in "$@"; do
@@ -45,7 +45,7 @@ need_packages() {
   step "installing packages" apt_install $missing
 }
 
-# configure PRESET: once.
+# configure PRESET: configures it unless that is done.
 configure() {
   [ -f "build/$1/build.ninja" ] && return
   say "Configuring ($1)"
@@ -62,7 +62,7 @@ build() {
   step "building $preset" ninja -C "$folder" "$@"
 }
 
-# The version, from the build's one statement of it.
+# The version, from the only place that states it.
 project_version() {
   sed -n 's/^project(.* VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt
 }

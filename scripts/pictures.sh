@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Takes the pictures of README.md and docs/guide.md anew from the running program, so that they stay
+# Retakes the pictures of README.md and docs/guide.md from the running program, so that they stay
 # true: scripts/pictures.sh [FOLDER], by default docs.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
@@ -21,7 +21,7 @@ CAMERA_TODAY = pathlib.Path("data/samples/today/camera.qlt").resolve()
 
 class Album(Screen):
     def take(self, name, title):
-        """A picture of the one window, without its frame, once it has drawn itself."""
+        """Takes a picture of one window, without its frame, once it has drawn itself."""
         window = self.window(title)
         time.sleep(1)
         subprocess.run(["import", "-window", window, FOLDER / f"{name}.png"],
@@ -29,7 +29,7 @@ class Album(Screen):
         print(f"{name}.png")
 
     def set(self, **values):
-        """Stores values of the section Config, and a window that holds all sections."""
+        """Stores values of the section Config, and a window size that holds all sections."""
         window = {"Left": 1500, "Top": 750, "Width": 14700, "Height": 10950, "WindowState": 0}
         values = {f"Config\\{name}": value for name, value in {"Zoom": 100, **values}.items()} | {
             f"Forms\\Main\\{name}": value for name, value in window.items()}
