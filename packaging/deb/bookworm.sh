@@ -1,22 +1,22 @@
-# Sourced by tests: a clean Debian 12 in a folder, from the package sources of this machine. It is
-# fetched once and kept in the cache; mounts are made in a name space of their own.
+# Sourced by tests: a clean Debian 12 in a folder, from this machine's package sources. It is
+# fetched once and cached; mounts are made in their own name space.
 
 bookworm_cache=${XDG_CACHE_HOME:-$HOME/.cache}/quillet
 bookworm_base=$bookworm_cache/bookworm-$(dpkg --print-architecture).tar
 
-# The machine's own sources of Debian, as lines of a sources.list.
+# This machine's Debian sources, as lines of a sources.list.
 debian_sources() {
   # shellcheck disable=SC2016
   apt-get indextargets --format '$(ORIGIN) deb $(REPO_URI) $(RELEASE) $(COMPONENT)' \
     "Created-By: Packages" | sed -n 's/^Debian //p' | sort -u
 }
 
-# fetch_bookworm: the system's smallest set of packages, packed into the cache.
+# fetch_bookworm: puts the smallest Debian 12 into the cache.
 fetch_bookworm() {
   local folder mirror
   mirror=$(debian_sources | awk '$3 == "bookworm" { print $2; exit }')
   folder=$(mktemp -d)
-  chmod 755 "$folder"  # goes with the files
+  chmod 755 "$folder"  # tar keeps the mode
   mkdir -p "$bookworm_cache"
   timeout 1200 debootstrap --variant=minbase bookworm "$folder" "$mirror" &&
     debian_sources >"$folder/etc/apt/sources.list" &&
@@ -26,14 +26,14 @@ fetch_bookworm() {
   return $status
 }
 
-# with_own_mounts FORM: runs "./test FORM" again as root, with QUILLET_OWN_MOUNTS set, in a name space
-# of its own, and ends as that does. What is mounted goes away with the last process there.
+# with_own_mounts FORM: runs "./test FORM" again as root, with QUILLET_OWN_MOUNTS set, in its own
+# name space, and exits with its status. The mounts go away with the last process there.
 with_own_mounts() {
   as_root env QUILLET_OWN_MOUNTS=yes HOME="$HOME" unshare --mount "$0" "$1"
   exit
 }
 
-# make_bookworm FOLDER: a fresh one, with a user "seller" and the sockets of this machine's screens.
+# make_bookworm FOLDER: unpacks a fresh one, with a user "seller" and this machine's X sockets.
 make_bookworm() {
   [ -f "$bookworm_base" ] || fetch_bookworm || return
   tar -C "$1" -xf "$bookworm_base" &&
@@ -54,7 +54,7 @@ remove_bookworm() {
   rm -rf --one-file-system "$1"
 }
 
-# inside FOLDER COMMAND...: runs a command there as its administrator.
+# inside FOLDER COMMAND...: runs a command there as root.
 inside() {
   local folder=$1
   shift

@@ -11,7 +11,7 @@ import textwrap
 
 
 def items(text):
-    """The points of an entry, each on one line."""
+    """The points of an entry, one line each."""
     return [" ".join(point.split()) for point in re.split(r"^- ", text, flags=re.MULTILINE)[1:]]
 
 

@@ -1,6 +1,6 @@
-# Read by CPack: which packages the programs need, by the libraries that they are linked with. Those
-# of the sound library alone are recommended, since the programs do without it in silence; so is
-# what opens links, and what shows icons and knows the type of a file.
+# Read by CPack: the packages that the programs need, going by the libraries they link. Packages for
+# the sound library alone are only recommended, since the programs run without sound; so are those
+# for opening links, for icons and for file types.
 set(alongside hicolor-icon-theme shared-mime-info xdg-utils)
 
 set(folder ${CMAKE_CURRENT_BINARY_DIR}/_dependencies)

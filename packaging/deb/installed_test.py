@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Starts the desktop program of a system in a folder, as its user would:
+"""Starts the desktop program installed in a system in a folder, as a user would:
 installed_test.py FOLDER."""
 
 import os
@@ -17,7 +17,7 @@ SAMPLE = "/usr/share/doc/quillet/examples/used-camera.qlt"
 
 
 class SystemScreen(Screen):
-    """A screen outside, and the programs inside with nothing of this machine around them."""
+    """A screen of this machine, with programs that run in the system and see nothing else of it."""
 
     def start(self, name="quillet", *arguments, **environment):
         user = HOME.stat()

@@ -1,5 +1,5 @@
-# Sourced by ./test: the package, installed into a clean Debian 12 that has nothing but what it asks
-# for. Ends the script.
+# Sourced by ./test: tests the package in a clean Debian 12 that has only its dependencies. Ends the
+# script.
 . packaging/deb/bookworm.sh
 
 if [ -z "${QUILLET_OWN_MOUNTS:-}" ]; then
@@ -21,7 +21,7 @@ install_package() {
   cp "$package" "$system/quillet.deb" && install_inside /quillet.deb
 }
 
-# answers PATTERN COMMAND...: whether a line of what the seller is told matches the whole pattern.
+# answers PATTERN COMMAND...: does a whole line of what the seller sees match the pattern?
 answers() {
   local pattern=$1 told
   shift
@@ -43,7 +43,7 @@ right_figures() {
     answers 'Profit .*14\.78 \(160%\)' quillet-calc-uk "$examples/uk-tea-set.qlt"
 }
 
-# The user's schedules are copies below the home folder, and the package's own files stay as they are.
+# The user's schedules are copies in the home folder; the package's own files stay as they are.
 own_schedules() {
   local name
   for name in UpdateUS_v0101.dat UpdateUK_v0101.dat; do
@@ -84,7 +84,7 @@ pages_render() {
   done
 }
 
-# Only what the user has written may remain.
+# Only the user's own files may remain.
 purge_leaves_nothing() {
   local left
   inside "$system" apt-get purge -y quillet || return

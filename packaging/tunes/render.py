@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Renders the tunes of the about window into a folder: render.py data/tunes
 
-Each is a loop of 16-bit mono WAV whose last tones ring on over its beginning. The same score gives
+Each is a loop of 16-bit mono WAV whose last notes ring on into its beginning. The same score gives
 the same bytes.
 """
 
@@ -15,16 +15,16 @@ RATE = 22050
 PEAK = 0.42
 STEPS = {"c": 0, "d": 2, "e": 4, "f": 5, "g": 7, "a": 9, "b": 11}
 
-# A voice is its partials (multiple of the tone, strength, seconds until it has died to a third), the
-# time that it takes to sound, and how loud it is.
+# A voice is its partials (multiple of the pitch, strength, seconds to decay to about a third), its
+# attack in seconds, and its loudness.
 BELL = ([(1, 1.0, 0.55), (2, 0.35, 0.3), (4, 0.12, 0.12)], 0.006, 0.8)
 MARIMBA = ([(1, 1.0, 0.24), (4, 0.22, 0.06), (10, 0.04, 0.02)], 0.004, 0.9)
 STRING = ([(1, 1.0, 0.7), (2, 0.5, 0.45), (3, 0.25, 0.3), (4, 0.1, 0.2)], 0.012, 0.55)
 PAD = ([(1, 1.0, 1.3), (2, 0.25, 0.9), (3, 0.08, 0.6)], 0.16, 0.5)
 BASS = ([(1, 1.0, 0.5), (2, 0.3, 0.2)], 0.01, 0.75)
 
-# A tune is the length of a beat in seconds and its voices. A line of a voice is notes of one beat;
-# "-" is a rest, "/" joins what shares a beat, and "+" sounds together. 4 is the middle octave.
+# A tune is the length of a beat in seconds and its voices. A voice's line has an item per beat:
+# "-" is a rest, "/" splits the beat, and "+" plays notes together. 4 is the middle octave.
 TUNES = [
     # First Light: a music box that climbs and comes home.
     (0.42, [
@@ -58,13 +58,13 @@ TUNES = [
 
 
 def frequency(note):
-    """Of a note such as "c4", in hertz."""
+    """The frequency of a note such as "c4", in hertz."""
     tone = STEPS[note[0]] + 12 * (int(note[1]) - 4)
     return 440.0 * 2 ** ((tone - STEPS["a"]) / 12)
 
 
 def notes(line, beat):
-    """The notes of a voice's line: when each begins, in seconds, and what it is."""
+    """The notes of a voice's line: when each begins, in seconds, and its name."""
     for number, slot in enumerate(line.split()):
         parts = slot.split("/")
         for place, chord in enumerate(parts):

@@ -1,7 +1,7 @@
 # Sourced by ./test: the part of the Windows program that needs no Qt, under Wine.
 . packaging/windows/wine.sh
 
-# The same figures as here, to the last character.
+# The figures must be the same as here, to the last character.
 same_figures_on_windows() {
   diff <(wine build/windows-core/bin/quillet-calc.exe data/samples/{[!u],u[!k]}*.qlt | tr -d '\r') \
     <(build/release/bin/quillet-calc data/samples/{[!u],u[!k]}*.qlt)

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Installs the Windows program under Wine as a user would, works with it, and takes it off again:
+"""Installs the Windows program under Wine as a user would, uses it and uninstalls it:
 installed_test.py SETUP.EXE."""
 
 import os
@@ -28,7 +28,7 @@ TITLE = "Quillet US( - Default Configuration)?"
 
 
 class WineScreen(Screen):
-    """A screen with a Windows of its own, gone at the end."""
+    """A screen with its own Windows under Wine, removed at the end."""
 
     def __init__(self, name):
         super().__init__(name, "1600x1000")
@@ -47,7 +47,7 @@ class WineScreen(Screen):
                               check=False)
 
     def registry(self, key, *what):
-        """What reg.exe tells of a key; nothing if there is no such key or value."""
+        """What reg.exe prints about a key; empty if there is no such key or value."""
         done = self.wine("reg", "query", key, *what)
         return done.stdout if done.returncode == 0 else ""
 
@@ -55,15 +55,15 @@ class WineScreen(Screen):
         self.open(TITLE, self.folder / "quillet.exe", *words)
 
     def open(self, title, *command):
-        """Starts what shows such a window; it counts as the program until it ends."""
+        """Starts a command that opens such a window; it counts as the program until it ends."""
         self.program = subprocess.Popen([WINE, *command], env=self.environment, cwd=self.home,
                                         stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         self.window(title)
 
-    # A key that comes before its window has the focus is lost.
+    # A key pressed before its window has the focus is lost.
 
     def press(self, key, what, condition):
-        """Presses a key, and once more if that has had no effect."""
+        """Presses a key, and once more if it had no effect."""
         try:
             self.keys(key)
             wait_for(what, condition, patience=3)
@@ -87,7 +87,7 @@ class WineScreen(Screen):
 
 
 class Installed(unittest.TestCase):
-    """The tests follow each other in the order of their names."""
+    """The tests build on each other, in the order of their names."""
 
     @classmethod
     def setUpClass(cls):
@@ -149,7 +149,7 @@ class Installed(unittest.TestCase):
     def test_4_a_double_click_opens_an_auction(self):
         auction = self.screen.user / "Großes Sofa.qlt"
         shutil.copy(SAMPLES / "lathe.qlt", auction)
-        # As Explorer does it; Wine's own `start` looks at the machine's file types only.
+        # As Explorer does it; Wine's own `start` only knows the machine's file types.
         program = re.search(r'REG_SZ +"(.+)" "%1"', self.screen.registry(OPENING, "/ve")).group(1)
         self.screen.open("Quillet US - Gro.+es Sofa", program,
                          rf"C:\users\{self.screen.user.name}\{auction.name}")
@@ -173,7 +173,7 @@ class Installed(unittest.TestCase):
         self.screen.end()
 
     def test_6_a_start_fetches_the_fees_from_real_servers(self):
-        # The servers weren't there before, and a day takes one vain attempt only.
+        # The servers weren't up before, and the program makes only one failed attempt a day.
         mark = self.screen.registry(CONFIG, "/v", "FTPSkipFlag")
         self.assertRegex(mark, r"REG_SZ +\d+\.\d+")
         self.screen.wine("reg", "delete", CONFIG, "/v", "FTPSkipFlag", "/f")
@@ -198,7 +198,7 @@ class Installed(unittest.TestCase):
         self.screen.open(title, self.screen.folder / "uninstall.exe")
         self.screen.press("Return", "the question", lambda: len(self.screen.windows(title)) == 2)
         self.screen.keep_picture("windows-uninstall")
-        self.screen.keys("Return")  # which is no
+        self.screen.keys("Return")  # the default answer, No
         self.expect_no_program()
         self.screen.keys("Return")
         self.assertFalse(list(self.screen.user.rglob("Quillet.lnk")))

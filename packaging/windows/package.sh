@@ -5,10 +5,10 @@ cd "$(dirname "$(readlink -f "$0")")/../.."
 . scripts/lib.sh
 . packaging/windows/qt.sh
 
-largest=$((25 * 1024 * 1024))  # bytes of the program
+largest=$((25 * 1024 * 1024))  # bytes of a program
 stage=build/windows/stage/Quillet
 
-# Only what the system itself brings may be asked for beside the program.
+# A program mustn't be too large, or need libraries other than the system's.
 check_program() {
   local program=$1 size strange
   size=$(stat -c %s "$program")
@@ -39,10 +39,10 @@ fill_stage() {
   cp /usr/share/common-licenses/{GPL-3,LGPL-3} "$stage/Licences"
   cp "$(qt_folder)/copyright" "$stage/Licences/Qt.txt"
   cp graphics/quillet.ico "$stage/.."
-  convert graphics/installer.png "BMP3:$stage/../installer.bmp"  # the kind that the installer takes
+  convert graphics/installer.png "BMP3:$stage/../installer.bmp"  # the installer's format
 }
 
-# What the uninstaller takes away of the schedules: those that came along, and none of the user's own.
+# The schedules that the uninstaller removes: those that came along, and none of the user's own.
 list_schedules() {
   local schedule
   for schedule in data/UpdateUS_*.dat; do

@@ -1,12 +1,12 @@
-# Sourced from the top of the tree, after scripts/lib.sh: the static Qt that the Windows program is
-# linked with. It is built once a machine, from Debian's own source package, and kept in the cache
-# folder under a name that changes with everything it depends on.
+# Sourced from the top of the tree, after scripts/lib.sh: the static Qt for the Windows program. It
+# is built once per machine from Debian's source package, and kept in the cache folder under a name
+# that changes with everything it depends on.
 
 qt_source_list=packaging/windows/qt-source.sha256
 qt_toolchain=cmake/mingw-w64.cmake
 qt_version=$(sed -n 's/.*  qt6-base_\(.*\)\.dsc$/\1/p' "$qt_source_list")
 
-# Where the finished Qt stands, or will stand.
+# Where the finished Qt is, or will be.
 qt_folder() {
   local hash
   hash=$( (
@@ -18,7 +18,7 @@ qt_folder() {
   echo "${XDG_CACHE_HOME:-$HOME/.cache}/quillet/qt-${qt_version%%+*}-$hash"
 }
 
-# The machine's own Debian sources, asked for source packages instead of programs.
+# This machine's Debian sources, for source packages instead of programs.
 qt_source_lines() {
   local file
   for file in /etc/apt/sources.list /etc/apt/sources.list.d/*.list; do
@@ -31,8 +31,8 @@ qt_source_lines() {
   [ -s "$1/debian.list" ] || [ -s "$1/debian.sources" ]
 }
 
-# qt_fetch FOLDER: the source package, by lists of our own, since the machine's may hold programs
-# only. apt checks it against the signed index, and the tree against the sums that it names.
+# qt_fetch FOLDER: fetches the source package with lists of its own, since the machine's may be for
+# programs only. apt checks it against the signed index, sha256sum against the sums in this tree.
 qt_fetch() {
   local sums=$PWD/$qt_source_list
   mkdir -p "$1"/{parts,lists/partial,archives/partial}
@@ -48,7 +48,7 @@ qt_fetch() {
   )
 }
 
-# qt_configure FOLDER: what the program uses and no more.
+# qt_configure FOLDER: only what the program uses.
 qt_configure() {
   local feature off=()
   for feature in sql dbus concurrent printsupport vulkan xml network tabletevent \
@@ -63,7 +63,7 @@ qt_configure() {
     "${off[@]}"
 }
 
-# Builds the Qt unless it is there.
+# Builds Qt unless it is there.
 need_qt() {
   local folder work
   folder=$(qt_folder)

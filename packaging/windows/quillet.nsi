@@ -1,7 +1,7 @@
-; The installer: for the user alone, without an administrator, so that the program can keep its fee
-; schedule up to date in its own folder. Wants VERSION, STAGE (what to install) and OUTPUT.
+; The installer: for the current user only, without an administrator, so that the program can update
+; the fee schedule in its own folder. Needs VERSION, STAGE (what to install) and OUTPUT.
 ;
-; Switches: /S asks nothing, /D=FOLDER (last) chooses the folder. The uninstaller asks whether the
+; Switches: /S asks nothing, /D=FOLDER (last) sets the folder. The uninstaller asks whether the
 ; settings go too; with /S they stay unless /SETTINGS is given.
 Unicode true
 Target amd64-unicode
@@ -49,7 +49,7 @@ Section
   SetOutPath "$INSTDIR"
   File "${STAGE}/quillet.exe"
   File "${STAGE}/quillet-calc.exe"
-  ; A schedule that an update has fetched is newer than the one that came along.
+  ; A schedule fetched by an update is newer than the one in the installer.
   SetOverwrite ifnewer
   File "${STAGE}/UpdateUS_*.dat"
   SetOverwrite on
@@ -82,7 +82,7 @@ Function un.RemoveSettings
   RMDir /r "$LOCALAPPDATA\Quillet"
 FunctionEnd
 
-; Asks, or looks for the switch where nothing may be asked.
+; Asks, unless the switch says so. A silent run without it keeps the settings.
 Function un.MayRemoveSettings
   ${GetParameters} $0
   ClearErrors

@@ -1,8 +1,8 @@
-# Sourced by ./test: the Windows program under Wine, from its units to what the installer leaves.
-# Ends the script.
+# Sourced by ./test: tests the Windows program under Wine, from its units to what the installer
+# leaves. Ends the script.
 . packaging/windows/wine.sh
 
-# run_tests NAME: a test program for both regions.
+# run_tests NAME: runs a test program for both regions.
 run_tests() {
   local region
   for region in us uk; do
