@@ -10,38 +10,33 @@
 namespace quillet {
 namespace {
 
-struct FeaturePrice {
-  KeyText oName;
-  Single clsSellingFeatures::*fPrice;
-};
-
 using F = clsSellingFeatures;
 
-/// Every price that is looked up in the schedule, by the name after the key's prefix.
-constexpr std::array<FeaturePrice, 22> kFeaturePrices = {{
-    {"HomePage", &F::m_fHomePage},
-    {"HomePageMulti", &F::m_fHomePageMulti},
-    {"Plus", &F::m_fPlus},
-    {"Highlight", &F::m_fHighlight},
-    {"ItemSubtitle", &F::m_fItemSubtitle},
-    {"Bold", &F::m_fBold},
-    {"Gallery", &F::m_fGallery},
-    {"FeaturedGallery", &F::m_fFeaturedGallery},
-    {"BuyItNow", &F::m_fBuyItNow},
-    {"ScheduledListings", &F::m_fScheduledListings},
-    {"ListIn2Categories", &F::m_fListIn2Categories},
-    {"ListingDesigner", &F::m_fListingDesigner},
-    {"SlideShow", &F::m_fSlideShow},
-    {"SupersizePictures", &F::m_fSupersizePictures},
-    {"ExtraImage", &F::m_fExtraImage},
-    {"FeaturedInSearch", &F::m_fFeaturedInSearch},
-    {"10DayDuration", &F::m_f10DayDuration},
-    {"GiftServices", &F::m_fGiftServices},
-    {"PreviewPicture", &F::m_fPreviewPicture},
-    {"Border", &F::m_fBorder},
-    {"ListingItem", &F::m_fListingItem},
-    {"CarAd", &F::m_fCarAd},
-}};
+/// Where the prices of kFeatureKeys are kept, in the same order.
+constexpr std::array<Single F::*, kFeatureKeys.size()> kPriceFields = {
+    &F::m_fHomePage,
+    &F::m_fHomePageMulti,
+    &F::m_fPlus,
+    &F::m_fHighlight,
+    &F::m_fItemSubtitle,
+    &F::m_fBold,
+    &F::m_fGallery,
+    &F::m_fFeaturedGallery,
+    &F::m_fBuyItNow,
+    &F::m_fScheduledListings,
+    &F::m_fListIn2Categories,
+    &F::m_fListingDesigner,
+    &F::m_fSlideShow,
+    &F::m_fSupersizePictures,
+    &F::m_fExtraImage,
+    &F::m_fFeaturedInSearch,
+    &F::m_f10DayDuration,
+    &F::m_fGiftServices,
+    &F::m_fPreviewPicture,
+    &F::m_fBorder,
+    &F::m_fListingItem,
+    &F::m_fCarAd,
+};
 
 struct FlatFeature {
   std::int32_t lFeature;
@@ -147,8 +142,8 @@ Single clsSellingFeatures::Charged(Single fPrice) const {
 }
 
 void clsSellingFeatures::ForgetPrices() {
-  for (const FeaturePrice& oPrice : kFeaturePrices) {
-    this->*oPrice.fPrice = 0;
+  for (Single F::*const fPrice : kPriceFields) {
+    this->*fPrice = 0;
   }
 }
 
@@ -164,36 +159,49 @@ std::int32_t clsSellingFeatures::Duration() const {
   return HasFeesOfToday() ? std::int32_t{kShopNone} : AuctionType().m_eShopDuration;
 }
 
-PriceKey clsSellingFeatures::GetPriceKey(const KeyText& oName) const {
-  PriceKey oKey = KeyText("Feature");
-  if (RegionCode() != 0 && !HasFeesOfToday()) {
-    if (AuctionType().m_eAuctionType == kAuctionMotor) {
-      oKey.Append("Motor");
-      switch (AuctionType().m_eMotorType) {
-        case kMotorPocketBikes:
-          oKey.Append("PoketBikes");  // the schedule's spelling
-          break;
-        case kMotorParts:
-          oKey.Append("Parts");
-          break;
-        default:
-          break;
-      }
-    } else if (AuctionType().m_eAuctionType == kAuctionRealEstate) {
-      oKey.Append("RealEstate");
-    }
+/// The one that prices are looked up for. Today's kinds of listing have the same prices.
+FeatureListing clsSellingFeatures::Listing() const {
+  if (RegionCode() == 0 || HasFeesOfToday()) {
+    return FeatureListing::Any;
   }
-  return oKey.Append(oName);
+  switch (AuctionType().m_eAuctionType) {
+    case kAuctionMotor:
+      break;
+    case kAuctionRealEstate:
+      return FeatureListing::RealEstate;
+    default:
+      return FeatureListing::Any;
+  }
+  switch (AuctionType().m_eMotorType) {
+    case kMotorPocketBikes:
+      return FeatureListing::PocketBikes;
+    case kMotorParts:
+      return FeatureListing::MotorParts;
+    default:
+      return FeatureListing::Motor;
+  }
+}
+
+PriceKey clsSellingFeatures::GetPriceKey(const KeyText& oName) const {
+  return PriceKey(kFeaturePrefixes.at(static_cast<std::size_t>(Listing()))).Append(oName);
+}
+
+void clsSellingFeatures::RefreshPrices() {
+  RefreshPrices(Listing(), Duration());
+  if (HasFeesOfToday()) {
+    if (AuctionType().HasFixedPrice()) {
+      RefreshPrices(FeatureListing::FixedPrice, kShopNone);  // those that differ
+    }
+    RefreshSubtitle();
+  }
 }
 
 /// A price that the schedule lacks stays as it was, even if it is that of another kind of listing.
-void clsSellingFeatures::RefreshPrices() {
-  RefreshPrices(GetPriceKey(""), Duration());
-  if (HasFeesOfToday()) {
-    if (AuctionType().HasFixedPrice()) {
-      RefreshPrices(KeyText("FixedFeature"), kShopNone);  // those that differ
-    }
-    RefreshSubtitle();
+void clsSellingFeatures::RefreshPrices(FeatureListing eListing, std::int32_t nShop) {
+  const FeaturePrices& aoPrices = Prices().Features().Of(eListing, nShop);
+  for (std::size_t i = 0; i < aoPrices.size(); ++i) {
+    Single& fPrice = this->*kPriceFields[i];
+    fPrice = aoPrices[i].value_or(fPrice);
   }
 }
 
@@ -209,14 +217,6 @@ void clsSellingFeatures::RefreshSubtitle() {
       bFixed ? m_oLastOutlay->m_fEstimatedEndPrice : m_oLastOutlay->m_fStartingPrice;
   if (Prices().HitTestRanges(oTable, fListed, oTier, kShopNone)) {
     m_fItemSubtitle = oTier.m_fValue;
-  }
-}
-
-void clsSellingFeatures::RefreshPrices(PriceKey&& oPrefix, std::int32_t nShop) {
-  const clsPrices& oPrices = Prices();
-  for (const FeaturePrice& oPrice : kFeaturePrices) {
-    const KeyBranch oBranch(oPrefix);
-    oPrices.GetPrice(oPrefix.Append(oPrice.oName), this->*oPrice.fPrice, nShop);
   }
 }
 

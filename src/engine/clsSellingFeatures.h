@@ -8,6 +8,7 @@
 #include "engine/clsAuctionType.h"
 #include "engine/clsOutlay.h"
 #include "engine/fresh.h"
+#include "prices/FeaturePrices.h"
 #include "prices/PriceKey.h"
 
 namespace quillet {
@@ -100,10 +101,11 @@ class clsSellingFeatures {
   [[nodiscard]] const clsAuctionType& AuctionType() const;
   [[nodiscard]] PriceKey GetPriceKey(const KeyText& oName) const;
   [[nodiscard]] bool HasFeesOfToday() const { return AuctionType().m_oSaleFees != nullptr; }
+  [[nodiscard]] FeatureListing Listing() const;
   [[nodiscard]] std::int32_t Duration() const;
   [[nodiscard]] Single Charged(Single fPrice) const;
   void RefreshPrices();
-  void RefreshPrices(PriceKey&& oPrefix, std::int32_t nShop);
+  void RefreshPrices(FeatureListing eListing, std::int32_t nShop);
   void RefreshSubtitle();
   [[nodiscard]] Single GetBuyItNowFee() const;
   [[nodiscard]] Single GetHomePageFee() const;

@@ -4,6 +4,7 @@
 #include <charconv>
 
 #include "base/text.h"
+#include "prices/FeaturePrices.h"
 
 namespace quillet {
 namespace {
@@ -30,14 +31,10 @@ struct Set {
   std::string_view sChoices;
 };
 
-constexpr std::array<Set, 4> kSets = {{
+constexpr std::array<Set, 3> kSets = {{
     {"shop", ",30,60,90,120,GTC"},
     {"vehicle", "Passenger,Motorcycle,Powersports,PocketBikes,Other"},
     {"listing", "Motor,MotorParts,MotorPoketBikes,RealEstate"},
-    {"feature",
-     "HomePage,HomePageMulti,Plus,Highlight,ItemSubtitle,Bold,Gallery,FeaturedGallery,BuyItNow,"
-     "ScheduledListings,ListIn2Categories,ListingDesigner,SlideShow,SupersizePictures,ExtraImage,"
-     "FeaturedInSearch,10DayDuration,GiftServices,PreviewPicture,Border,ListingItem,CarAd"},
 }};
 
 constexpr std::array<Row, 58> kRows = {{
@@ -104,7 +101,20 @@ constexpr std::array<Row, 58> kRows = {{
     {kBoth, kToday, KeyKind::PictureTiers, "FeaturePicturePack"},
 }};
 
+/// As in the sets.
+std::string FeatureChoices() {
+  std::string sChoices;
+  for (const KeyText& oKey : kFeatureKeys) {
+    sChoices.append(",").append(oKey.Text());
+  }
+  return sChoices.substr(1);
+}
+
 std::string_view ChoicesOf(std::string_view sBraced) {
+  static const std::string sFeatures = FeatureChoices();
+  if (sBraced == "feature") {
+    return sFeatures;
+  }
   for (const Set& oSet : kSets) {
     if (oSet.sName == sBraced) {
       return oSet.sChoices;

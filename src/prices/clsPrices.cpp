@@ -184,6 +184,7 @@ void clsPrices::LoadText(std::string_view sText) {
 
 void clsPrices::EndLoad() {
   m_oTable.LinkTiers();
+  m_oFeatures.Read(m_oTable);
   m_oSaleRates = ReadSaleRates(m_oTable);
 }
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "base/Single.h"
+#include "prices/FeaturePrices.h"
 #include "prices/PriceKey.h"
 #include "prices/PriceTable.h"
 #include "prices/SaleRates.h"
@@ -65,6 +66,9 @@ class clsPrices {
   /// True if there is a tier table of that name, even an empty one.
   [[nodiscard]] bool HasTiers(const KeyText& oName) const;
 
+  /// The features' prices, as GetPrice would find them one by one.
+  [[nodiscard]] const FeatureLists& Features() const { return m_oFeatures; }
+
   /// What a sale costs today, valid until the next load; null in a schedule of 2007.
   [[nodiscard]] const SaleRates* Sale() const { return m_oSaleRates ? &*m_oSaleRates : nullptr; }
 
@@ -90,6 +94,7 @@ class clsPrices {
   void EndLoad();
 
   PriceTable m_oTable;
+  FeatureLists m_oFeatures;
   std::optional<SaleRates> m_oSaleRates;
   std::optional<Finding> m_oMissingPrice;
 };
