@@ -92,6 +92,9 @@ Change ListAs(std::int32_t eAuctionType) {
   return OfListing([eAuctionType](clsAuctionType& oType) {
     oType.m_eAuctionType = eAuctionType;
     oType.m_bShopInventory &= eAuctionType == kAuctionStandard;
+    if (eAuctionType == kAuctionMotor) {
+      oType.TakeVehicleOnOffer();
+    }
   });
 }
 

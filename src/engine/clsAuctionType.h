@@ -68,6 +68,10 @@ class clsAuctionType {
   [[nodiscard]] static bool IsOnOffer(std::int32_t eAuctionType);
   [[nodiscard]] static bool IsVehicleOnOffer(std::int32_t eMotorType);
 
+  /// Turns a vehicle that isn't on offer into parts, which always are where vehicles are told
+  /// apart.
+  void TakeVehicleOnOffer();
+
   /// True unless it is a vehicle or real estate: those pay none of today's sale fees.
   [[nodiscard]] bool PaysSaleFees() const;
 

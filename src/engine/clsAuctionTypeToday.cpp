@@ -86,4 +86,10 @@ bool clsAuctionType::IsVehicleOnOffer(std::int32_t eMotorType) {
   return Prices().Sale() == nullptr || nAt >= kKeys.size() || IsPriced(kKeys.at(nAt));
 }
 
+void clsAuctionType::TakeVehicleOnOffer() {
+  if (RegionCode() == 1 && !IsVehicleOnOffer(m_eMotorType)) {
+    m_eMotorType = kMotorParts;
+  }
+}
+
 }  // namespace quillet

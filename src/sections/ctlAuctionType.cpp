@@ -5,7 +5,6 @@
 #include <string_view>
 
 #include "answers/tips.h"
-#include "base/regionControls.h"
 #include "sections/AuctionOptionsPanel.h"
 #include "sections/controlHelpers.h"
 #include "sections/ctlRealEstateOptions.h"
@@ -111,8 +110,8 @@ void ctlAuctionType::InputClicked(Control& oInput) {
     }
     SyncShopInventory(true);
   }
-  if (sName == "optMotorAuction" && ValueOf("optMotorAuction") != 0) {
-    TakeVehicleOnOffer();
+  if (sName == "optMotorAuction" && ValueOf("optMotorAuction") != 0 && m_oAuctionType != nullptr) {
+    m_oAuctionType->TakeVehicleOnOffer();
   }
   UpdateModel();
 }
@@ -133,14 +132,6 @@ std::string ctlAuctionType::TipOf(const Control& oInput, const clsCalculate& oAu
   return pKind != kKinds.end() || oClick
              ? ListingTip(oAuction, WordsOf(oInput).toStdString(), bChosen, oClick)
              : std::string();
-}
-
-/// Parts always are on offer, where there is a choice of vehicles.
-void ctlAuctionType::TakeVehicleOnOffer() {
-  if (m_oAuctionType != nullptr && RegionAllowsControl("optParts") &&
-      !clsAuctionType::IsVehicleOnOffer(m_oAuctionType->m_eMotorType)) {
-    m_oAuctionType->m_eMotorType = kMotorParts;
-  }
 }
 
 /// The shop takes only standard auctions: whichever of the two was clicked last wins.

@@ -28,7 +28,6 @@ class ctlAuctionType : public SectionPanel {
 
  private:
   void SyncShopInventory(bool bShopClicked);
-  void TakeVehicleOnOffer();
   void ShowWhatIsOnOffer();
 
   clsAuctionType* m_oAuctionType = nullptr;

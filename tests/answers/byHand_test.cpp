@@ -118,9 +118,8 @@ struct Clicked {
 
 Clicked Click(const SectionPanel& oSection, const Choice& oOption) {
   const auto fnFees = [] {
-    clsCalculate& oAuction = WorkingAuction();
-    return FormatMoney(oAuction.m_fSellCost - oAuction.m_oOutlay.DoCalc() - oAuction.m_fPayPayCost -
-                       oAuction.m_oSellingFeatures.LastFee());
+    return FormatMoney(WorkingAuction().m_oAuctionType.DoCalcAuto() +
+                       WorkingAuction().m_oSaleFees.LastFee());
   };
   const clsSellingFeatures oBefore = WorkingAuction().m_oSellingFeatures;
   Clicked oClicked{oOption.Value() != 0, false, fnFees(), 0, 0};
