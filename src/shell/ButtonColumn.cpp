@@ -39,8 +39,8 @@ QString ToolTipOf(const ButtonDesign& oButton) {
   return QString("%1 (%2)").arg(oButton.sToolTip, oKeys.toString(QKeySequence::NativeText));
 }
 
-/// A button that plays a movie. `fnClick` is called by its key, and when the movie sends "click" in
-/// any case.
+/// A button that plays a movie. `fnClick` is called by its key, and when the movie sends "click",
+/// whatever its case.
 template <typename Click>
 ShockwaveFlash* MakeButton(const ButtonDesign& oButton, const char* sName, QWidget* pParent,
                            const Click& fnClick) {

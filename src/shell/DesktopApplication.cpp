@@ -11,7 +11,7 @@
 namespace quillet {
 namespace {
 
-/// Holds the window, which is deleted only when the event loop has it in hand.
+/// Holds the window, and leaves deleting it to the event loop.
 class MainWindowHandle : public MainWindow {
  public:
   explicit MainWindowHandle(frmMain* pWindow) : m_pWindow(pWindow) {}

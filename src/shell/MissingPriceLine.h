@@ -1,4 +1,4 @@
-// Says what keeps the fee schedule from pricing some sale.
+// Says why the fee schedule can't price some sale.
 #pragma once
 
 #include "controls/Controls.h"
@@ -15,7 +15,7 @@ class MissingPriceLine : public Label {
   void Refresh();
 
  protected:
-  [[nodiscard]] int PixelsForCaption() const override { return 0; }  // it keeps to its place
+  [[nodiscard]] int PixelsForCaption() const override { return 0; }  // it stays within its place
   void paintEvent(QPaintEvent* pEvent) override;
 };
 

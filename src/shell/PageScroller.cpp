@@ -18,8 +18,8 @@ namespace quillet {
 
 namespace {
 
-/// A section that becomes visible gives its rows the colour of text, and isn't filled in again when
-/// its page comes up: so this keeps disabled controls grey.
+/// Keeps disabled controls grey: a section that becomes visible gives its rows the colour of text,
+/// and isn't filled in again when its page comes up.
 void ShowWithGreys(SectionPanel& oSection) {
   std::vector<Control*> aoGrey;
   for (QWidget* const pWidget : oSection.findChildren<QWidget*>()) {
@@ -34,7 +34,7 @@ void ShowWithGreys(SectionPanel& oSection) {
   }
 }
 
-/// Extends equally to either side of the frame's middle, which the instruction is above.
+/// Extends equally to both sides of the middle of the frame, as the instruction above it does.
 QRectF CardOf(const Control& oFrame, const SectionPanel& oSection) {
   constexpr int kSides = 225;
   constexpr int kAbove = 105;

@@ -1,4 +1,4 @@
-// The viewport of the wizard: shows the section of one page, and scrolls it where it is taller.
+// The viewport of the wizard: shows the section of one page, and scrolls it if it is taller.
 #pragma once
 
 #include "controls/Controls.h"

@@ -25,7 +25,7 @@ constexpr int kArrowSize = 90;
 constexpr int kArrowGap = 75;
 constexpr int kSides = 60;
 
-/// The one in use; one whose file is gone is known by its name alone.
+/// The schedule in use; if its file is gone, only its name is known.
 OfferedSchedule InUse(const std::vector<OfferedSchedule>& aoOffered) {
   const std::string sFile = UpdateFileName(true);
   const auto pInUse =
@@ -35,7 +35,7 @@ OfferedSchedule InUse(const std::vector<OfferedSchedule>& aoOffered) {
                                    : OfferedSchedule{sFile, UpdateFileName(false), sFile, {}, {}};
 }
 
-/// The names of those of a later date that can be used.
+/// The names of the usable schedules with a later date.
 QStringList NewerThan(const OfferedSchedule& oInUse,
                       const std::vector<OfferedSchedule>& aoOffered) {
   QStringList asNewer;
@@ -74,7 +74,7 @@ void ShowFolder() {
 ScheduleButton::ScheduleButton(QWidget* pParent)
     : QAbstractButton(pParent), Control(static_cast<QWidget&>(*this)) {
   setAttribute(Qt::WA_Hover);
-  setFocusPolicy(Qt::TabFocus);  // a click leaves the focus in the box that is typed into
+  setFocusPolicy(Qt::TabFocus);  // a click leaves the focus in the box being typed into
   connect(this, &QAbstractButton::clicked, this, &ScheduleButton::ShowMenu);
 }
 
@@ -94,7 +94,7 @@ int ScheduleButton::WholeWidth() const {
   return Twips(nWords + 1) + kArrowGap + kArrowSize + 2 * kSides;
 }
 
-/// What was typed is entered first, so that the other fees are those of what stands on the screen.
+/// Enters what was typed first, so that the new fees are those of what is on screen.
 void ScheduleButton::Choose(const std::string& sFile) {
   ctlNumericText::CommitFocused();
   try {

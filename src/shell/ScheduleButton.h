@@ -8,7 +8,7 @@
 
 namespace quillet {
 
-/// Words and a small arrow, without an edge. Opens a menu by the mouse, by Space and by Enter.
+/// Text and a small arrow, without a border. A click, Space or Enter opens a menu.
 class ScheduleButton : public QAbstractButton, public Control {
   Q_OBJECT
 
@@ -16,17 +16,17 @@ class ScheduleButton : public QAbstractButton, public Control {
   explicit ScheduleButton(QWidget* pParent);
   [[nodiscard]] const char* TypeName() const override { return "Image"; }
 
-  /// Takes its words and its tooltip anew from the schedules on offer.
+  /// Updates its text and tooltip from the schedules on offer.
   void Refresh();
 
-  /// The width, in twips, that shows all of its words at the current zoom.
+  /// The width, in twips, that shows its whole text at the current zoom.
   [[nodiscard]] int WholeWidth() const;
 
-  /// Loads a schedule by its bare file name, and raises Chosen; or says why it can't be used.
+  /// Loads a schedule by its bare file name, and raises Chosen, or says why it can't be used.
   void Choose(const std::string& sFile);
 
  signals:
-  /// Another schedule is in use: whatever shows fees is to show them anew.
+  /// Another schedule is in use: everything that shows fees must be updated.
   void Chosen();
 
  protected:

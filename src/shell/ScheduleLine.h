@@ -1,4 +1,4 @@
-// One line beside the summary: the fee schedule in use, and what keeps it from pricing some sale.
+// One line beside the summary: the fee schedule in use, and why it can't price some sale.
 #pragma once
 
 #include <QWidget>
@@ -12,13 +12,13 @@ class ScheduleButton;
 
 class ScheduleLine : public QWidget, public Control {
  public:
-  /// Which end of the line the button stands at.
+  /// Which end of the line the button is at.
   enum class Button { AtLeft, AtRight };
 
   ScheduleLine(Button eButton, QWidget* pParent);
   [[nodiscard]] const char* TypeName() const override { return "ScheduleLine"; }
 
-  /// Asks the program's fee schedule anew.
+  /// Checks the program's fee schedule again.
   void Refresh();
 
   [[nodiscard]] ScheduleButton& Schedule() const { return *m_pSchedule; }

@@ -45,8 +45,7 @@ bool ScrollFrame::focusNextPrevChild(bool bNext) {
   return QWidget::focusNextPrevChild(bNext);  // NOLINT(bugprone-parent-virtual-call)
 }
 
-/// Ignores what takes the focus only by a click, a section or a view: it stays where the user has
-/// it.
+/// Ignores sections and views, which only a click can focus: the scroll position stays.
 void ScrollFrame::FollowFocus() {
   constexpr int kMargin = 360;
   const QWidget* pNow = QApplication::focusWidget();
@@ -55,7 +54,7 @@ void ScrollFrame::FollowFocus() {
     return;
   }
   if (pNow->parentWidget()->focusProxy() == pNow) {
-    pNow = pNow->parentWidget();  // in a box it is the text that takes the focus
+    pNow = pNow->parentWidget();  // a box's text takes the focus for it
   }
   const QRect oInput(pNow->mapTo(widget(), QPoint()), pNow->size());
   ensureVisible(oInput.center().x(), oInput.center().y(), oInput.width() / 2 + Pixels(kMargin),

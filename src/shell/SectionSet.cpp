@@ -77,7 +77,7 @@ void SectionSet::ShowSums(clsCalculate& oDocument) {
 }
 
 /// Sections may write what they still show of another auction. So both auctions are restored, and
-/// pushed again, until nothing changes; codes that no option has are kept all the same.
+/// pushed again, until nothing changes; codes without an option are kept too.
 void SectionSet::BringOnView(clsCalculate& oDocument) {
   constexpr int kMostPushes = 5;
   KeptAuction oKept(oDocument);
@@ -144,8 +144,8 @@ void SectionSet::PushModels(clsCalculate& oDocument) {
   ctlPostageSection.ApplyFeatures(oDocument.m_oPostage, pOutlay);
 }
 
-/// A parcel's insurance band is kept even with a class that can't have it, but the list of bands
-/// doesn't take it from there: so this shows it first, as a parcel.
+/// A parcel's insurance band is kept even with a class that can't have one, but the list of bands
+/// ignores it then: so this shows it first, as a parcel's.
 void SectionSet::ShowKeptInsurance(clsCalculate& oDocument) {
   clsPostage& oPostage = oDocument.m_oPostage;
   if (!oPostage.CanHaveInsurance(oPostage.m_eInsuranceBand)) {

@@ -41,8 +41,8 @@ class SectionSet {
 
   [[nodiscard]] bool IsRefreshing() const { return m_bRefreshing; }
 
-  /// Another fee schedule may be in use: nothing that was taken over from the old one stays, and
-  /// the sections on view are those of the new one.
+  /// Another fee schedule may be in use: drops everything taken from the old one, and has the new
+  /// one's sections on view.
   void FollowSchedule();
 
   /// The sections on view: the sale fees only with a schedule of today's fees.

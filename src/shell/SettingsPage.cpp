@@ -119,7 +119,7 @@ void SettingsPage::ApplyIfOffered() {
   }
 }
 
-/// Enters a text that was typed and not yet left, or corrects it, and stores it as a plain number.
+/// Enters or corrects a text that is still being typed, and stores it as a plain number.
 void SettingsPage::imgApply_Click() {
   m_pTxtSnapToGrid->CommitTyping();
   m_pTxtSnapToGrid->SetValue({});

@@ -15,7 +15,7 @@ class WhatIfOpener : public QObject, private AuctionView {
   Q_OBJECT
 
  public:
-  /// The window belongs to `pOwner`, in which the two views stand. Nothing else is owned.
+  /// The window belongs to `pOwner`, which holds the two views. Nothing else is owned.
   WhatIfOpener(ctlCalculator* pCalculator, ctlWizard* pWizard, QWidget* pOwner);
 
   /// Shows the window, or brings it to the front.

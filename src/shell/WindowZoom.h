@@ -39,8 +39,8 @@ class WindowZoom {
 
   QWidget& m_oWindow;
   std::function<void()> m_fnLayOut;
-  QSize m_oChosenSize;  ///< twips; that of the window when it was last sized but by a zoom
-  QSize m_oZoomedSize;  ///< pixels; that of the window when it was last sized by a zoom
+  QSize m_oChosenSize;  ///< twips; when the window was last sized other than by a zoom
+  QSize m_oZoomedSize;  ///< pixels; when the window was last sized by a zoom
   bool m_bFirstStart = false;
 };
 

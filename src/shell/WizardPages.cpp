@@ -50,7 +50,7 @@ WizardPages::WizardPages(SectionSet& oSet, PageScroller* pViewPort) : m_oSet(oSe
   }
 }
 
-/// A page that comes on view is shown once, since its section then learns the places of its rows.
+/// Shows each newly available page once: only then does its section learn where its rows are.
 void WizardPages::Refresh() {
   const std::vector<WizardPage> aBefore = std::exchange(m_aOnView, {});
   for (const WizardPage& tPage : m_aAll) {

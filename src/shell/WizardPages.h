@@ -1,4 +1,4 @@
-// The pages of the wizard, of which the fee schedule in use decides which are on view.
+// The pages of the wizard; the fee schedule in use decides which of them are on view.
 #pragma once
 
 #include <QStringList>
@@ -27,7 +27,7 @@ class WizardPages {
   /// Puts each section into a frame within `pViewPort`. Neither is owned.
   WizardPages(SectionSet& oSet, PageScroller* pViewPort);
 
-  /// Takes the pages anew that are on view with the fee schedule in use.
+  /// Updates which pages are on view with the fee schedule in use.
   void Refresh();
 
   [[nodiscard]] const std::vector<WizardPage>& OnView() const { return m_aOnView; }

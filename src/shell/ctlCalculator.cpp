@@ -26,7 +26,7 @@ namespace {
 constexpr int kDesignWidth = 12075;
 constexpr int kDesignHeight = 12510;
 
-/// The rule below the summary, which the summary's card ends with.
+/// The rule below the summary, where the summary's card ends.
 constexpr int kLineTop = 1200;
 constexpr int kLineLeft = 120;
 
@@ -129,7 +129,7 @@ void ctlCalculator::RefreshSums(bool bUpdateControlDisplays, clsCalculate* pDocu
   m_oSet.RefreshSums(Document(), bUpdateControlDisplays);
 }
 
-/// A hidden view takes everything else anew when it is shown.
+/// A hidden view updates everything else when it is shown.
 void ctlCalculator::FollowSchedule() {
   m_oSet.FollowSchedule();
   if (isVisible()) {
@@ -193,7 +193,7 @@ void ctlCalculator::Placed() {
   PlaceCards();
 }
 
-/// At the right end of the summary's card: beside the profit, or below it where that has no room.
+/// At the right end of the summary's card: beside the profit, or below it if there is no room.
 void ctlCalculator::PlaceWhatIf() {
   constexpr int kWidth = 1290;
   constexpr int kRightGap = 225;

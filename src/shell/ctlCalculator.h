@@ -37,8 +37,8 @@ class ctlCalculator : public QWidget, public Control {
   /// the working auction.
   void RefreshSums(bool bUpdateControlDisplays, clsCalculate* pDocument = nullptr);
 
-  /// Another fee schedule is in use: shows what it makes of the auction on view, which stays as it
-  /// is.
+  /// Another fee schedule is in use: shows its figures for the auction on view, which doesn't
+  /// change.
   void FollowSchedule();
 
   /// The size, in twips, that holds the summary and all sections but the auction type's, which
@@ -50,7 +50,7 @@ class ctlCalculator : public QWidget, public Control {
 
   [[nodiscard]] SectionSet& Set() { return m_oSet; }
 
-  /// The one on view, or that comes back on view with the calculator.
+  /// The document on view, or that will be on view when the calculator is.
   [[nodiscard]] clsCalculate& Document() const;
 
  signals:

@@ -140,7 +140,7 @@ void ctlWizard::RefreshSums(bool bUpdateControlDisplays) {
   m_oSet.RefreshSums(WorkingAuction(), bUpdateControlDisplays);
 }
 
-/// A hidden view takes everything else anew when it is shown.
+/// A hidden view updates everything else when it is shown.
 void ctlWizard::FollowSchedule() {
   m_oSet.FollowSchedule();
   if (!isVisible()) {

@@ -225,7 +225,7 @@ void frmMain::ShowWizard() {
   m_pRhs->ShowBeginning();
 }
 
-/// Nothing of the old schedule stays, be it in a view that is hidden.
+/// Nothing of the old schedule stays, not even in a hidden view.
 void frmMain::FollowSchedule() {
   for (clsCalculate* const pAuction : {&WorkingAuction(), &DefaultAuction()}) {
     pAuction->m_oSellingFeatures.ForgetPrices();

@@ -38,9 +38,9 @@ namespace {
 constexpr int kDesignWidth = 9600;
 constexpr int kDesignHeight = 12930;
 constexpr int kMargin = 210;
-constexpr int kFocusMargin = 360;  // that the frame leaves around what has the focus
+constexpr int kFocusMargin = 360;  // around what has the focus
 constexpr int kBetween = 165;
-constexpr int kTwoColumns = 15000;  // from here on the table stands beside the other cards
+constexpr int kTwoColumns = 15000;  // from here on the table is beside the other cards
 constexpr int kButtonRow = 420;
 constexpr int kUndoWidth = 960;
 constexpr int kCopyWidth = 1650;
@@ -138,7 +138,7 @@ void frmWhatIf::Open() {
   FocusGoal();
 }
 
-/// Unless that would scroll the first answers away.
+/// Focuses the goal's box, unless that would scroll the first answers away.
 void frmWhatIf::FocusGoal() {
   QLineEdit* const pText = m_pGoal->Box().TextBox();
   const int nBottom = pText->mapTo(&m_pCards->Content(), QPoint(0, pText->height())).y();

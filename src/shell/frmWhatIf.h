@@ -1,5 +1,5 @@
 // The what-if window: what must it sell for, where does the money go, what else could be done. It
-// stands beside the main window and follows the auction there.
+// sits beside the main window and follows the auction there.
 #pragma once
 
 #include <QWidget>
@@ -21,7 +21,7 @@ class MoneyCard;
 class ScrollFrame;
 class TableCard;
 
-/// What the window asks of the one that shows the auction.
+/// What the window needs from the one that shows the auction.
 class AuctionView {
  public:
   virtual ~AuctionView() = default;
@@ -35,7 +35,7 @@ class frmWhatIf : public QWidget {
   Q_OBJECT
 
  public:
-  /// `oView` isn't owned; `pOwner` is the window that it stands beside.
+  /// `oView` isn't owned; `pOwner` is the window that it sits beside.
   frmWhatIf(AuctionView& oView, QWidget* pOwner);
   frmWhatIf(const frmWhatIf&) = delete;
   frmWhatIf& operator=(const frmWhatIf&) = delete;
@@ -47,7 +47,7 @@ class frmWhatIf : public QWidget {
   /// Shows the auction on view as it is now; nothing to do while the window is closed.
   void Follow();
 
-  /// Takes all measures anew, after a change of zoom.
+  /// Updates all sizes after a change of zoom.
   void Rescale();
 
  signals:
@@ -79,7 +79,7 @@ class frmWhatIf : public QWidget {
   Uses m_oUses;
   std::optional<Answers> m_oAnswers;  ///< nothing if the auction can't be calculated
   bool m_bChanging = false;           ///< the auction is being changed from here
-  double m_fZoom = 1;                 ///< that the window has its size for
+  double m_fZoom = 1;                 ///< the one that the window is sized for
   Label* m_pFault;
   ScrollFrame* m_pCards;
   FiguresCard* m_pFigures;

@@ -17,7 +17,7 @@ namespace {
 // Twips.
 constexpr int kRow = 332;
 constexpr int kHeadings = 300;
-constexpr int kName = 2700;  // at least, as far as the figures leave it
+constexpr int kName = 2700;  // at least, if the figures leave room
 constexpr int kLeastFigure = 900;
 constexpr int kMostFigure = 1500;
 constexpr int kInset = 90;  // of the words
@@ -41,7 +41,7 @@ class Headings : public QHeaderView {
   }
 };
 
-/// Each row one line of words; the current one lies on a light ground while the table has the
+/// Each row is one line of text; the current one has a light background while the table has the
 /// focus.
 class RowDelegate : public QStyledItemDelegate {
  public:

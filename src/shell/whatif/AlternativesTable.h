@@ -9,10 +9,10 @@ class AlternativesTable : public QTableView {
  public:
   AlternativesTable(QAbstractItemModel* pModel, QWidget* pParent);
 
-  /// The height of so many rows and the headings, in twips.
+  /// The height of that many rows and the headings, in twips.
   [[nodiscard]] static int HeightOf(int nRows);
 
-  /// Takes fonts and measures anew, after a change of zoom.
+  /// Updates fonts and sizes after a change of zoom.
   void Rescale();
 
  protected:

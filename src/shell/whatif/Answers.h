@@ -1,4 +1,4 @@
-// All that the what-if window tells of an auction.
+// Everything that the what-if window says about an auction.
 #pragma once
 
 #include <optional>
@@ -26,7 +26,7 @@ struct Answers {
   std::vector<Alternative> aoAlternatives;
 };
 
-/// Leaves the auction as it is. What keeps it from being calculated is a Failure.
+/// Leaves the auction as it is. Throws a Failure if it can't be calculated.
 [[nodiscard]] Answers AnswersFor(const clsCalculate& oAuction, const Goal& oGoal);
 
 }  // namespace quillet

@@ -32,7 +32,7 @@ QFont AxisFont() {
   return ThemeFont(kAxisPoints);
 }
 
-/// An amount without decimals, where steps are whole.
+/// An amount, without decimals if steps are whole.
 QString AxisText(double fAmount, double fStep) {
   const char* const sPattern = fStep >= 1 ? "0" : "0.00";
   return QString::fromStdString(CurrencySymbolText() + FormatNumber(fAmount, sPattern));
@@ -139,7 +139,7 @@ void CurveCard::PaintGrid(QPainter& oPainter, const CurveScale& oScale) const {
   }
 }
 
-/// The amounts below the plot, as many as have room.
+/// The amounts below the plot, as many as fit.
 void CurveCard::PaintPrices(QPainter& oPainter, const CurveScale& oScale) const {
   constexpr double kRoom = 1.7;  // of the widest amount's width
   constexpr int kMostSteps = 8;
@@ -170,7 +170,7 @@ void CurveCard::PaintLine(QPainter& oPainter, const CurveScale& oScale) const {
   oPainter.drawPolyline(oLine);
 }
 
-/// A jump of a few cents would be lost in the line's width: a stroke across tells of each.
+/// A jump of a few cents would be lost in the line's width: a stroke across marks each.
 void CurveCard::PaintJumps(QPainter& oPainter, const CurveScale& oScale) const {
   constexpr double kHalf = 4.0;
   constexpr double kLeastApart = 3.0;
@@ -203,7 +203,7 @@ void CurveCard::PaintBreakEven(QPainter& oPainter, const CurveScale& oScale) con
             sLabel, InkColour(Ink::Text));
 }
 
-/// Its price stands below the line at the right, or above it at the left where there is no room.
+/// Its price is below the line at the right, or above it at the left if there is no room.
 void CurveCard::PaintToday(QPainter& oPainter, const CurveScale& oScale) const {
   const double fPrice = m_fToday * 100;
   if (fPrice < 0 || fPrice > oScale.LastPrice()) {

@@ -16,11 +16,11 @@ class CurveCard : public TitledCard {
  public:
   using ProfitAt = std::function<Single(Cents nPrice)>;
 
-  /// `fnProfitAt` works out what the read-out tells; a Failure of it leaves the read-out away.
+  /// `fnProfitAt` works out what the read-out says; if it throws a Failure, there is no read-out.
   CurveCard(ProfitAt fnProfitAt, QWidget* pParent);
   void Show(const Answers& oAnswers);
 
-  /// What stands beside the title; empty without a read-out.
+  /// The text beside the title; empty without a read-out.
   [[nodiscard]] QString ReadOut() const;
 
  protected:

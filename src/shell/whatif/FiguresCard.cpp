@@ -48,7 +48,7 @@ void FiguresCard::Show(const Answers& oAnswers) {
   update();
 }
 
-/// Row by row as many as their least widths let in, each row spread over the whole width.
+/// As many in a row as fit at their least widths, each row spread over the whole width.
 std::vector<QRect> FiguresCard::Places(const QRect& oContent) const {
   std::vector<QRect> aoPlaces;
   int nTop = oContent.top();

@@ -20,7 +20,7 @@ class FiguresCard : public TitledCard {
  private:
   struct Figure {
     const char* sCaption;
-    int nWidth;  ///< twips that it has at least, whatever the figure
+    int nWidth;  ///< the least, in twips, whatever the figure
     QString sValue;
     QColor oColour;
   };

@@ -75,7 +75,7 @@ GoalCard::GoalCard(QWidget* pParent)
   });
 }
 
-/// The number stays, whatever it is a number of.
+/// The number stays, though it means something else now.
 void GoalCard::ChangeKind() {
   constexpr std::array kKindsInOrder = {GoalKind::Profit, GoalKind::PercentOfCost,
                                         GoalKind::PercentOfPrice};
@@ -141,7 +141,7 @@ void GoalCard::PaintContent(QPainter& oPainter) {
   }
 }
 
-/// Leaves the key for undoing to the window unless something was typed that isn't entered yet.
+/// Leaves the undo key to the window unless the box holds text that isn't entered yet.
 bool GoalCard::eventFilter(QObject* pWatched, QEvent* pEvent) {
   if (pEvent->type() == QEvent::ShortcutOverride && pWatched == m_pBox->TextBox() &&
       static_cast<QKeyEvent*>(pEvent)->matches(QKeySequence::Undo) &&

@@ -107,7 +107,7 @@ void MoneyCard::PaintBar(QPainter& oPainter, const QRectF& oBar) const {
   }
 }
 
-/// What the income doesn't reach is dimmed behind a mark.
+/// What the income doesn't cover is dimmed, behind a mark.
 void MoneyCard::PaintEndOfIncome(QPainter& oPainter, const QRectF& oBar) const {
   if (m_fIncome >= 1) {
     return;

@@ -1,4 +1,4 @@
-// Where the money goes: one bar, and the legend that is its table.
+// Where the money goes: one bar, and its legend as a table.
 #pragma once
 
 #include <vector>

@@ -17,7 +17,7 @@ TableCard::TableCard(QWidget* pParent)
   connect(m_pTable, &QAbstractItemView::activated, this, [this](const QModelIndex& oIndex) {
     const Alternative& oRow = m_pModel->At(oIndex.row());
     if (oRow.eKind != AlternativeKind::AsItIs) {
-      emit UseClicked(Change(oRow.oChange));  // a copy, since the rows change by it
+      emit UseClicked(Change(oRow.oChange));  // a copy, since using it changes the rows
     }
   });
   connect(m_pTable->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
@@ -53,7 +53,7 @@ void TableCard::resizeEvent(QResizeEvent* pEvent) {
   PlaceTable();
 }
 
-/// The marks of rows reach a little beyond the words, which stand as those of other cards.
+/// Row marks reach a little beyond the text, which lines up with that of other cards.
 void TableCard::PlaceTable() {
   constexpr int kBeyond = 90;
   constexpr int kUp = 90;

@@ -1,4 +1,4 @@
-// The ways to do otherwise, side by side.
+// The alternatives, side by side.
 #pragma once
 
 #include <vector>
@@ -21,7 +21,7 @@ class TableCard : public TitledCard {
   /// Makes the auction as it is the current row.
   void GoToAsItIs();
 
-  /// Takes fonts and row heights anew, after a change of zoom.
+  /// Updates fonts and row heights after a change of zoom.
   void Rescale();
 
  signals:

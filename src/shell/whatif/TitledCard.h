@@ -1,4 +1,4 @@
-// A card of the what-if window: a panel with a title, and below it what the card tells.
+// A card of the what-if window: a panel with a title, and its content below.
 #pragma once
 
 #include <QString>
@@ -22,7 +22,7 @@ class TitledCard : public QWidget {
   [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
-  /// What the content needs at a width, in twips as all of it.
+  /// The height that the content needs at a width, both in twips.
   [[nodiscard]] virtual int ContentHeight(int nWidth) const = 0;
   virtual void PaintContent(QPainter& /*oPainter*/) {}
 
@@ -31,7 +31,7 @@ class TitledCard : public QWidget {
   /// The same in twips.
   [[nodiscard]] QRect ContentTwips() const;
 
-  /// Where the title stands, up to the content's right end, in pixels.
+  /// The title's place, up to the content's right end, in pixels.
   [[nodiscard]] QRect TitleRow() const;
 
   void paintEvent(QPaintEvent* pEvent) final;
@@ -42,7 +42,7 @@ class TitledCard : public QWidget {
   QString m_sTitle;
 };
 
-/// Words in a place, made smaller where they would be too wide for it.
+/// Text in a place, made smaller if it is too wide for it.
 void DrawFitted(QPainter& oPainter, const QRectF& oPlace, const QString& sWords, QFont oFont,
                 const QColor& oColour, int nAcross = Qt::AlignLeft);
 

@@ -1,4 +1,4 @@
-// What the what-if window has done to the auction on view, to be taken back.
+// Undoes what the what-if window has done to the auction on view.
 #pragma once
 
 #include <memory>
@@ -9,7 +9,7 @@
 
 namespace quillet {
 
-/// The latest use goes first, for as long as nothing else has changed the auction since.
+/// Undoes the latest use first, as long as nothing else has changed the auction since.
 class Uses {
  public:
   /// Writes a change into an auction, which must outlive this. The caller shows it, and then says
@@ -24,8 +24,8 @@ class Uses {
 
   [[nodiscard]] bool CanUndo() const { return !m_apKept.empty(); }
 
-  /// Puts the auction's inputs back to the digit, as before the latest use. What was saved in
-  /// between counts as changed then. The caller shows it, and then says that it is Done.
+  /// Restores the auction's inputs exactly as before the latest use. If it was saved in between, it
+  /// counts as changed. The caller shows it, and then says that it is Done.
   void Undo();
 
  private:

@@ -1,4 +1,4 @@
-// What the window tells, as text that a spreadsheet takes.
+// What the window shows, as text for a spreadsheet.
 #pragma once
 
 #include <QString>

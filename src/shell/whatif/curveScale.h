@@ -1,4 +1,4 @@
-// How the curve's prices and profits lie on its plot.
+// Where the curve's prices and profits are on its plot.
 #pragma once
 
 #include <QPointF>
@@ -9,11 +9,11 @@
 
 namespace quillet {
 
-/// 1, 2 or 5 times a power of ten, so that a range holds no more than so many steps.
+/// 1, 2 or 5 times a power of ten, so that a range holds no more than that many steps.
 [[nodiscard]] double RoundStep(double fRange, int nMostSteps);
 
-/// From the plot's left to its right lie the curve's prices, in cents; from its bottom to its top
-/// whole steps of profit that hold all of the curve, and 0.
+/// The plot shows the curve's prices, in cents, from left to right, and from bottom to top whole
+/// steps of profit that hold all of the curve, and 0.
 class CurveScale {
  public:
   CurveScale(const std::vector<CurvePoint>& aoPoints, const QRectF& oPlot);

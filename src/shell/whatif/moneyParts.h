@@ -17,11 +17,11 @@ struct ShownPart {
   bool bProfit = false;
 };
 
-/// What the bar is long for: all that the buyer pays, or all costs if they are more.
+/// What the whole bar stands for: all that the buyer pays, or all costs if they are more.
 [[nodiscard]] double BarLength(const Breakdown& oBreakdown);
 
-/// In the breakdown's order, without what comes to nothing, but always with the profit. Insertion
-/// and features are one part.
+/// In the breakdown's order, without parts of 0, but always with the profit. Insertion and features
+/// are one part.
 [[nodiscard]] std::vector<ShownPart> ShownParts(const Breakdown& oBreakdown);
 
 /// A share in percent, rounded: "27 %".
