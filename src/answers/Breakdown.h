@@ -46,7 +46,7 @@ struct Breakdown {
 /// instead.
 [[nodiscard]] Breakdown BreakDown(const clsCalculate& oAuction);
 
-/// All that the buyer would pay at a price for one item.
+/// All that the buyer would pay at that price for each item.
 [[nodiscard]] double IncomeAt(const clsCalculate& oAuction, Single fPrice);
 
 }  // namespace quillet

@@ -6,7 +6,7 @@
 namespace quillet {
 namespace {
 
-/// What the sections see to after any change: only real estate is binding, and what isn't on offer
+/// What the sections ensure after any change: only real estate is binding, and what isn't on offer
 /// doesn't stay chosen.
 void Settle(clsCalculate& oAuction) {
   clsAuctionType& oType = oAuction.m_oAuctionType;

@@ -1,4 +1,4 @@
-// What a seller might change in an auction, each as the same choice by hand would do it.
+// What a seller might change in an auction, each with the same effect as making it by hand.
 #pragma once
 
 #include <cstdint>
@@ -10,8 +10,8 @@
 namespace quillet {
 
 /// Writes one choice into an auction's inputs, with all that goes with it, and marks them dirty.
-/// The totals stay until the next DoCalc. Another listing or other features are a Failure where the
-/// schedule lacks what their prices are looked up in.
+/// The totals stay until the next DoCalc. Changing the listing or the features throws a Failure if
+/// the schedule lacks a tier table for their prices.
 using Change = std::function<void(clsCalculate& oAuction)>;
 
 [[nodiscard]] Change NoChange();
@@ -21,9 +21,9 @@ using Change = std::function<void(clsCalculate& oAuction)>;
 
 // Another listing also drops the features that it can't have.
 
-[[nodiscard]] Change ListAsAuction();  ///< of the kind that it is, neither fixed price nor shop
+[[nodiscard]] Change ListAsAuction();  ///< of its present kind, neither fixed price nor shop
 [[nodiscard]] Change ListAtFixedPrice();
-[[nodiscard]] Change ListInShop(std::int32_t eShopDuration);  ///< kShopNone: to be chosen yet
+[[nodiscard]] Change ListInShop(std::int32_t eShopDuration);  ///< kShopNone: not chosen yet
 [[nodiscard]] Change ListAs(std::int32_t eAuctionType);       ///< the shop takes standard ones only
 /// A refinement of the kind of listing: one of the codes in clsAuctionType.
 [[nodiscard]] Change ListWith(std::int32_t clsAuctionType::*lField, std::int32_t nCode);

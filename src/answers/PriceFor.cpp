@@ -22,9 +22,9 @@ class Search {
 
   [[nodiscard]] const clsCalculate& Latest() const { return m_oTrial.Latest(); }
 
-  /// The lowest price of one piece, `nEnd` excluded; `nEnd` if none does it. The next to try is the
-  /// first that would do it if it cost no more than the one just tried: within a piece, costs never
-  /// fall as the price rises, so all before it fall short.
+  /// The lowest price in a piece, `nEnd` excluded, that meets the goal; `nEnd` if none does. The
+  /// next to try is the first that would meet it at the costs of the one just tried: within a
+  /// piece, costs never fall as the price rises, so all before it fall short.
   [[nodiscard]] Cents LowestIn(Cents nPrice, Cents nEnd) {
     constexpr int kFew = 8;
     constexpr Cents kFarEnough = 10'000;
@@ -50,9 +50,9 @@ class Search {
   }
 
   /// For when those steps are small because fees or the goal take nearly all that a higher price
-  /// brings. A piece is straight or bends upwards, apart from what is rounded in it, so it
-  /// is below the line from the price just tried to the one before `nEnd`. Gives the price where
-  /// that line comes near the goal; `nEnd` if it doesn't.
+  /// brings. A piece is straight or bends upwards, apart from rounding, so it is below the line
+  /// from the price just tried to the one before `nEnd`. Gives the price where that line comes near
+  /// the goal; `nEnd` if it doesn't.
   [[nodiscard]] Cents SkipByChord(Cents nPrice, Cents nEnd) {
     const double fHere = Surplus();
     m_oTrial.AtPrice(nEnd - 1);

@@ -12,14 +12,14 @@ namespace {
 
 using LookedUp = Single (*)(const clsOutlay& oOutlay, Single fPrice);
 
-/// What the engine looks tiers up by, as far as it grows with the price.
+/// The values that the engine looks tiers up by and that grow with the price.
 constexpr std::array<LookedUp, 2> kLookedUp = {
     [](const clsOutlay&, Single fPrice) { return fPrice; },
     [](const clsOutlay& oOutlay, Single fPrice) { return Single(fPrice * oOutlay.m_lQuantity); },
 };
 
-/// Today's tiers are looked up by amounts with postage and tax. Where the prices come to lie that
-/// give such an amount takes a division, so the cents on both sides are added too.
+/// Today's tiers are looked up by amounts with postage and tax. Finding the price that gives such
+/// an amount takes a division, so the cents on both sides are added too.
 class SaleEdges {
  public:
   SaleEdges(const clsCalculate& oAuction, const SaleRates& oRates, std::vector<Cents>& anStarts)
@@ -36,7 +36,7 @@ class SaleEdges {
   }
 
  private:
-  /// A table that is looked up by the amount of one of so many equal parts of the sale, or by the
+  /// A table that is looked up by the amount of one of `fParts` equal parts of the sale, or by the
   /// bare price.
   void AddTable(const SaleTable& oTable, double fParts) {
     const double fPostage =

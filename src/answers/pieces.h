@@ -1,4 +1,4 @@
-// Where, on the scale of prices, fees may jump or turn.
+// The prices at which fees may jump or change their slope.
 #pragma once
 
 #include <vector>
@@ -8,9 +8,9 @@
 
 namespace quillet {
 
-/// The prices of a range at which a tier of the schedule begins or has just ended, after the
-/// range's first price: in order, each once. Between two of them fees grow evenly, apart from
-/// rounding. Reads the postage of the latest DoCalc.
+/// A range's first price, then those at which a tier of the schedule begins or has just ended: in
+/// order, each once. Between two of them fees grow evenly, apart from rounding. Reads the postage
+/// of the latest DoCalc.
 [[nodiscard]] std::vector<Cents> PieceStarts(const clsCalculate& oAuction, Cents nFrom,
                                              Cents nLast);
 

@@ -16,7 +16,7 @@ std::string CostText(Single fCost) {
                               : FormatMoney(std::max<double>(fCost, 0));
 }
 
-/// What goes with the choice: ", without Bold, Border and Feature Plus".
+/// The features that the choice drops: ", without Bold, Border and Feature Plus".
 std::string DroppedText(const clsSellingFeatures& oBefore, const clsSellingFeatures& oAfter,
                         std::int32_t lClicked) {
   std::string sDropped;

@@ -15,7 +15,7 @@ namespace quillet {
 class clsSaleFees;
 
 // The values of these codes are stored in auction files. Fields hold them as numbers, since a file
-// may hold others too; a code outside the list takes no part in any fee.
+// may hold others too; a code outside the list affects no fee.
 
 enum eAuctionType : std::int32_t {
   kAuctionStandard = 0,
@@ -63,8 +63,8 @@ class clsAuctionType {
   /// Resets everything but m_bDirty.
   void Clear() { MakeFresh(*this); }
 
-  /// Whether the seller may choose a kind of listing, or a vehicle of eMotorType. With today's fees
-  /// not if the schedule gives no price or one below 0; with those of 2007 always.
+  /// Whether the seller may choose a kind of listing, or a vehicle of eMotorType: always with the
+  /// fees of 2007; with today's, not if its price is missing or below 0.
   [[nodiscard]] static bool IsOnOffer(std::int32_t eAuctionType);
   [[nodiscard]] static bool IsVehicleOnOffer(std::int32_t eMotorType);
 
@@ -75,7 +75,7 @@ class clsAuctionType {
   /// True unless it is a vehicle or real estate: those pay none of today's sale fees.
   [[nodiscard]] bool PaysSaleFees() const;
 
-  /// The same, by what the latest DoCalc of the auction went by.
+  /// The same, but false unless the auction's latest DoCalc was by a schedule of today's fees.
   [[nodiscard]] bool HasPaidSaleFees() const { return m_oSaleFees != nullptr && PaysSaleFees(); }
 
   /// A shop's inventory has a fixed price too.

@@ -1,6 +1,6 @@
 // The rules of clsAuctionType by a schedule of today's fees: one insertion fee by category, and a
-// reserve fee that may be due whether the item sells or not. Vehicles and real estate keep their
-// own, as far as the schedule prices them.
+// reserve fee that may be due whether the item sells or not. By the rules of 2007, and if the
+// schedule has the prices, vehicles pay an insertion fee alone and real estate all its fees.
 #include <algorithm>
 #include <array>
 
@@ -58,7 +58,7 @@ Single clsAuctionType::DoCalcReserveFee_Today(const clsOutlay& oOutlay) const {
                            : ReserveFee_UK(oOutlay.m_fReservePrice);
 }
 
-/// What the sale itself costs is clsSaleFees' business.
+/// The fees of the sale itself are in clsSaleFees.
 Single clsAuctionType::DoCalcFinalValueFee_Today(const clsOutlay& oOutlay) const {
   return m_eAuctionType == kAuctionRealEstate ? DoCalcFinalValueFee_2007(oOutlay) : Single(0);
 }

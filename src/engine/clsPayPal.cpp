@@ -116,7 +116,7 @@ std::string clsPayPal::GetBusinessRateBandAttribute(std::int32_t nAttribute,
   return std::string(sData);
 }
 
-/// Of the chosen band. It is this that selects the tier of a rate, not the amount.
+/// Of the chosen band. This selects the tier of a rate, not the amount.
 Single clsPayPal::BandValue() const {
   std::int32_t nBand = 0;
   Single fValue;

@@ -8,8 +8,8 @@
 namespace quillet {
 namespace {
 
-/// Sums and products of these are exact. Doubles would make less than 2.675 of 10 % of 26.75, and
-/// round it down.
+/// Sums and products of these are exact. With doubles, 10 % of 26.75 would be less than 2.675 and
+/// be rounded down.
 __extension__ using Wide = __int128;
 
 constexpr std::int64_t kWhole = 1'000'000;     // a Rate of 100 %, and a cent as FineAmount
@@ -32,7 +32,7 @@ std::int64_t Rounded(Wide nDividend, Wide nDivisor) {
 }
 
 /// The sum of several equal amounts: of the items sold, or of the orders. It needn't divide evenly,
-/// as tiers are multiplied instead.
+/// since tiers are multiplied instead.
 struct Lot {
   Wide nAmount = 0;  ///< as FineAmount
   std::int64_t nCount = 1;
@@ -50,7 +50,7 @@ struct Lot {
     return oTier.IsEndless() ? nAmount : Wide{oTier.nEnd} * nCount;
   }
 
-  /// Each tier's rate on what lies in it.
+  /// Each tier's rate on the part of the amount that is in it.
   [[nodiscard]] Wide PartsIn(const SaleTable& oTable) const {
     Wide nSum = 0;
     for (const SaleTier& oTier : oTable.aoTiers) {
@@ -61,13 +61,13 @@ struct Lot {
   }
 };
 
-/// All that is sold, and what is taken of it. Sums are amounts times rates.
+/// All that is sold, and the fees on it. Sums are amounts times rates.
 class Sale {
  public:
   Sale(const SaleRates& oRates, const SaleInputs& oInputs, const clsOutlay& oOutlay,
        double fPostage) {
     const double fPrices = oOutlay.m_fEstimatedEndPrice * oOutlay.m_lQuantity;
-    (void)CentsOf(fPrices);  // that they can be calculated with
+    (void)CentsOf(fPrices);  // throws if they are too large
     const std::int64_t nPrices = CentsOf(oOutlay.m_fEstimatedEndPrice) * oOutlay.m_lQuantity;
     const std::int64_t nCents = nPrices + (oRates.bWithPostage ? CentsOf(fPostage) : 0);
     const Rate nTax = oRates.bWithTax ? RateOf(oInputs.fBuyerTax) : 0;
@@ -96,8 +96,8 @@ class Sale {
   Lot m_oBareItems;  ///< their prices alone
 };
 
-/// What is billed for an order is rounded as a whole. So a part is what it adds to the rounded sum
-/// of those before it: it is within a cent of its own figure, and all add up to the bill. The order
+/// The bill for an order is rounded as a whole. So each part is what it adds to the rounded sum of
+/// those before it: it is within a cent of its own figure, and all add up to the bill. The order
 /// fee, which is in whole cents, comes first.
 class Bill {
  public:

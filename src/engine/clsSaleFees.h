@@ -1,4 +1,4 @@
-// What eBay takes of a sale by a schedule of today's fees.
+// What eBay charges for a sale by a schedule of today's fees.
 #pragma once
 
 #include <cstdint>
@@ -11,9 +11,9 @@
 
 namespace quillet {
 
-/// What the seller enters. It stands in auction files.
+/// What the seller enters. It is stored in auction files.
 struct SaleInputs {
-  std::int32_t nCategory = 1;  ///< of the schedule, from 1; one that it lacks costs nothing
+  std::int32_t nCategory = 1;  ///< of the schedule, from 1; one that it lacks has no fee
   Single fBuyerTax;            ///< percent, on price and postage
   Single fAdvertising;         ///< percent; 0 without advertising
   std::int32_t lExtras = 0;    ///< bit i - 1 for the schedule's extra i
@@ -35,13 +35,13 @@ struct SaleParts {
 
 class clsSaleFees {
  public:
-  /// The fees on all that is sold in so many orders, with the cost of the postage and the profit on
-  /// it. 0 for real estate and vehicles, and if nothing is sold or paid. A tier table that the
-  /// schedule lacks is a Failure, and so is an amount beyond a hundred trillion.
+  /// The fees on all that is sold in `lOrders` orders, with the cost of the postage and the profit
+  /// on it. 0 for real estate and vehicles, and if nothing is sold or paid. Throws a Failure for a
+  /// tier table that the schedule lacks, or an amount beyond a hundred trillion.
   [[nodiscard]] Single DoCalc(const SaleRates& oRates, const clsAuctionType& oAuctionType,
                               const clsOutlay& oOutlay, std::int32_t lOrders, double fPostage);
 
-  /// What the latest DoCalc gave, in all and by its parts.
+  /// The result of the latest DoCalc, and its parts.
   [[nodiscard]] Single LastFee() const { return m_fLastFee; }
   [[nodiscard]] const SaleParts& LastParts() const { return m_oLastParts; }
 

@@ -135,8 +135,8 @@ Single clsSellingFeatures::DoCalc(const clsAuctionType* oAuctionType, const clsO
   return fSum;
 }
 
-/// A feature that isn't on offer costs nothing by today's schedules. By those of 2007 its price
-/// below 0 counts like any other.
+/// A feature that isn't on offer costs nothing by today's schedules. By those of 2007 a price below
+/// 0 counts like any other.
 Single clsSellingFeatures::Charged(Single fPrice) const {
   return HasFeesOfToday() ? Single(std::max<double>(0, fPrice)) : fPrice;
 }
@@ -154,7 +154,8 @@ const clsAuctionType& clsSellingFeatures::AuctionType() const {
   return *m_oAuctionType;
 }
 
-/// The one that prices are looked up with. Today's depend neither on it nor on the kind of listing.
+/// The one that prices are looked up with. Today's prices don't depend on it or the kind of
+/// listing.
 std::int32_t clsSellingFeatures::Duration() const {
   return HasFeesOfToday() ? std::int32_t{kShopNone} : AuctionType().m_eShopDuration;
 }
@@ -205,7 +206,7 @@ void clsSellingFeatures::RefreshPrices(FeatureListing eListing, std::int32_t nSh
   }
 }
 
-/// Today its price may go by that of the listing: the starting price, or the fixed one.
+/// Today its price may depend on that of the listing: the starting price, or the fixed one.
 void clsSellingFeatures::RefreshSubtitle() {
   const bool bFixed = AuctionType().HasFixedPrice();
   const KeyText oTable = bFixed ? KeyText("FixedFeatureItemSubtitle") : "FeatureItemSubtitle";
@@ -220,8 +221,8 @@ void clsSellingFeatures::RefreshSubtitle() {
   }
 }
 
-/// By the hoped-for price in the United States, in 2007. The tiers never carry a shop's duration,
-/// unlike the flat price.
+/// In the United States, in 2007, by the hoped-for price. The keys of the tiers never have a shop's
+/// duration, unlike that of the flat price.
 Single clsSellingFeatures::GetBuyItNowFee() const {
   if (RegionCode() != 1 || m_oLastOutlay == nullptr || HasFeesOfToday()) {
     return m_fBuyItNow;

@@ -5,7 +5,7 @@ namespace {
 
 using F = clsSellingFeatures;
 
-/// To today's fees a shop's listing is like any other.
+/// With today's fees a shop's listing is like any other.
 bool IsNotShop(const clsAuctionType& oType) {
   return !oType.m_bShopInventory || oType.m_oSaleFees != nullptr;
 }

@@ -10,8 +10,8 @@ namespace quillet {
 /// A feature is on offer if its price isn't below 0 and the listing is of the right kind.
 struct FeatureOffer {
   eFeature eBit;
-  Single clsSellingFeatures::*fPrice;       ///< null where the price has no say
-  bool (*fnAllows)(const clsAuctionType&);  ///< null where any listing will do
+  Single clsSellingFeatures::*fPrice;       ///< null if the price doesn't matter
+  bool (*fnAllows)(const clsAuctionType&);  ///< null if any listing will do
 
   /// At the prices of the latest DoCalc.
   [[nodiscard]] bool Holds(const clsSellingFeatures& oFeatures, const clsAuctionType& oType) const {
@@ -20,13 +20,12 @@ struct FeatureOffer {
   }
 };
 
-/// A feature without a line is always on offer. One that any of its lines speaks against can't be
-/// chosen; its box is grey if the last of them does. So the second category's box is open in a
-/// shop's listing but can't stay ticked, and so is that of a listing item without a price for a
-/// vehicle.
+/// A feature without a line is always on offer. One with lines can be chosen only if all of them
+/// hold; its box is grey if the last one doesn't. So the second category's box is open in a shop's
+/// listing but can't stay ticked, and so is a vehicle's listing item without a price.
 extern const std::array<FeatureOffer, 15> kFeatureOffers;
 
-/// Takes out what the listing can't have at the prices of the latest DoCalc.
+/// Removes what the listing can't have at the prices of the latest DoCalc.
 void DropWhatIsNotOnOffer(clsSellingFeatures& oFeatures, const clsAuctionType& oType);
 
 }  // namespace quillet

@@ -1,11 +1,11 @@
-// The fresh state of a model: that of an object that nobody has touched.
+// The fresh state of a model: that of a new object.
 #pragma once
 
 #include <string>
 
 namespace quillet {
 
-/// Gives a model the fresh values of what stands in its text (docs/auction-file.md). Its other
+/// Gives a model the fresh values of all that is in its text (docs/auction-file.md). Its other
 /// fields stay.
 template <typename Model>
 void MakeFresh(Model& oModel) {

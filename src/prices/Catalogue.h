@@ -15,7 +15,7 @@ namespace quillet {
 enum class FeeModel : unsigned { Of2007 = 1, OfToday = 2 };
 
 enum class KeyKind {
-  OptionalText,  ///< nothing is missed without it
+  OptionalText,  ///< it may be missing
   Text,
   OptionalNumber,
   Number,
@@ -57,8 +57,8 @@ class Catalogue {
   /// A region's, made on first use.
   [[nodiscard]] static const Catalogue& Of(std::int32_t nRegion);
 
-  /// Those of both models. The keys of the categories and surcharges, which are numbered, and of
-  /// tables that take another's place aren't among them.
+  /// Those of both models, but not the numbered keys of categories and surcharges, nor those of
+  /// tables that replace another.
   [[nodiscard]] const std::vector<CatalogueKey>& Keys() const { return m_aoKeys; }
 
   /// True for a key of the catalogue, and for a key of any of its tables. Case doesn't matter.

@@ -31,7 +31,7 @@ class Reader {
     return oRates;
   }
 
-  /// A whole number; 0 if it is none.
+  /// A whole number; 0 if the text isn't one.
   [[nodiscard]] std::int16_t Count(const KeyText& oKey) const {
     return ToInteger(Text(oKey)).value_or(0);
   }

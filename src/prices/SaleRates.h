@@ -1,5 +1,4 @@
-// What a sale costs by a schedule of today's fees (docs/update-file.md), made ready to calculate
-// with.
+// What a sale costs by a schedule of today's fees (docs/update-file.md), ready to calculate with.
 #pragma once
 
 #include <cstdint>
@@ -12,8 +11,8 @@
 
 namespace quillet {
 
-// Rates and amounts are whole numbers here, so that a half of a cent is one: no float is exactly
-// 13.6, and no double exactly 0.136.
+// Rates and amounts are whole numbers here, so that half a cent is exact: no float is exactly 13.6,
+// and no double exactly 0.136.
 
 /// Millionths: 13.6 % is 136'000.
 using Rate = std::int64_t;
@@ -42,12 +41,12 @@ struct SaleTable {
   std::vector<SaleTier> aoTiers;  ///< up to the first that lacks a number
 };
 
-/// A table and the one that takes its place for who has a shop, if the schedule has such a one.
+/// A table, and the one that replaces it for a shop's listing, if the schedule has one.
 struct SaleTables {
   SaleTable oPlain;
   SaleTable oShop;
 
-  /// A Failure if it isn't there.
+  /// Throws a Failure if the table is missing.
   [[nodiscard]] const SaleTable& For(bool bShop) const;
 };
 
@@ -71,7 +70,7 @@ struct SaleRates {
   /// As many extras as an auction has bits for.
   static constexpr std::int16_t kMostExtras = 31;
 
-  /// Null if there is none of that number, from 1.
+  /// Counted from 1; null if there is no such category.
   [[nodiscard]] const SaleCategory* Category(std::int32_t nCategory) const;
 
   std::vector<SaleCategory> aoCategories;  ///< up to the first without a tier table

@@ -46,7 +46,7 @@ class SaleCheck {
     return pEntry;
   }
 
-  /// 0 if it is missing, which the catalogue tells, or out of bounds.
+  /// 0 if it is missing, which the catalogue's check reports, or out of bounds.
   std::int32_t AskCount(const std::string& sKey, std::int32_t nLeast, std::int32_t nMost) {
     const ScheduleEntry* const pEntry = m_oSchedule.Ask(sKey);
     if (pEntry == nullptr) {

@@ -52,7 +52,7 @@ void CheckKeys(Schedule& oSchedule, const Catalogue& oCatalogue) {
   }
 }
 
-/// True if most keys that only one of the two editions asks for are the other one's.
+/// True if most keys that only one of the two editions looks up are the other one's.
 bool IsOfTheOtherEdition(Schedule& oSchedule, const Catalogue& oCatalogue) {
   const Catalogue& oOther = Catalogue::Of(RegionCode() == 1 ? 0 : 1);
   int nLead = 0;

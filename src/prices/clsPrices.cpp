@@ -148,7 +148,7 @@ void clsPrices::LoadUsersCopy(const std::string& sPath, int nAttempts) {
   }
 }
 
-/// The choice ends with its file.
+/// A choice whose file can't be used is dropped.
 void clsPrices::LoadDefaultInstead(const std::string& sReason) {
   ShowMessage("The fee schedule that you chose, " + UpdateFileName(true) + ", can't be used:\n\n" +
                   sReason + "\n\n" + EditionName() + " now uses the fees that it came with.",

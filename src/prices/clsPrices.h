@@ -82,7 +82,7 @@ class clsPrices {
 
   [[nodiscard]] const PriceTable& Table() const { return m_oTable; }
 
-  /// What keeps some sale from being priced, as LoadUpdateFile found it.
+  /// Why some sale can't be priced, as LoadUpdateFile found.
   [[nodiscard]] const std::optional<Finding>& MissingPrice() const { return m_oMissingPrice; }
 
  private:

@@ -1,4 +1,4 @@
-// Whether a fee schedule from elsewhere may take the place of another.
+// Whether a fee schedule from elsewhere may replace another.
 #pragma once
 
 #include <string>

@@ -32,14 +32,14 @@ std::set<std::string> FilesOnOffer() {
   return asFiles;
 }
 
-/// The user's copy, unless using it would replace it.
+/// The user's copy, unless the program's file would replace it.
 std::string PathOfFile(const std::string& sFile) {
   const std::string sShipped = TheHost().ProgramFolder() + NativePath("\\" + sFile);
   const std::string sOwn = TheHost().DataFolder() + NativePath("\\" + sFile);
   return WantsSeed(sShipped, sOwn) ? sShipped : sOwn;
 }
 
-/// What stands before a fault is read all the same.
+/// What comes before a fault is still read.
 OfferedSchedule ReadOffered(const std::string& sFile) {
   OfferedSchedule oOffered{sFile, PathOfFile(sFile), sFile, {}, {}};
   std::string sText;
@@ -62,7 +62,7 @@ OfferedSchedule ReadOffered(const std::string& sFile) {
   return oOffered;
 }
 
-bool StandsBefore(const OfferedSchedule& oLeft, const OfferedSchedule& oRight) {
+bool ComesBefore(const OfferedSchedule& oLeft, const OfferedSchedule& oRight) {
   const std::string sDefault = DefaultUpdateFileName();
   if (const auto eOrder = oLeft.oDate <=> oRight.oDate; std::is_neq(eOrder)) {
     return std::is_gt(eOrder);
@@ -78,7 +78,7 @@ std::vector<OfferedSchedule> SchedulesOnOffer() {
   for (const std::string& sFile : FilesOnOffer()) {
     aoOffered.push_back(ReadOffered(sFile));
   }
-  std::sort(aoOffered.begin(), aoOffered.end(), StandsBefore);
+  std::sort(aoOffered.begin(), aoOffered.end(), ComesBefore);
   std::set<std::string> asTaken;
   for (OfferedSchedule& oOffered : aoOffered) {
     if (!asTaken.insert(UpperCase(oOffered.sName)).second) {

@@ -37,7 +37,7 @@ int NumberOf(std::string_view sWord, std::size_t nDigits) {
   return bNumber ? ToInteger(sWord).value_or(0) : 0;
 }
 
-/// From 1; 0 if the word is no month.
+/// From 1; 0 if the word isn't a month.
 int MonthNamed(std::string_view sWord) {
   const auto* const pMonth =
       std::find_if(kMonths.begin(), kMonths.end(),
@@ -45,13 +45,13 @@ int MonthNamed(std::string_view sWord) {
   return pMonth == kMonths.end() ? 0 : static_cast<int>(pMonth - kMonths.begin()) + 1;
 }
 
-/// From 1; 0 if the word is no month, by its name or, behind a year, by its number.
+/// From 1; 0 if the word isn't a month's name or, after a year, its number.
 int MonthOf(std::string_view sWord, bool bBehindYear) {
   const int nNumber = bBehindYear ? NumberOf(sWord, kDigitsOfMonth) : 0;
   return nNumber <= static_cast<int>(kMonths.size()) ? std::max(nNumber, MonthNamed(sWord)) : 0;
 }
 
-/// The first year and the first month; without words.
+/// The first year and the first month; sWords stays empty.
 ScheduleDate DateIn(std::string_view sText) {
   ScheduleDate oDate;
   std::string_view sWord;
@@ -69,7 +69,7 @@ std::string WordsOf(const ScheduleDate& oDate) {
              : std::string(kMonths.at(static_cast<std::size_t>(oDate.nMonth) - 1)) + " " + sYear;
 }
 
-/// What the first heading that has it says behind "As of".
+/// What follows "As of" in the first heading that has it.
 std::string_view AsOf(std::string_view sText) {
   constexpr std::string_view kMark = "As of ";
   std::string_view sLine;

@@ -7,7 +7,7 @@
 
 namespace quillet {
 
-/// Later ones are greater; days have no say, and one that isn't known is the least.
+/// Later ones are greater, by year and month alone; an unknown one is the least.
 struct ScheduleDate {
   int nYear = 0;       ///< 0 if it isn't known
   int nMonth = 0;      ///< from 1; 0 if only the year is known
@@ -16,8 +16,8 @@ struct ScheduleDate {
   [[nodiscard]] std::weak_ordering operator<=>(const ScheduleDate& oOther) const;
 };
 
-/// What the first heading of a schedule's text says behind "As of", up to the next point; else the
-/// year and month in the name of its file.
+/// What follows "As of" in the first heading of a schedule's text that has it, up to the next
+/// point; else the year and month in its file name.
 [[nodiscard]] ScheduleDate DateOf(std::string_view sText, std::string_view sFile);
 
 }  // namespace quillet
