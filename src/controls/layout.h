@@ -17,7 +17,7 @@ Kind* Make(const char* sName, Arguments&&... oArguments) {
   return pControl;
 }
 
-/// Gives a control its words; it goes by its caption, without the mark of its access key.
+/// Gives a control a tooltip and a caption, which without its "&" is the accessible name too.
 inline void Describe(Control& oControl, const char* sCaption, const char* sToolTip = "") {
   oControl.SetCaption(sCaption);
   oControl.Widget().setToolTip(sToolTip);

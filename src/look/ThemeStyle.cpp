@@ -134,7 +134,7 @@ void DrawMarkedButton(QPainter& oPainter, const QStyleOptionButton& oButton, boo
             oButton.palette.color(QPalette::WindowText), Qt::TextShowMnemonic);
 }
 
-/// Of items of which one is chosen, that one has a tick.
+/// Marks the chosen one of several items.
 void DrawTickOfItem(QPainter& oPainter, const QStyleOptionMenuItem& oItem) {
   const bool bSelected = (oItem.state & QStyle::State_Selected) != 0;
   const double fSize = Pixels(kTwipsOfTick);

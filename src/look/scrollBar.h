@@ -10,7 +10,7 @@ namespace quillet {
 /// The place of a part: the thumb, the track on either side of it, or the whole.
 [[nodiscard]] QRect PartOfScrollBar(const QStyleOptionSlider& oBar, QStyle::SubControl ePart);
 
-/// Nothing but its ground where there is nothing to scroll.
+/// Only its background if there is nothing to scroll.
 void DrawScrollBar(QPainter& oPainter, const QStyleOptionSlider& oBar);
 
 }  // namespace quillet

@@ -42,8 +42,8 @@ class AuctionOptionsPanel : public SectionPanel {
   /// `oOptions` must live as long as the panel.
   AuctionOptionsPanel(const AuctionOptions& oOptions, QWidget* pParent);
 
-  /// Shows a listing, and writes into it from then on. It must outlive the panel. An input whose
-  /// value changes by it writes into the listing at once and raises Changed.
+  /// Shows a listing, and writes into it from then on. It must outlive the panel. An input that
+  /// this changes writes into the listing at once and raises Changed.
   void ApplyAuctionType(clsAuctionType& oAuctionType);
 
  protected:

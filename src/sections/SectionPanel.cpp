@@ -150,7 +150,7 @@ bool SectionPanel::event(QEvent* pEvent) {
          QWidget::event(pEvent);
 }
 
-/// Who uses no pointer has the tooltips by the key of What's This.
+/// The key of What's This shows the tooltips without a pointer.
 void SectionPanel::keyPressEvent(QKeyEvent* pEvent) {
   QWidget* const pInput = focusWidget();
   if (pInput == nullptr || !pEvent->matches(QKeySequence::WhatsThis) ||
@@ -159,7 +159,7 @@ void SectionPanel::keyPressEvent(QKeyEvent* pEvent) {
   }
 }
 
-/// False if there is nothing to tell, which may be since the auction can't be calculated.
+/// False if there is no tooltip, perhaps because the auction can't be calculated.
 bool SectionPanel::ShowTip(QWidget* pInput, const QPoint& oAt) const {
   constexpr int kLongest = 80;  // characters in one line
   const clsCalculate* const pAuction = Auction();

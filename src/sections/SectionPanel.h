@@ -58,8 +58,8 @@ class SectionPanel : public QWidget, public Control {
   [[nodiscard]] Control* Find(std::string_view sName) const;
   [[nodiscard]] const std::vector<Control*>& Controls() const { return m_aoControls; }
 
-  /// False for a control that the fee schedule gives no meaning: it has no row, whatever the user
-  /// wants to see.
+  /// False for a control that means nothing with the fee schedule: it has no row, whatever rows the
+  /// user chose.
   [[nodiscard]] virtual bool IsInUse(const Control& /*oControl*/) const { return true; }
 
   /// How wide the panel is in config mode, in twips.
@@ -113,7 +113,7 @@ class SectionPanel : public QWidget, public Control {
   /// Sets it to the fee schedule's text under a key, or else to the design's.
   void SetRowCaptionBySchedule(Control& oNamed, const KeyText& oKey);
 
-  /// The tooltip of an input; empty if it has none. Asked for when it is to be shown.
+  /// The tooltip of an input; empty if it has none. Called when it is about to be shown.
   [[nodiscard]] virtual std::string TipOf(const Control& /*oInput*/,
                                           const clsCalculate& /*oAuction*/) const {
     return {};

@@ -16,7 +16,7 @@ bool Contains(const std::string& sText, const std::string& sPart) {
   return sText.find(sPart) != std::string::npos;
 }
 
-/// Tells what is in a Frame from what isn't.
+/// False if only one of them is in a Frame.
 bool InContainersOfOneType(const Control& a, const Control& b) {
   return std::string_view(a.Container()->TypeName()) == b.Container()->TypeName();
 }
@@ -147,7 +147,7 @@ void SectionPanel::EnableShowChecks() {
   AlignShowChecks();
 }
 
-/// A box whose row the region lacks is hidden with it, and, being hidden, stays so.
+/// A box whose row the region lacks is hidden with it, and stays hidden.
 void SectionPanel::AlignShowChecks() {
   if (!m_bShowConfig) {
     return;

@@ -16,7 +16,7 @@ class clsControlLocator {
  public:
   clsControlLocator();
 
-  /// Whose stored list counts; loads it.
+  /// The section whose stored list counts; loads the list.
   void SetSection(const std::string& sSectionKey);
 
   /// Starts over as if new, unless AddingComplete is set. Always false.

@@ -54,7 +54,7 @@ constexpr std::array kKinds = std::to_array<OptionCode>({
     {"optBusinessAuction", kAuctionBusiness},
 });
 
-/// The other way to list what a box stands for; empty if it stands for none.
+/// How a click on a box changes the way to list; empty if it doesn't.
 Change ClickOn(std::string_view sBox, bool bTicked) {
   if (sBox == "chkBuyItNow") {
     return bTicked ? ListAsAuction() : ListAtFixedPrice();
@@ -84,7 +84,7 @@ void ctlAuctionType::ApplyAuctionType(clsAuctionType& oAuctionType) {
   ShowTotal(oAuctionType);
 }
 
-/// A listing may be of a kind that isn't on offer: that is chosen and grey.
+/// A listing may be of a kind that isn't on offer: that option is chosen and grey.
 void ctlAuctionType::ShowWhatIsOnOffer() {
   for (const OptionCode& oKind : kKinds) {
     Control& oOption = *Find(oKind.sOption);

@@ -13,8 +13,8 @@ class ctlAuctionType : public SectionPanel {
   explicit ctlAuctionType(QWidget* pParent);
 
   /// Shows a listing, and writes into it from then on. It must outlive the panel, and its fees must
-  /// have been worked out once. An input whose value changes by it writes into the listing at once
-  /// and raises Changed.
+  /// have been worked out once. An input that this changes writes into the listing at once and
+  /// raises Changed.
   void ApplyAuctionType(clsAuctionType& oAuctionType);
 
   /// Shows the fees of a listing, whatever the boxes show.

@@ -27,7 +27,7 @@ class ctlNumericText : public QWidget, public Control {
 
   [[nodiscard]] const char* TypeName() const override { return "ctlNumericText"; }
 
-  // Writing one of these three also shows 0, or the bound nearest to it: they are set first. The
+  // Writing one of these three also shows 0, or the bound nearest to it: so set them first. The
   // program itself reads none of them back.
 
   [[nodiscard]] int DecimalPlaces() const { return m_oNumber.m_nDecimalPlaces; }

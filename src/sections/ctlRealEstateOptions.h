@@ -12,8 +12,8 @@ class ctlRealEstateOptions : public SectionPanel {
  public:
   explicit ctlRealEstateOptions(QWidget* pParent);
 
-  /// Shows a listing, and writes into it from then on. It must outlive the panel. An input whose
-  /// value changes by it writes into the listing at once and raises Changed.
+  /// Shows a listing, and writes into it from then on. It must outlive the panel. An input that
+  /// this changes writes into the listing at once and raises Changed.
   void ApplyAuctionType(clsAuctionType& oAuctionType);
 
  protected:

@@ -135,7 +135,7 @@ ctlSaleFees::ctlSaleFees(QWidget* pParent) : SectionPanel(Design(), pParent) {
   The<ComboBox>("lstCategory").setPlaceholderText("Not in these fees");
 }
 
-/// What has no effect on any fee of the schedule has no row.
+/// An input that affects no fee of the schedule has no row.
 bool ctlSaleFees::IsInUse(const Control& oControl) const {
   const SaleRates* const pRates = Prices().Sale();
   const auto fnIsOf = [&](std::string_view sTag) {
@@ -152,7 +152,7 @@ bool ctlSaleFees::IsInUse(const Control& oControl) const {
                       [&](const ExtraNames& oNames) { return fnIsOf(oNames.sTag); });
 }
 
-/// The box of a row that was of no use comes back with it.
+/// The Show box of a row that is in use again comes back with it.
 void ctlSaleFees::EnableShowChecks() {
   for (Control* const pControl : Controls()) {
     if (IsShowCheck(*pControl)) {
@@ -197,7 +197,7 @@ void ctlSaleFees::ShowInputs(const SaleInputs& oInputs) {
   SetValueOf("chkTaxIsCost", oInputs.bTaxIsCost ? 1 : 0);
 }
 
-/// Of a category that the schedule lacks nothing is chosen.
+/// For a category that the schedule lacks, nothing is chosen.
 void ctlSaleFees::ShowCategory(std::int32_t nCategory) {
   auto& oList = The<ComboBox>("lstCategory");
   oList.setCurrentIndex(nCategory >= 1 && nCategory <= oList.count() ? nCategory - 1 : -1);

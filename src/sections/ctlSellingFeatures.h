@@ -21,10 +21,10 @@ class ctlSellingFeatures : public SectionPanel {
   /// Unticks the car ad, whose box ApplyFeatures leaves alone.
   void UntickCarAd();
 
-  /// Takes the bounds of the picture pack from another fee schedule, which is in use now.
+  /// Takes the bounds of the picture pack from the fee schedule that is in use now.
   void FollowSchedule();
 
-  /// Takes the features whose boxes are unticked out of the model, but for a car ad whose box is
+  /// Removes the features whose boxes are unticked from the model, except a car ad whose box is
   /// open; true if there were any.
   bool DropUnticked();
 
