@@ -149,7 +149,7 @@ std::optional<QString> IniStore::Read(const QString& sKey) {
 }
 
 bool IniStore::Change(const QString& sKey, const std::optional<QString>& sValue) {
-  if (m_asGathered.empty() && !HasLeaveAndRoomFor(sKey, sValue.value_or(QString()))) {
+  if (m_asGathered.empty() && !CanStore(sKey, sValue.value_or(QString()))) {
     return false;
   }
   m_asGathered[sKey] = sValue;
@@ -177,7 +177,7 @@ bool IniStore::Follow() {
 }
 
 /// A trial shows whether the file can be written at its new size.
-bool IniStore::HasLeaveAndRoomFor(const QString& sKey, const QString& sValue) {
+bool IniStore::CanStore(const QString& sKey, const QString& sValue) {
   constexpr qsizetype kLongestEscape = 6;  // bytes that one character may take in the file
   const QFileInfo oFile(m_sFile);
   if (!QDir().mkpath(m_sFolder) || !Follow() || (oFile.exists() && !oFile.isWritable())) {

@@ -36,7 +36,7 @@ class IniStore : public SettingsStore {
   using Changes = std::map<QString, std::optional<QString>>;
 
   [[nodiscard]] bool Follow();
-  [[nodiscard]] bool HasLeaveAndRoomFor(const QString& sKey, const QString& sValue);
+  [[nodiscard]] bool CanStore(const QString& sKey, const QString& sValue);
   void Store(const Changes& asChanges);
 
   QString m_sFolder;

@@ -1,4 +1,4 @@
-// The settings, where the platform keeps such things: the registry on Windows, elsewhere
+// The settings, in the platform's usual place: the registry on Windows, elsewhere
 // velmor/quillet.ini in the user's and in the machine's configuration folder.
 #pragma once
 

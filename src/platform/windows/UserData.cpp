@@ -10,7 +10,7 @@
 namespace quillet {
 namespace {
 
-/// Only trying will tell: permissions come from too many places to be read.
+/// Tries it, since permissions come from too many places to be read.
 bool CanWriteIn(const std::string& sFolder) {
   const std::string sProbe =
       sFolder + "\\quillet-" + std::to_string(::GetCurrentProcessId()) + ".tmp";

@@ -20,7 +20,7 @@ struct NetOutcome {
   std::uint64_t nSize = 0;
 };
 
-/// Of the call that has just ended on this thread, as it says itself.
+/// Of the call that has just ended on this thread, as the system reports it.
 [[nodiscard]] NetOutcome OutcomeOf(bool bDone);
 
 /// Of a call that opens something: a handle that the caller must close, or null.
