@@ -100,8 +100,8 @@ file(GLOB quillet_tunes CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/data/tunes/*.wav
 qt_add_resources(quillet_desktop quillet_tunes PREFIX /
                  BASE ${PROJECT_SOURCE_DIR}/data FILES ${quillet_tunes})
 
-# Settings lie in the registry on Windows, elsewhere in a file. Sound is the system's own on Windows,
-# elsewhere a library that is only made where there is something to make it from.
+# Settings are in the registry on Windows, elsewhere in a file. Sound is the system's own on
+# Windows, elsewhere a library that is built only if Qt Multimedia is there.
 if(WIN32)
   target_sources(quillet_desktop PRIVATE platform/windows/EndSignals.cpp
                                          platform/windows/PlatformSound.cpp

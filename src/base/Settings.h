@@ -25,8 +25,8 @@ inline constexpr Setting kStartMode{HiveRoot::User, "Config", "StartMode", "0"};
 inline constexpr Setting kSnapToGrid{HiveRoot::User, "Config", "SnapToGrid", "120"};
 /// The default auction, in the text of an auction file.
 inline constexpr Setting kDefaultAuction{HiveRoot::User, "Config", "DefaultAuction", ""};
-/// File name of the fee schedule that is chosen; none for the default, and what can't be the name
-/// of one of the region's counts as none.
+/// File name of the chosen fee schedule; empty for the default. A name that the region's schedules
+/// can't have counts as empty.
 inline constexpr Setting kSchedule{HiveRoot::User, "Config", "Schedule", ""};
 /// Last folder used for auctions; the default is made from the user's documents folder.
 inline constexpr Setting kLastFolder{HiveRoot::User, "Config", "LastFolder", ""};

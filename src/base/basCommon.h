@@ -21,17 +21,17 @@ namespace quillet {
 /// there if the copy is missing or older.
 [[nodiscard]] std::string UpdateFileName(bool bNameOnly);
 
-/// The path of that fee schedule where the program came with one of its name.
+/// The path that this fee schedule has, or would have, in the program's folder.
 [[nodiscard]] std::string ShippedUpdateFileName();
 
 /// The bare name of the region's fee schedule that is in use unless another one is chosen.
 [[nodiscard]] std::string DefaultUpdateFileName();
 
-/// Whether a fee schedule of the region may have such a bare name: "UpdateUS_*.dat" for one.
+/// Whether a fee schedule of the region may have this bare name, such as "UpdateUS_*.dat".
 [[nodiscard]] bool IsUpdateFileName(std::string_view sName);
 
-/// Makes the schedule of that bare name the one in use; for any text that can't be one, the
-/// default. Nothing is loaded by it.
+/// Puts the schedule of that bare name in use, or the default if it can't be such a name. Loads
+/// nothing.
 void ChooseUpdateFile(const std::string& sName);
 
 [[nodiscard]] std::int32_t MaxLong(std::int32_t nLeft, std::int32_t nRight);

@@ -82,8 +82,8 @@ void clsSaleFees::Serialize(std::string& sData, bool bSave) {
   });
 }
 
-/// Without today's fees the section stands only where somebody has entered something, so that an
-/// auction of 2007 is written as it always was, and one of today loses nothing meanwhile.
+/// Without today's fees the section is written only if something was entered in it: so an auction
+/// of 2007 is written as it always was, and one of today loses nothing.
 void clsCalculate::SerializeSaleFees(std::string& sData, bool bSave) {
   if (bSave) {
     if (AreFeesOfToday() || !m_oSaleFees.IsFresh()) {

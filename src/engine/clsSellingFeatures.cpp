@@ -154,8 +154,7 @@ const clsAuctionType& clsSellingFeatures::AuctionType() const {
   return *m_oAuctionType;
 }
 
-/// The one that prices are looked up with. Today's prices don't depend on it or the kind of
-/// listing.
+/// The one that prices are looked up with. Today's depend on neither it nor the kind of listing.
 std::int32_t clsSellingFeatures::Duration() const {
   return HasFeesOfToday() ? std::int32_t{kShopNone} : AuctionType().m_eShopDuration;
 }

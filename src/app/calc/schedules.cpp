@@ -13,7 +13,7 @@
 namespace quillet {
 namespace {
 
-/// Of the names, in characters.
+/// The length of the longest name, in characters.
 std::size_t WidestOf(const std::vector<OfferedSchedule>& aoOffered) {
   std::size_t nWidest = 0;
   for (const OfferedSchedule& oOffered : aoOffered) {

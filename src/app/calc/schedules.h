@@ -7,12 +7,12 @@
 
 namespace quillet {
 
-/// Prints one a line: a star for the one that counts without --prices, its name, its file, and what
-/// is wrong with it. Without any it is kUnusable, with a complaint. Throws an OutputFailure.
+/// Prints one a line: a star for the one used without --prices, its name, its file, and what is
+/// wrong with it. If there is none, complains and gives kUnusable. May throw an OutputFailure.
 [[nodiscard]] Status ListSchedules();
 
-/// The file that --prices means by a path, or by the name of a schedule on offer in any case; a
-/// path where a file lies comes first. A Failure that lists the names if there is neither.
+/// The file that --prices names: by its path, or else by the name of a schedule on offer, in any
+/// case. If there is neither, throws a Failure that lists the names.
 [[nodiscard]] std::string ScheduleFileOf(const std::string& sPathOrName);
 
 }  // namespace quillet
