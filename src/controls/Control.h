@@ -1,4 +1,4 @@
-// What a section reads and writes of any control, whatever its toolkit class.
+// What a section reads and writes in any control, whatever its toolkit class.
 #pragma once
 
 #include <QString>

@@ -6,7 +6,7 @@
 
 namespace quillet {
 
-/// What DocumentLifecycle asks of the window that shows the documents.
+/// What DocumentLifecycle needs from the window that shows the documents.
 class DocumentView {
  public:
   virtual ~DocumentView() = default;

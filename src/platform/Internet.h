@@ -1,4 +1,4 @@
-// What the update needs of the Internet: an FTP and an HTTP client behind a few blocking calls.
+// What the update needs from the Internet: an FTP and an HTTP client behind a few blocking calls.
 #pragma once
 
 #include <chrono>

@@ -125,7 +125,7 @@ class SectionPanel : public QWidget, public Control {
   void paintEvent(QPaintEvent* pEvent) override;
   void Placed() override;
 
-  /// UpdateModel has nothing to do: the inputs are being set. The members whose clicks are to come
+  /// UpdateModel has nothing to do: the inputs are being set. The members whose clicks must come
   /// back to their Apply routine leave it alone.
   bool m_bApplying = false;
 

@@ -110,8 +110,8 @@ bool IsRealEstate(const clsAuctionType& oAuctionType) {
   return oAuctionType.m_eAuctionType == kAuctionRealEstate;
 }
 
-// The vehicles and the durations go by the section's visibility list, not by their own; the packing
-// after it has the last word.
+// The vehicles and the durations use the section's visibility list, not their own; the packing
+// after it has the final say.
 constexpr AuctionOptions ctlMotorOptions = {
     Design({"ctlMotorOptions", "Vehicle", "MotorTypes", 2760, 1680, "AuctionType"},
            kVehicleControls),

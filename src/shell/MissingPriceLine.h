@@ -6,7 +6,7 @@
 namespace quillet {
 
 /// One line beside the summary, in the colour of a warning; hidden while nothing is missing. It is
-/// right-aligned, and its tooltip has whatever doesn't fit.
+/// right-aligned, and its tooltip shows what doesn't fit.
 class MissingPriceLine : public Label {
  public:
   explicit MissingPriceLine(QWidget* pParent);

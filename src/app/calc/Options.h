@@ -26,8 +26,8 @@ struct Options {
   std::vector<std::string> asFiles;  ///< never empty if there is something to calculate
 };
 
-/// Reads the command line. If it asks for help or is wrong, prints that, sets `nStatus`, with which
-/// the program then ends, and returns nothing.
+/// Reads the command line. If it asks for help or is wrong, prints that, sets `nStatus` to the
+/// program's exit status, and returns nothing.
 [[nodiscard]] std::optional<Options> ReadOptions(int nArguments, char** asArguments, int& nStatus);
 
 }  // namespace quillet

@@ -15,7 +15,7 @@ void Calculate(std::string& sText, const Options& oOptions, Result& oResult);
 /// The same for the auction in the file that `oResult` names.
 void CalculateFile(const Options& oOptions, Result& oResult);
 
-/// Empties `oResult` but for its name, and sets the error.
+/// Empties `oResult` except its name, and sets the error.
 void SetError(Result& oResult, std::string sError);
 
 }  // namespace quillet
