@@ -1,4 +1,4 @@
-// The section of what kind of listing this is.
+// The section for the kind of listing.
 #pragma once
 
 #include "engine/clsAuctionType.h"

@@ -1,4 +1,4 @@
-// The section of what the item cost, the prices of the listing and how many there are.
+// The section for the item's cost, the prices of the listing and the quantity.
 #pragma once
 
 #include "engine/clsAuctionType.h"

@@ -1,4 +1,4 @@
-// The section of whether and how the buyers pay by PayPal.
+// The section for whether and how the buyers pay by PayPal.
 #pragma once
 
 #include "engine/clsPayPal.h"

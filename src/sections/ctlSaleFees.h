@@ -1,4 +1,4 @@
-// The section of what eBay charges for a sale by today's fees. Its choices are the fee schedule's.
+// The section for today's fees on a sale. Its choices are the fee schedule's.
 #pragma once
 
 #include "engine/clsSaleFees.h"

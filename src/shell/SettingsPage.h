@@ -15,7 +15,7 @@ class SettingsPage : public Frame {
  public:
   explicit SettingsPage(QWidget* pParent);
 
-  /// Shows the stored settings, with nothing to be applied.
+  /// Shows the stored settings, with nothing to apply.
   void ResetSettings();
 
   /// Stores the settings if Apply is on view.

@@ -24,7 +24,7 @@ class frmAbout : public QDialog {
   /// 0 is the page about the product, 1 that of the settings.
   void ShowPage(std::int32_t lPage);
 
-  /// Shows the stored settings, with nothing to be applied.
+  /// Shows the stored settings, with nothing to apply.
   void ResetSettings();
 
  signals:

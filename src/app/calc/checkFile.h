@@ -1,4 +1,4 @@
-// The check of a fee schedule as the command line asks for it.
+// Checks a fee schedule for the command line.
 #pragma once
 
 #include <string>
