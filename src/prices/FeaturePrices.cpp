@@ -30,7 +30,8 @@ void FeatureLists::Read(const PriceTable& oTable) {
 
 const FeaturePrices& FeatureLists::Of(FeatureListing eListing, std::int32_t nShop) const {
   const auto nAt = static_cast<std::size_t>(nShop);
-  return m_aoLists[static_cast<std::size_t>(eListing)][nAt < kDurations ? nAt : std::size_t{kShopNone}];
+  return m_aoLists[static_cast<std::size_t>(eListing)]
+                  [nAt < kDurations ? nAt : std::size_t{kShopNone}];
 }
 
 }  // namespace quillet

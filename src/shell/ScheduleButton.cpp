@@ -54,7 +54,7 @@ QStringList LinesOfToolTip(const OfferedSchedule& oInUse,
     asLines += "As of " + QString::fromStdString(oInUse.oDate.sWords);
   }
   if (const QStringList asNewer = NewerThan(oInUse, aoOffered); !asNewer.empty()) {
-    asLines += "Newer fees are at hand: " + asNewer.join(", ");
+    asLines += "Newer fees are available: " + asNewer.join(", ");
   }
   return asLines;
 }

@@ -101,7 +101,7 @@ void frmMain::MakeShortcuts() {
 void frmMain::Show() {
   Form_Load();
   if (m_oZoom.IsFirstStart()) {
-    FitFirstStart();  // before the window manager gets a size, and again when it is known
+    FitFirstStart();  // before the window manager gets a size; again once the frame's is known
   }
   show();
   Form_Activate();

@@ -250,7 +250,7 @@ class Schedules(Temporary):
         self.assertIn("$2.05", self.calc("--prices", "Böden 2026", camera)[1])
         self.assertEqual(self.calc("--prices", "late", camera),
                          (2, "", "quillet-calc: late: No such file or directory, and no fee schedule has "
-                          'that name; there are "Böden 2026", "Early 2007", "UpdateUS_bad.dat"\n'))
+                          'that name; available are "Böden 2026", "Early 2007", "UpdateUS_bad.dat"\n'))
 
 
 US, UK = "quillet-calc", "quillet-calc-uk"

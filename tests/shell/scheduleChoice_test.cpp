@@ -155,7 +155,7 @@ TEST_F(ChoosingSchedules, AMenuOffersThemByKeyAndADamagedOneChangesNothing) {
   const auto fnTold = [&] { return oButton.accessibleName() + "|" + oButton.toolTip(); };
   EXPECT_THAT(fnTold().toStdString(), StartsWith("Fees: Early 2007|"));
   EXPECT_THAT(fnTold().toStdString(),
-              HasSubstr("As of early 2007\nNewer fees are at hand: Fish &amp; chips<"));
+              HasSubstr("As of early 2007\nNewer fees are available: Fish &amp; chips<"));
 
   QMenu* pMenu = fnOpen();
   QStringList asOffered;

@@ -93,7 +93,7 @@ void Describe(CLI::App& oApp, Options& oOptions, std::string& sFormat) {
   auto* const pCheck =
       oApp.add_option("--check", oOptions.sCheck, "Check a fee schedule and list what is wrong");
   auto* const pSchedules = oApp.add_flag("--schedules", oOptions.bSchedules,
-                                         "List the fee schedules at hand by name and file");
+                                         "List the available fee schedules by name and file");
   auto* const pBreakEven = oApp.add_flag("--break-even", oOptions.bBreakEven,
                                          "Add the lowest price that leaves no loss");
   auto* const pGoal =

@@ -59,7 +59,7 @@ std::string ScheduleFileOf(const std::string& sPathOrName) {
   }
   throw Failure(FailureNumber::FileAccess,
                 sPathOrName + ": No such file or directory, and no fee schedule has that name; " +
-                    (sNames.empty() ? "there is none" : "there are " + sNames));
+                    (sNames.empty() ? "none was found" : "available are " + sNames));
 }
 
 }  // namespace quillet
