@@ -245,8 +245,13 @@ TEST_F(WhatIf, IsCopiedAsTextWithTabs) {
   EXPECT_TRUE(sCopied.contains("\nAs it is: standard auction\t"));
 }
 
-TEST_F(WhatIf, NothingIsCutOffAtAnyZoom) {
-  Load(SampleTexts().front());
+TEST_F(WhatIf, NothingIsCutOffAtAnyZoomAndTodaysFeesHaveAnAdRate) {
+  EXPECT_EQ(Figures().find("ad rate"), std::string::npos);
+  UseScheduleOfToday();
+  m_oMain.Calculator().FollowSchedule();
+  Load("[OUTLAY]50|0|0|100|1|False[OUTLAY]");
+  const char* const sRate = ByRegion("Break-even ad rate 29.7 %", "Break-even ad rate 35.6 %");
+  EXPECT_TRUE(Figures().ends_with(sRate)) << Figures();
   for (const double fZoom : kZooms) {
     m_oMain.SetZoomPercent(static_cast<int>(fZoom * 100));
     for (const int nWidth : {380, 640, 1100}) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "answers/Advertising.h"
 #include "answers/PriceFor.h"
 #include "answers/Trial.h"
 
@@ -33,6 +34,8 @@ Answers AnswersFor(const clsCalculate& oAuction, const Goal& oGoal) {
   oAnswers.fMargin = PercentOf(oAnswers.oBreakdown.fPrice, oAsItIs.m_fProfit);
   oAnswers.nBreakEven = PriceFor(oAuction, {});
   oAnswers.nGoalPrice = PriceFor(oAuction, oGoal);
+  oAnswers.bPaysSaleFees = oAsItIs.m_oAuctionType.HasPaidSaleFees();
+  oAnswers.nHighestAdvertising = HighestAdvertising(oAuction);
   oAnswers.aoCurve = Curve(oAuction, 0, LastOfCurve(oAnswers.fPrice, oAnswers.nBreakEven));
   oAnswers.aoAlternatives = Alternatives(oAuction);
   return oAnswers;

@@ -1,6 +1,7 @@
 // Everything that the what-if window says about an auction.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -22,6 +23,8 @@ struct Answers {
   std::optional<double> fMargin;  ///< percent of what is asked for all items
   std::optional<Cents> nBreakEven;
   std::optional<Cents> nGoalPrice;
+  bool bPaysSaleFees = false;                       ///< today's
+  std::optional<std::int32_t> nHighestAdvertising;  ///< tenths of a percent that still break even
   std::vector<CurvePoint> aoCurve;
   std::vector<Alternative> aoAlternatives;
 };

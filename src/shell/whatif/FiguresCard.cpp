@@ -19,32 +19,32 @@ constexpr int kValueGap = 90;  // to the neighbour
 
 }  // namespace
 
-FiguresCard::FiguresCard(QWidget* pParent)
-    : TitledCard({}, pParent),
-      m_aoFigures({{"Break-even", 1500, {}, {}},
-                   {"You keep", 1500, {}, {}},
-                   {"of what the buyer pays", 2250, {}, {}},
-                   {"Return on cost", 1500, {}, {}},
-                   {"Margin on price", 1500, {}, {}}}) {
+FiguresCard::FiguresCard(QWidget* pParent) : TitledCard({}, pParent) {
   Show({});
 }
 
 void FiguresCard::Show(const Answers& oAnswers) {
+  const std::size_t nBefore = m_aoFigures.size();
   const QColor oPlain = InkColour(Ink::Text);
-  const auto fnSet = [this](std::size_t nFigure, const QString& sValue, const QColor& oColour) {
-    m_aoFigures[nFigure].sValue = sValue;
-    m_aoFigures[nFigure].oColour = oColour;
+  m_aoFigures = {
+      {"Break-even", 1250, oAnswers.nBreakEven ? Money(*oAnswers.nBreakEven) : "no price", oPlain},
+      {"You keep", 1250, Money(oAnswers.fProfit), ColourOfProfit(oAnswers.fProfit)},
+      {"of what the buyer pays", 2000, Money(oAnswers.oBreakdown.fWhole), oPlain},
+      {"Return on cost", 1250, Percent(oAnswers.fReturn), oPlain},
+      {"Margin on price", 1250, Percent(oAnswers.fMargin), oPlain},
   };
-  fnSet(0, oAnswers.nBreakEven ? Money(*oAnswers.nBreakEven) : "no price", oPlain);
-  fnSet(1, Money(oAnswers.fProfit), ColourOfProfit(oAnswers.fProfit));
-  fnSet(2, Money(oAnswers.oBreakdown.fWhole), oPlain);
-  fnSet(3, Percent(oAnswers.fReturn), oPlain);
-  fnSet(4, Percent(oAnswers.fMargin), oPlain);
+  if (oAnswers.bPaysSaleFees) {
+    m_aoFigures.push_back(
+        {"Break-even ad rate", 1500, RateInTenths(oAnswers.nHighestAdvertising), oPlain});
+  }
   QStringList asTold;
   for (const Figure& oFigure : m_aoFigures) {
     asTold += QString("%1 %2").arg(oFigure.sCaption, oFigure.sValue);
   }
   setAccessibleName(asTold.join(", "));
+  if (m_aoFigures.size() != nBefore) {
+    updateGeometry();
+  }
   update();
 }
 

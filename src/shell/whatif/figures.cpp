@@ -28,4 +28,8 @@ QString Percent(const std::optional<double>& fPercent) {
   return fPercent ? QString::number(std::trunc(*fPercent) + 0.0, 'f', 0) + " %" : "–";
 }
 
+QString RateInTenths(const std::optional<std::int32_t>& nTenths) {
+  return nTenths ? QString::fromStdString(FormatNumber(*nTenths / 10.0, "0.0")) + " %" : "none";
+}
+
 }  // namespace quillet

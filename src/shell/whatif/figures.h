@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <cstdint>
 #include <optional>
 
 #include "answers/Price.h"
@@ -21,5 +22,8 @@ namespace quillet {
 
 /// Cut to a whole number, as the summary cuts its own: "171 %"; a dash for none.
 [[nodiscard]] QString Percent(const std::optional<double>& fPercent);
+
+/// "21.3 %" of 213; "none" for none.
+[[nodiscard]] QString RateInTenths(const std::optional<std::int32_t>& nTenths);
 
 }  // namespace quillet
