@@ -124,6 +124,24 @@ TEST_F(Calculator, AViewThatIsShownAgainLooksAsAfterARestartWhicheverRowIsHidden
   }
 }
 
+TEST_F(Calculator, ShowsTheRowsOfItsRegionAlone) {
+  const std::vector<const char*> asUk = {"txtWeight", "optSecondClass", "optParcelService",
+                                         "ctlParcelInsurance", "chkOutlayInclTax"};
+  const std::vector<const char*> asUs = {"chkBorder", "chkCarAd", "optParts", "optShop120Days",
+                                         "optBusinessAuction"};
+  ShowView(false, WorkingAuction());
+  const auto fnOnView = [this](const char* sName) {
+    return ControlOf(*m_pView, sName).Widget().isVisible();
+  };
+  for (const char* const sName : ByRegion(asUk, asUs)) {
+    EXPECT_TRUE(fnOnView(sName)) << sName;
+  }
+  for (const char* const sName : ByRegion(asUs, asUk)) {
+    EXPECT_FALSE(fnOnView(sName)) << sName;
+  }
+  EXPECT_TRUE(fnOnView("ctlPaypalBusinessType")) << "it has no box of its own";
+}
+
 TEST_F(Calculator, EachShowBoxStandsForItsRowAlone) {
   UseScheduleOfToday();  // shows all sections
   ShowView(true, WorkingAuction());

@@ -27,15 +27,15 @@ void FiguresCard::Show(const Answers& oAnswers) {
   const std::size_t nBefore = m_aoFigures.size();
   const QColor oPlain = InkColour(Ink::Text);
   m_aoFigures = {
-      {"Break-even", 1250, oAnswers.nBreakEven ? Money(*oAnswers.nBreakEven) : "no price", oPlain},
-      {"You keep", 1250, Money(oAnswers.fProfit), ColourOfProfit(oAnswers.fProfit)},
-      {"of what the buyer pays", 2000, Money(oAnswers.oBreakdown.fWhole), oPlain},
-      {"Return on cost", 1250, Percent(oAnswers.fReturn), oPlain},
-      {"Margin on price", 1250, Percent(oAnswers.fMargin), oPlain},
+      {"Break-even", 1150, oAnswers.nBreakEven ? Money(*oAnswers.nBreakEven) : "no price", oPlain},
+      {"You keep", 1150, Money(oAnswers.fProfit), ColourOfProfit(oAnswers.fProfit)},
+      {"of what the buyer pays", 1950, Money(oAnswers.oBreakdown.fWhole), oPlain},
+      {"Return on cost", 1350, Percent(oAnswers.fReturn), oPlain},
+      {"Margin on price", 1450, Percent(oAnswers.fMargin), oPlain},
   };
   if (oAnswers.bPaysSaleFees) {
     m_aoFigures.push_back(
-        {"Break-even ad rate", 1500, RateInTenths(oAnswers.nHighestAdvertising), oPlain});
+        {"Break-even ad rate", 1550, RateInTenths(oAnswers.nHighestAdvertising), oPlain});
   }
   QStringList asTold;
   for (const Figure& oFigure : m_aoFigures) {
