@@ -76,13 +76,11 @@ void SectionSet::ShowSums(clsCalculate& oDocument) {
   ctlSellingCostsSection.ApplySellingCosts(oDocument);
 }
 
-/// Sections may write what they still show of another auction. So both auctions are restored, and
+/// Sections may write what they still show of another auction. So this one is restored, and
 /// pushed again, until nothing changes; codes without an option are kept too.
 void SectionSet::BringOnView(clsCalculate& oDocument) {
   constexpr int kMostPushes = 5;
   KeptAuction oKept(oDocument);
-  KeptAuction oBefore(m_oOnView != nullptr ? *m_oOnView : oDocument);
-  m_oOnView = &oDocument;
   if (!oDocument.m_oSellingFeatures.HasFeature(kFeatureCarAd)) {
     ctlSellingFeaturesSection.UntickCarAd();
   }
@@ -92,9 +90,8 @@ void SectionSet::BringOnView(clsCalculate& oDocument) {
       ShowKeptInsurance(oDocument);
       PushModels(oDocument);
     });
-    bUnchanged = oKept.IsUnchanged() && oBefore.IsUnchanged();
+    bUnchanged = oKept.IsUnchanged();
     oKept.PutBack();
-    oBefore.PutBack();
   }
   ctlAuctionTypeSection.ShowTotal(oDocument.m_oAuctionType);
   ShowSums(oDocument);

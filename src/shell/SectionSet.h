@@ -75,7 +75,6 @@ class SectionSet {
   std::function<void()> m_fnShown;
   bool m_bRefreshing = false;
   bool m_bFeesOfToday;                ///< of the latest schedule that was followed
-  clsCalculate* m_oOnView = nullptr;  ///< what the sections were given last
 };
 
 }  // namespace quillet

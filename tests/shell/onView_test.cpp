@@ -95,7 +95,9 @@ TEST_F(OnView, AFeatureThatGoesGreyIsChargedNoLonger) {
       {"chkFeaturePlus chkBold chkScheduledListing chkListIn2Categories chkShopInventory",
        "chkShopInventory", "chkBold"}};
   const std::vector<Row> aoUnitedStates = {
-      {"optMotorAuction chkCarAd chkListingItem optStandardAution", "optMotorAuction", ""}};
+      {"optMotorAuction chkCarAd chkListingItem optStandardAution", "optMotorAuction", ""},
+      {"optMotorAuction chkCarAd", "", "chkCarAd"},
+      {"optMotorAuction", "", ""}};  // loaded after one with a car ad
   SectionSet& oSet = m_oWindow.Calculator().Set();
   const auto fnClick = [&](const std::string& sNames) {
     std::istringstream oNames(sNames);
