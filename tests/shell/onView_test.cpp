@@ -1,4 +1,6 @@
 // Showing an auction changes neither it nor the one that was shown before.
+#include <cstring>
+
 #include <gtest/gtest.h>
 
 #include "base/clsRegistryAccess.h"
@@ -95,9 +97,7 @@ TEST_F(OnView, AFeatureThatGoesGreyIsChargedNoLonger) {
       {"chkFeaturePlus chkBold chkScheduledListing chkListIn2Categories chkShopInventory",
        "chkShopInventory", "chkBold"}};
   const std::vector<Row> aoUnitedStates = {
-      {"optMotorAuction chkCarAd chkListingItem optStandardAution", "optMotorAuction", ""},
-      {"optMotorAuction chkCarAd", "", "chkCarAd"},
-      {"optMotorAuction", "", ""}};  // loaded after one with a car ad
+      {"optMotorAuction chkCarAd chkListingItem optStandardAution", "optMotorAuction", ""}};
   SectionSet& oSet = m_oWindow.Calculator().Set();
   const auto fnClick = [&](const std::string& sNames) {
     std::istringstream oNames(sNames);
@@ -116,6 +116,20 @@ TEST_F(OnView, AFeatureThatGoesGreyIsChargedNoLonger) {
         EXPECT_EQ(m_oMirror.Differences(oSet, WorkingAuction()), "") << sNames;
       }
     }
+  }
+}
+
+TEST_F(OnView, ABoxTickedForOneAuctionIsNotTickedForTheNext) {
+  using Boxes = std::vector<const char*>;
+  const SectionPanel& oFeatures = m_oWindow.Calculator().Set().ctlSellingFeaturesSection;
+  const std::string sMotor =
+      TextOf(DefaultAuction()).replace(0, std::strlen("[TYPE]000"), "[TYPE]001");
+  for (const char* const sBox : ByRegion(Boxes{"chkBold"}, Boxes{"chkBold", "chkCarAd"})) {
+    Load(sMotor);
+    ClickOn(oFeatures, sBox);
+    Load(sMotor);
+    ClickOn(oFeatures, "chkGallery");
+    EXPECT_EQ(ChosenIn(oFeatures), "chkGallery") << "after " << sBox;
   }
 }
 
