@@ -15,13 +15,13 @@ def items(text):
     return [" ".join(point.split()) for point in re.split(r"^- ", text, flags=re.MULTILINE)[1:]]
 
 
-def entry(package, maintainer, version, date, text):
-    day = datetime.datetime.fromisoformat(date).replace(tzinfo=datetime.timezone.utc)
+def entry(package, maintainer, version, date, text, hour):
+    time = datetime.datetime.fromisoformat(date).replace(hour=hour, tzinfo=datetime.timezone.utc)
     points = [textwrap.fill(point, 78, initial_indent="  * ", subsequent_indent="    ",
                             break_long_words=False, break_on_hyphens=False)
               for point in items(text)]
     return "\n".join([f"{package} ({version}) stable; urgency=medium", "", *points, "",
-                      f" -- {maintainer}  {email.utils.format_datetime(day)}", ""])
+                      f" -- {maintainer}  {email.utils.format_datetime(time)}", ""])
 
 
 def main():
@@ -29,9 +29,13 @@ def main():
     sections = re.split(r"^## (.*)$", pathlib.Path(source).read_text(encoding="utf-8"),
                         flags=re.MULTILINE)
     entries = []
-    for heading, text in zip(sections[1::2], sections[2::2]):
+    days = []
+    for heading, text in reversed(list(zip(sections[1::2], sections[2::2]))):
         if dated := re.fullmatch(r"([0-9.]+) - (\d{4}-\d{2}-\d{2})", heading):
-            entries.append(entry(package, maintainer, *dated.groups(), text))
+            version, date = dated.groups()
+            # Of two entries of one day, Debian wants the later one to have a later time.
+            entries.insert(0, entry(package, maintainer, version, date, text, days.count(date)))
+            days.append(date)
     if not entries:
         sys.exit(f"{source} has no entry like '## 1.2.3 - 2001-02-03'")
     pathlib.Path(target).write_bytes(gzip.compress("\n".join(entries).encode(), mtime=0))

@@ -23,7 +23,7 @@ namespace {
 class ByHand : public ::testing::Test {
  protected:
   ByHand() {
-    UseShippedSchedule();
+    WorkingAuction().m_oSaleFees = {};  // and the fee that it gave last
     m_oWindow.resize(1400, 1200);
     m_pView = new ctlCalculator(&m_oWindow);
     m_oWindow.show();

@@ -260,7 +260,6 @@ TEST_F(WhatIf, NothingIsCutOffAtAnyZoomAndTodaysFeesHaveAnAdRate) {
       EXPECT_EQ(ClippedIn(*m_pWindow), "") << nWidth;
     }
   }
-  m_oMain.SetZoomPercent(100);  // other tests expect its font
 }
 
 }  // namespace

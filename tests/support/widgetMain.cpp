@@ -8,6 +8,7 @@
 #include "base/basCommon.h"
 #include "base/clsRegistryAccess.h"
 #include "look/Theme.h"
+#include "look/font.h"
 #include "look/scale.h"
 #include "support/Auctions.h"
 #include "support/MemoryHive.h"
@@ -29,6 +30,7 @@ void FailOnWarning(QtMsgType eType, const QMessageLogContext& /*oContext*/, cons
 class FreshStart : public ::testing::EmptyTestEventListener {
   void OnTestStart(const ::testing::TestInfo& /*oTest*/) override {
     quillet::SetZoom(1.0);
+    QApplication::setFont(quillet::ThemeFont(quillet::kTextPoints));
     m_oHive.Clear();
     quillet::SetRegistryHive(m_oHive);
     quillet::ChooseUpdateFile("");

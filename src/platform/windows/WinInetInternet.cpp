@@ -66,6 +66,9 @@ NetOutcome WinInetInternet::Await(InternetHandle hHandle, std::chrono::milliseco
     }
   }
   NetOutcome oOutcome = oFuture.get();
+  if (pHandle == nullptr) {
+    oOutcome = {ERROR_INTERNET_TIMEOUT};  // whatever the call says of its handle
+  }
   if (oOutcome.nError != 0) {
     m_oLast = oOutcome;
   }
