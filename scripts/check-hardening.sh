@@ -14,7 +14,7 @@ for program in "$@"; do
   dynamic=$(readelf -dW "$program")
   segments=$(readelf -lW "$program")
   symbols=$(nm -D "$program")
-  has "$program" "address of its own choice (PIE)" 'FLAGS_1.* PIE' "$dynamic"
+  has "$program" "position-independent (PIE)" 'FLAGS_1.* PIE' "$dynamic"
   has "$program" "binding at the start (now)" 'FLAGS_1.* NOW' "$dynamic"
   has "$program" "read-only relocations (RELRO)" 'GNU_RELRO' "$segments"
   has "$program" "stack without code" 'GNU_STACK .* RW ' "$segments"

@@ -10,7 +10,7 @@ finish() {
   local got
   got=$(bash -c "$command" 2>&1 </dev/null)
   if [ "$got" != "${expected%$'\n'}" ]; then
-    echo "README.md shows another output of: $command"
+    echo "README.md shows different output for: $command"
     diff <(printf '%s\n' "${expected%$'\n'}") <(printf '%s\n' "$got")
     faults=$((faults + 1))
   fi

@@ -27,7 +27,7 @@ def await_server(name, port):
             if caller.connect_ex(("127.0.0.1", port)) == 0:
                 return
         if time.monotonic() > end:
-            raise RuntimeError(f"{name} doesn't come up")
+            raise RuntimeError(f"{name} doesn't start")
         time.sleep(0.005)
 
 

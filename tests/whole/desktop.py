@@ -20,7 +20,7 @@ def wait_for(what, condition, patience=PATIENCE):
         if answer := condition():
             return answer
         time.sleep(0.05)
-    raise AssertionError(f"waited in vain for {what}")
+    raise AssertionError(f"timed out waiting for {what}")
 
 
 class Screen:
