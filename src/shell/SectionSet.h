@@ -74,7 +74,7 @@ class SectionSet {
   std::function<void(bool)> m_fnChanged;
   std::function<void()> m_fnShown;
   bool m_bRefreshing = false;
-  bool m_bFeesOfToday;                ///< of the latest schedule that was followed
+  bool m_bFeesOfToday;  ///< of the latest schedule that was followed
 };
 
 }  // namespace quillet
