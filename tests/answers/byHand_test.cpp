@@ -189,6 +189,10 @@ TEST_F(ByHand, ATooltipTellsWhatItsClickThenLeaves) {
     }
   }
   EXPECT_GT(nTips, 200);
+  QWidget& oPayPal = ControlOf(oSet.ctlPayPalSection, "chkUsePayPal").Widget();
+  EXPECT_NE(TipOver(oPayPal), "none") << "a sale on eBay doesn't pay it today";
+  UseShippedSchedule();
+  EXPECT_EQ(TipOver(oPayPal), "none");
 }
 
 TEST_F(ByHand, ATooltipNamesWhatWouldGoAndComesByAKeyToo) {
