@@ -63,8 +63,8 @@ class clsAuctionType {
   /// Resets everything but m_bDirty.
   void Clear() { MakeFresh(*this); }
 
-  /// Whether the seller may choose a kind of listing, or a vehicle of eMotorType: always with the
-  /// fees of 2007; with today's, not if its price is missing or below 0.
+  /// Whether the seller may choose a kind of listing, or a vehicle of eMotorType. With today's fees
+  /// vehicles and real estate aren't on offer if their price is missing or below 0.
   [[nodiscard]] static bool IsOnOffer(std::int32_t eAuctionType);
   [[nodiscard]] static bool IsVehicleOnOffer(std::int32_t eMotorType);
 
