@@ -118,7 +118,8 @@ def main():
     runs = int(sys.argv[2]) if len(sys.argv) > 2 else 7
     read, write = os.pipe()
     with tempfile.TemporaryDirectory(prefix="quillet-bench-") as home, subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", "1920x1080x24", "-nolisten", "tcp"],
+            ["Xvfb", "-noreset", "-displayfd", str(write), "-screen", "0", "1920x1080x24",
+             "-nolisten", "tcp"],
             pass_fds=[write], stderr=subprocess.DEVNULL) as server:
         os.close(write)
         with os.fdopen(read) as pipe:

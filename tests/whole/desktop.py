@@ -32,9 +32,10 @@ class Screen:
         self.home = pathlib.Path(tempfile.mkdtemp(prefix="quillet-home-"))
         (self.home / "Documents").mkdir()
         read, write = os.pipe()
+        # A server that resets when its last client leaves throws out whoever is just connecting.
         self.server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{size}x24", "-nolisten", "tcp"],
-            pass_fds=[write], stderr=subprocess.DEVNULL)
+            ["Xvfb", "-noreset", "-displayfd", str(write), "-screen", "0", f"{size}x24",
+             "-nolisten", "tcp"], pass_fds=[write], stderr=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as pipe:
             display = ":" + pipe.readline().strip()
