@@ -7,12 +7,13 @@ same_figures_on_windows() {
     <(build/release/bin/quillet-calc data/samples/{[!u],u[!k]}*.qlt)
 }
 
-say "Core for Windows, under Wine"
-build windows-core core_tests_us core_tests_uk quillet-calc
-trap stop_wine EXIT
-step "starting Wine" start_wine
-for region in us uk; do
-  tests "core on Windows, $region" wine "build/windows-core/bin/core_tests_$region.exe"
-done
-check "same figures on Windows" same_figures_on_windows
-stop_wine
+core_on_windows() {
+  local region
+  say "Core for Windows, under Wine"
+  trap stop_wine EXIT
+  step "starting Wine" start_wine
+  for region in us uk; do
+    tests "core on Windows, $region" wine "build/windows-core/bin/core_tests_$region.exe"
+  done
+  check "same figures on Windows" same_figures_on_windows
+}

@@ -11,7 +11,7 @@
 namespace quillet {
 namespace {
 
-struct Tier {
+struct WrittenTier {
   std::int32_t nNumber = 0;
   const ScheduleEntry* pStart = nullptr;
   const ScheduleEntry* pEnd = nullptr;
@@ -88,7 +88,7 @@ class TierCheck {
   }
 
   void ReadTier(std::int32_t nTier, const ScheduleEntry& oCount) {
-    Tier oTier{.nNumber = nTier};
+    WrittenTier oTier{.nNumber = nTier};
     const std::string sNumber = std::to_string(nTier);
     const std::string sStart = m_oTable.sName + "RangeStart" + sNumber;
     const std::string sEnd = m_oTable.sName + "RangeEnd" + sNumber;
@@ -142,7 +142,7 @@ class TierCheck {
   }
 
   /// What is wrong with a tier by itself and after the one before it.
-  void CheckTier(const Tier& oTier) {
+  void CheckTier(const WrittenTier& oTier) {
     if (!oTier.IsEndless() && oTier.fEnd < oTier.fStart) {
       Report(oTier.pEnd->nLine, oTier.Name() + " ends at " + oTier.pEnd->sValue +
                                     ", before it starts at " + oTier.pStart->sValue);
@@ -152,7 +152,7 @@ class TierCheck {
     m_aoTiers.push_back(oTier);
   }
 
-  void CheckSeam(const Tier& oBefore, const Tier& oTier) {
+  void CheckSeam(const WrittenTier& oBefore, const WrittenTier& oTier) {
     const std::size_t nLine = oTier.pStart->nLine;
     const std::string sBetween = oBefore.Name() + " to " + oBefore.pEnd->sValue + " and " +
                                  oTier.Name() + " from " + oTier.pStart->sValue;
@@ -217,14 +217,14 @@ class TierCheck {
   }
 
   [[nodiscard]] bool IsInATier(double fValue) const {
-    return std::any_of(m_aoTiers.begin(), m_aoTiers.end(), [fValue](const Tier& oTier) {
+    return std::any_of(m_aoTiers.begin(), m_aoTiers.end(), [fValue](const WrittenTier& oTier) {
       return fValue >= oTier.fStart && (oTier.IsEndless() || fValue <= oTier.fEnd);
     });
   }
 
   Schedule& m_oSchedule;
   const CatalogueKey& m_oTable;
-  std::vector<Tier> m_aoTiers;
+  std::vector<WrittenTier> m_aoTiers;
   std::int32_t m_nFirstMissing = 0;
 };
 

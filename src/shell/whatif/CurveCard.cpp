@@ -150,7 +150,8 @@ void CurveCard::PaintPrices(QPainter& oPainter, const CurveScale& oScale) const 
   const int nMost = std::clamp(static_cast<int>(fPlot / fWidth), 1, kMostSteps);
   const double fStep = RoundStep(fLast, nMost);
   const double fTop = oScale.At(0, oScale.LowestProfit()).y() + Pixels(kDot);
-  for (double fPrice = fStep; fPrice <= fLast; fPrice += fStep) {
+  for (int nLabel = 1; nLabel * fStep <= fLast; ++nLabel) {
+    const double fPrice = nLabel * fStep;
     const double fX = oScale.At(fPrice * 100, 0).x();
     const QRectF oPlace(fX - fWidth / 2, fTop, fWidth, Pixels(kLabelLine));
     if (oPlace.right() - fWidth / 4 < width()) {
