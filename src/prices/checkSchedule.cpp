@@ -67,7 +67,7 @@ void ReportUnasked(Schedule& oSchedule, const Catalogue& oCatalogue) {
     if (!oEntry.bAsked) {
       const std::string_view sTrimmed = Trim(oEntry.sKey);
       const bool bBlanks = sTrimmed != oEntry.sKey && oCatalogue.Holds(sTrimmed);
-      oSchedule.Report(oEntry.nLine, EditionName() + " never asks for " + Quoted(oEntry.sKey) +
+      oSchedule.Report(oEntry.nLine, EditionName() + " has no use for " + Quoted(oEntry.sKey) +
                                          (bBlanks ? "; its blanks are part of the key" : ""));
     }
   }

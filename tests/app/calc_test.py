@@ -271,9 +271,9 @@ FINDINGS = (
     (US, [("LocalTax,0", "LocalTax,0\n" + "x" * 32767)],
      ["#2: the line is longer than 32766 characters; loading stops here"]),
     (US, [("LocalTax,0", "LocalTax,0\n# as of 2007, by hand")],
-     ['#2: Quillet US never asks for "# as of 2007"']),
+     ['#2: Quillet US has no use for "# as of 2007"']),
     (US, [("LocalTax,0", "LocalTax ,0")],
-     ['@LocalTax: Quillet US never asks for "LocalTax "; its blanks are part of the key',
+     ['@LocalTax: Quillet US has no use for "LocalTax "; its blanks are part of the key',
       '$: "LocalTax" is missing']),
     (US, [("ReserveMax,100.00", "ReserveMax,$100")],
      ['@ReserveMax: "ReserveMax" isn\'t a number: "$100"']),
@@ -324,16 +324,16 @@ FINDINGS_TODAY = (
     (US, [("CategoryCount,12", "CategoryCount,13")],
      ['$: "Category13Name" is missing', '$: "Category13Tiers" is missing']),
     (US, [("CategoryCount,12", "CategoryCount,11")],
-     ['@Category12Name: Quillet US never asks for "Category12Name"',
-      '@Category12Tiers: Quillet US never asks for "Category12Tiers"', *(
-          f'@{shop}FinalParts{word}: Quillet US never asks for "{shop}FinalParts{word}"'
+     ['@Category12Name: Quillet US has no use for "Category12Name"',
+      '@Category12Tiers: Quillet US has no use for "Category12Tiers"', *(
+          f'@{shop}FinalParts{word}: Quillet US has no use for "{shop}FinalParts{word}"'
           for shop in ("", "Shop") for word in ("Ranges", *(
               f"Range{part}{tier}" for tier in (1, 2) for part in ("Start", "End", "Value"))))]),
     (US, [("Category2Name,Books films and music", "Category2Name,Books, films and music")],
      ["@Category2Name: the line is ignored: it has 3 fields, not a key and a value",
       '$: "Category2Name" is missing']),
     (UK, [("Category17Tiers,FinalTrainers", "Category17Tiers,FinalTrainer")],
-     [*(f'@FinalTrainers{word}: Quillet UK never asks for "FinalTrainers{word}"'
+     [*(f'@FinalTrainers{word}: Quillet UK has no use for "FinalTrainers{word}"'
         for word in ("Ranges", *(f"Range{part}{tier}" for tier in (1, 2)
                                  for part in ("Start", "End", "Value")))),
       '$: "FinalTrainerRanges" is missing']),
@@ -349,7 +349,7 @@ FINDINGS_TODAY = (
       '@Category10FreeFrom: "Category10FreeFrom" isn\'t a number: "$150"',
       '$: "FeeTaxName" is missing', '$: "ExtraPercent3Name" is missing']),
     (US, [("FeatureBold,2.00", "FeatureBold30,2.00")],
-     ['@FeatureBold30: Quillet US never asks for "FeatureBold30"',
+     ['@FeatureBold30: Quillet US has no use for "FeatureBold30"',
       '$: "FeatureBold" is missing']),
 )
 
