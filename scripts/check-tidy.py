@@ -3,8 +3,9 @@
 precompiled headers, whose compile commands it needs: clang can't read another compiler's.
 
 Most of its time goes into the headers of the toolkit and the standard library, which every check
-walks again for each file. So files are read in units of several; two that use the same name in their
-unnamed namespaces can't share one. What a unit finds isn't told: its files are then run one by one.
+walks again for each file. So files are read in units of several, except those that use the same name
+in their unnamed namespaces. The files of a unit with a finding are then run one by one, and only what
+that finds is told.
 """
 
 import json
@@ -19,7 +20,8 @@ from concurrent.futures import ThreadPoolExecutor
 
 UNIT = 45_000  # characters; a longer file is a unit by itself
 UNNAMED = re.compile(r"^namespace \{\n(.*?)^\}  // namespace$", re.MULTILINE | re.DOTALL)
-NAME = re.compile(r"\bk[A-Z]\w*|^(?:struct|class|enum|enum class|using) (\w+)|[ &*](\w+)\(", re.MULTILINE)
+NAME = re.compile(r"\bk[A-Z]\w*|^(?:struct|class|enum|enum class|using) (\w+)|[ &*](\w+)\(",
+                  re.MULTILINE)
 FLAG = re.compile(r"-isystem \S+|\S+")
 NOT_FOR_UNITS = "-bugprone-suspicious-include"
 
@@ -35,13 +37,14 @@ def units(files):
     made = []
     for file in sorted(files, key=os.path.getsize, reverse=True):
         text = file.read_text(encoding="utf-8")
+        used = names(text)
         for unit in made:
-            if unit["size"] + len(text) <= UNIT and not unit["names"] & names(text):
+            if unit["size"] + len(text) <= UNIT and not unit["names"] & used:
                 break
         else:
             made.append(unit := {"files": [], "names": set(), "size": 0})
         unit["files"].append(file)
-        unit["names"] |= names(text)
+        unit["names"] |= used
         unit["size"] += len(text)
     return [unit["files"] for unit in made]
 
@@ -71,18 +74,20 @@ class Tidy:
     def findings(self, number, files):
         if self.clean(number, files):
             return ""
-        runs = [tidy("-p", str(self.build), str(file)) for file in files]
-        return "".join(run.stdout for run in runs if run.returncode)
+        runs = [(file, tidy("-p", str(self.build), str(file))) for file in files]
+        return "".join(run.stdout or f"{file}: clang-tidy ended with {run.returncode}\n"
+                       for file, run in runs if run.returncode)
 
 
 def main():
+    build = pathlib.Path(sys.argv[1])
     sources = subprocess.run(["git", "ls-files", "src/*.cpp", ":!src/platform/windows/*"],
                              capture_output=True, text=True, check=True).stdout.split()
     files = units([pathlib.Path(source).resolve() for source in sources])
-    with tempfile.TemporaryDirectory(dir=sys.argv[1]) as folder, ThreadPoolExecutor(os.cpu_count()) as threads:
-        runner = Tidy(pathlib.Path(sys.argv[1]), folder)
-        found = "".join(threads.map(runner.findings, range(len(files)), files))
-    sys.exit(found)
+    with tempfile.TemporaryDirectory(dir=build) as folder, ThreadPoolExecutor(os.cpu_count()) as threads:
+        found = "".join(threads.map(Tidy(build, folder).findings, range(len(files)), files))
+    print(found, end="")
+    sys.exit(found != "")
 
 
 if __name__ == "__main__":
