@@ -84,7 +84,8 @@ def main():
     sources = subprocess.run(["git", "ls-files", "src/*.cpp", ":!src/platform/windows/*"],
                              capture_output=True, text=True, check=True).stdout.split()
     files = units([pathlib.Path(source).resolve() for source in sources])
-    with tempfile.TemporaryDirectory(dir=build) as folder, ThreadPoolExecutor(os.cpu_count()) as threads:
+    with (tempfile.TemporaryDirectory(dir=build) as folder,
+          ThreadPoolExecutor(os.cpu_count()) as threads):
         found = "".join(threads.map(Tidy(build, folder).findings, range(len(files)), files))
     print(found, end="")
     sys.exit(found != "")
