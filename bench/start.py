@@ -21,6 +21,9 @@ import time
 from Xlib import X, display, protocol
 from Xlib.ext import xtest
 
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "tests/whole"))
+from desktop import start_x_server  # noqa: E402
+
 LIMIT = 30  # seconds for one start
 SMALLEST = 100  # pixels; anything smaller isn't a program's window
 
@@ -116,14 +119,8 @@ def measure(quillet, runs, environment):
 def main():
     quillet = str(pathlib.Path(sys.argv[1]).resolve() / "quillet")
     runs = int(sys.argv[2]) if len(sys.argv) > 2 else 7
-    read, write = os.pipe()
-    with tempfile.TemporaryDirectory(prefix="quillet-bench-") as home, subprocess.Popen(
-            ["Xvfb", "-noreset", "-displayfd", str(write), "-screen", "0", "1920x1080x24",
-             "-nolisten", "tcp"],
-            pass_fds=[write], stderr=subprocess.DEVNULL) as server:
-        os.close(write)
-        with os.fdopen(read) as pipe:
-            name = ":" + pipe.readline().strip()
+    server, name = start_x_server()
+    with tempfile.TemporaryDirectory(prefix="quillet-bench-") as home, server:
         environment = {**{k: v for k, v in os.environ.items() if not k.startswith(("QT_", "XDG_"))},
                        "DISPLAY": name, "HOME": home, "XDG_RUNTIME_DIR": home, "LANG": "C.UTF-8",
                        "QT_QPA_PLATFORM": "xcb"}

@@ -23,22 +23,27 @@ def wait_for(what, condition, patience=PATIENCE):
     raise AssertionError(f"timed out waiting for {what}")
 
 
-class Screen:
-    """Xvfb on a free display number, with openbox and its own home folder. A failure while it is
-    open leaves a picture."""
+def start_x_server():
+    """Starts Xvfb on a free display number; returns its process and the display's name."""
+    read, write = os.pipe()
+    # A server that resets when its last client leaves throws out whoever is just connecting.
+    server = subprocess.Popen(
+        ["Xvfb", "-noreset", "-displayfd", str(write), "-screen", "0", "1920x1080x24",
+         "-nolisten", "tcp"], pass_fds=[write], stderr=subprocess.DEVNULL)
+    os.close(write)
+    with os.fdopen(read) as pipe:
+        return server, ":" + pipe.readline().strip()
 
-    def __init__(self, name="screen", size="1920x1080"):
+
+class Screen:
+    """An X server with openbox and its own home folder. A failure while it is open leaves a
+    picture."""
+
+    def __init__(self, name="screen"):
         self.name = name
         self.home = pathlib.Path(tempfile.mkdtemp(prefix="quillet-home-"))
         (self.home / "Documents").mkdir()
-        read, write = os.pipe()
-        # A server that resets when its last client leaves throws out whoever is just connecting.
-        self.server = subprocess.Popen(
-            ["Xvfb", "-noreset", "-displayfd", str(write), "-screen", "0", f"{size}x24",
-             "-nolisten", "tcp"], pass_fds=[write], stderr=subprocess.DEVNULL)
-        os.close(write)
-        with os.fdopen(read) as pipe:
-            display = ":" + pipe.readline().strip()
+        self.server, display = start_x_server()
         self.environment = {
             **{k: v for k, v in os.environ.items() if not k.startswith(("QT_", "XDG_", "LC_"))},
             "DISPLAY": display, "HOME": str(self.home), "XDG_RUNTIME_DIR": str(self.home),
